@@ -1,0 +1,61 @@
+// MapView.h - the one view of the map: where it looks and how positions become pixels.
+#pragma once
+
+#include <cstdint>
+
+#include "model/Geodesy.h"
+#include "model/Geometry.h"
+
+namespace map {
+
+using model::LatLon;
+using model::Pixel;
+
+constexpr double kInitialSpan = 3704.3518;  // two nautical miles
+
+struct MapView {
+    LatLon centre, home;         // radians, west-positive; home is the airport reference point
+    double span = kInitialSpan;  // metres of ground across the height of the client area
+    double pixelsPerMetre = 0;   // clientHeight / span, computed whenever the client area is measured
+    double rotation = 0;         // radians, [0, 2 pi); 0 is north up
+    int32_t clientWidth = 0, clientHeight = 0;
+    double screenCentreX = 0, screenCentreY = 0;  // client size halved with integer division
+    Pixel lastDragPoint;
+    bool lockedToSim = false;  // panning and rotation are refused, zoom still works
+    int16_t wheel = 0;         // wheel deltas not yet consumed
+};
+
+extern MapView view;
+
+// Which layers are drawn. Parking labels and the grid are settings (app/Settings.h).
+struct MapLayers {
+    bool network = true;  // nodes, links, parking
+    bool lights = false;  // and the night palette
+    bool starts = false;
+    bool navaids = false;
+    bool holdShortLimits = false;
+};
+
+extern MapLayers layers;
+
+void ResizeView(int32_t width, int32_t height);  // measures the client area
+model::Point WorldToScreen(LatLon position);
+LatLon ScreenToWorld(model::Point pixel);
+Pixel WorldToPixel(LatLon position);  // truncated toward zero
+
+enum class PanDirection { Down = 1, Up = 2, Right = 3, Left = 4 };
+enum class RotateDirection { Subtract = 1, Add = 2 };
+
+void ZoomIn();
+void ZoomOut();
+void ZoomSteps(int notches);  // positive zooms in; 0 only repaints
+void Rotate(RotateDirection direction, bool fine);
+void RotateSteps(int notches, bool fine);
+void PanStep(PanDirection direction);
+void PanDragStart(Pixel at);
+void PanDrag(Pixel at);
+void SlewHome();                                 // also places the simulator aircraft, when the link is up
+void ResetView(LatLon home);                     // on loading an airport
+void OnWheel(int delta, bool ctrl, bool shift);  // raw wheel delta; accumulates to notches of 120
+
+}  // namespace map

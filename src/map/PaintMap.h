@@ -1,0 +1,18 @@
+// PaintMap.h - paints the open airport as a chart.
+//
+// Each paint walks the object list once a layer, culls what lies outside the clip rectangle before any
+// drawing call, and stores every object's screen place in its header for the hit tests.
+#pragma once
+
+#include "platform/Canvas.h"
+
+namespace map {
+
+// Draws the whole map of view.clientWidth x view.clientHeight pixels. The canvas is the off-screen
+// surface of the window, a picture file or a test's log.
+void PaintMap(platform::Canvas* canvas);
+
+// Draws what belongs on the window itself after the copy: the feedback of the active mouse tool.
+void PaintFeedback(platform::Canvas* canvas);
+
+}  // namespace map

@@ -1,0 +1,30 @@
+// Selection.h - which object lies under a pixel, and the selection.
+//
+// Works on the screen places that the last paint stored, so that picking matches what the user sees;
+// objects of hidden layers cannot be picked.
+#pragma once
+
+#include "model/Geometry.h"
+#include "model/SceneryObject.h"
+
+namespace map {
+
+struct Pick {
+    model::SceneryObject* object = nullptr;
+    int part = 0;  // apron vertex + 1, ILS part bit, light-strip part; 0 the whole object
+};
+
+Pick PickObject(model::Pixel at);
+
+// The pointer tool's click. Without `extend` (Shift or Ctrl held) everything else is deselected first.
+void SelectAt(model::Pixel at, bool extend);
+
+bool DeselectAll();  // whether anything was selected
+void SelectAll();
+
+// Within 3 pixels of the segment, measured across its major axis; the end `to` lies outside the span.
+bool HitsSegment(model::Pixel at, model::Pixel from, model::Pixel to);
+// Boundary included.
+bool HitsCircle(model::Pixel at, model::Pixel centre, int32_t radius);
+
+}  // namespace map

@@ -1,0 +1,93 @@
+// Geodesy.cpp - see Geodesy.h. The flat frame is good for the few miles of an airport; what matters is
+// that both directions use the same formulas.
+#include "model/Geodesy.h"
+
+#include <cmath>
+
+namespace model {
+
+namespace {
+
+constexpr double kLatUnitsPerQuarter = 268435456.0;  // 2^28 from pole to equator
+constexpr double kLonUnitsPerHalf = 402653184.0;     // 3 x 2^27 in half a turn
+constexpr double kPoleCosine = 1e-6;
+
+double ClampedAcos(double cosine) {
+    if (cosine > 1) return 0;
+    if (cosine < -1) return kPi;
+    const double angle = std::acos(cosine);
+    return std::isnan(angle) ? 0 : angle;
+}
+
+double Square(double x) { return x * x; }
+
+}  // namespace
+
+Local LatLonToLocal(LatLon origin, LatLon point) {
+    double dLon = point.lon - origin.lon;
+    if (dLon > kPi)
+        dLon -= kTwoPi;
+    else if (dLon < -kPi)
+        dLon += kTwoPi;
+    Local offset;
+    offset.north = (point.lat - origin.lat) * kNorthSouthRadius;
+    if (dLon == 0) return offset;  // acos would give up to 0.13 m here
+    const double cosine = Square(std::sin(point.lat)) + Square(std::cos(point.lat)) * std::cos(dLon);
+    offset.east = ClampedAcos(cosine) * kEastWestRadius;
+    if (dLon > 0) offset.east = -offset.east;  // west of the origin
+    return offset;
+}
+
+LatLon LocalToLatLon(LatLon origin, Local offset) {
+    LatLon point;
+    point.lat = origin.lat + offset.north / kNorthSouthRadius;
+    const double angle = std::fabs(offset.east) / kEastWestRadius;
+    const double cosLat = std::cos(point.lat);
+    double change = 0;
+    if (cosLat >= kPoleCosine) {
+        change = ClampedAcos((std::cos(angle) - Square(std::sin(point.lat))) / Square(cosLat));
+    }
+    point.lon = offset.east >= 0 ? origin.lon - change : origin.lon + change;
+    return point;
+}
+
+Polar LocalToPolar(Local offset) {
+    Polar polar;
+    polar.range = std::sqrt(Square(offset.east) + Square(offset.north));
+    if (offset.north == 0) {
+        if (offset.east < 0)
+            polar.bearing = 4.71238898038469;
+        else if (offset.east > 0)
+            polar.bearing = 1.5707963267948966;
+        return polar;
+    }
+    polar.bearing = std::atan(offset.east / offset.north);
+    if (offset.north < 0)
+        polar.bearing += kPi;
+    else if (polar.bearing < 0)
+        polar.bearing += kTwoPi;
+    if (polar.bearing >= kTwoPi) polar.bearing = 0;  // a hair west of north
+    return polar;
+}
+
+Local PolarToLocal(Polar polar) {
+    return { polar.range * std::sin(polar.bearing), polar.range * std::cos(polar.bearing) };
+}
+
+double DistanceBetween(LatLon from, LatLon to) { return RangeAndBearing(from, to).range; }
+
+Polar RangeAndBearing(LatLon from, LatLon to) { return LocalToPolar(LatLonToLocal(from, to)); }
+
+LatLon OffsetByPolar(LatLon origin, Polar polar) { return LocalToLatLon(origin, PolarToLocal(polar)); }
+
+LatLon BglToLatLon(BglPoint code) {
+    return { kPi / 2 - code.latCode / kLatUnitsPerQuarter * (kPi / 2), kPi - code.lonCode * kPi / kLonUnitsPerHalf };
+}
+
+BglPoint LatLonToBgl(LatLon position) {
+    const double lat = (kPi / 2 - position.lat) * (2 / kPi) * kLatUnitsPerQuarter;
+    const double lon = (kPi - position.lon) * (1 / kPi) * kLonUnitsPerHalf;
+    return { static_cast<uint32_t>(static_cast<int64_t>(lat)), static_cast<uint32_t>(static_cast<int64_t>(lon)) };
+}
+
+}  // namespace model

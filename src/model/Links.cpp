@@ -1,0 +1,97 @@
+// Links.cpp - see Links.h.
+#include "model/Links.h"
+
+#include <cstdint>
+#include <unordered_map>
+#include <vector>
+
+#include "model/ObjectList.h"
+
+namespace model {
+
+namespace {
+
+constexpr uint16_t kIndexMask = 0x0FFF;
+constexpr int kDesignatorShift = 12;
+constexpr uint32_t kIndexByteMask = 0x0000FF00;
+constexpr int kIndexByteShift = 8;
+
+std::vector<SceneryObject*> AllOfKind(uint32_t kind) {
+    std::vector<SceneryObject*> objects;
+    for (SceneryObject* o = FirstOfKind(state.head, kind); o; o = NextOfKind(o, kind)) objects.push_back(o);
+    return objects;
+}
+
+SceneryObject* At(const std::vector<SceneryObject*>& objects, uint32_t index) {
+    return index < objects.size() ? objects[index] : nullptr;
+}
+
+SceneryObject* RunwayNamed(const std::vector<SceneryObject*>& runways, uint32_t number, uint32_t designator) {
+    for (SceneryObject* runway : runways) {
+        const RunwayRecord& body = PayloadAs<RunwayPayload>(runway).body;
+        if (body.primaryNumber == number && body.primaryDesignator == designator) return runway;
+    }
+    return nullptr;
+}
+
+using IndexMap = std::unordered_map<const SceneryObject*, uint32_t>;
+
+IndexMap IndicesOf(uint32_t kind) {
+    IndexMap indices;
+    for (SceneryObject* o = FirstOfKind(state.head, kind); o; o = NextOfKind(o, kind)) {
+        indices.emplace(o, static_cast<uint32_t>(indices.size()));
+    }
+    return indices;
+}
+
+uint32_t IndexIn(const IndexMap& indices, const SceneryObject* object) {
+    const auto found = indices.find(object);
+    return found == indices.end() ? 0 : found->second;
+}
+
+}  // namespace
+
+void ResolveLinks() {
+    const auto nodes = AllOfKind(kTaxiNode), spots = AllOfKind(kParkingSpot);
+    const auto designators = AllOfKind(kTaxiDesignator), runways = AllOfKind(kRunway);
+    for (SceneryObject* object : AllOfKind(kTaxiLink)) {
+        auto& link = PayloadAs<TaxiLinkPayload>(object);
+        const uint32_t type = LinkTypeOf(link);
+        link.start = At(nodes, link.startIndex);
+        link.end = At(type == kParkingLink ? spots : nodes, link.endField & kIndexMask);
+        link.designator = type == kRunwayLink
+                              ? RunwayNamed(runways, LinkIndexByte(link), link.endField >> kDesignatorShift)
+                              : At(designators, LinkIndexByte(link));
+        if (link.start && link.end) continue;
+        UnlinkObject(object);
+        FreeObject(object);
+    }
+}
+
+void UpdateLinkIndices() {
+    const IndexMap nodes = IndicesOf(kTaxiNode), spots = IndicesOf(kParkingSpot);
+    const IndexMap designators = IndicesOf(kTaxiDesignator), runways = IndicesOf(kRunway);
+    for (SceneryObject* o = FirstOfKind(state.head, kTaxiLink); o; o = NextOfKind(o, kTaxiLink)) {
+        auto& link = PayloadAs<TaxiLinkPayload>(o);
+        const uint32_t type = LinkTypeOf(link);
+        uint32_t endField = link.endField & ~uint32_t{ kIndexMask };
+        endField |= IndexIn(type == kParkingLink ? spots : nodes, link.end) & kIndexMask;
+        uint32_t indexByte = 0;
+        if (type != kRunwayLink) {
+            indexByte = IndexIn(designators, link.designator);
+        } else {
+            uint32_t designator = 0;
+            if (runways.contains(link.designator)) {
+                const RunwayRecord& runway = PayloadAs<RunwayPayload>(link.designator).body;
+                indexByte = runway.primaryNumber;
+                designator = runway.primaryDesignator & 0xF;
+            }
+            endField = (endField & kIndexMask) | designator << kDesignatorShift;
+        }
+        link.startIndex = static_cast<uint16_t>(IndexIn(nodes, link.start));
+        link.endField = static_cast<uint16_t>(endField);
+        link.flagsWord = (link.flagsWord & ~kIndexByteMask) | ((indexByte & 0xFF) << kIndexByteShift);
+    }
+}
+
+}  // namespace model

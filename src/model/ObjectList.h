@@ -1,0 +1,51 @@
+// ObjectList.h - the one open airport: its list of objects and the state that goes with it.
+//
+// The order of the list is the order of output in a written file and the numbering of nodes, spots and
+// designators. Every change of an open airport goes through EditHistory.h; the functions here are for
+// the reader and for the history itself.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "model/Records.h"
+#include "model/SceneryObject.h"
+
+namespace model {
+
+struct ModelState {
+    SceneryObject* head = nullptr;
+    SceneryObject* tail = nullptr;
+    SceneryObject* airport = nullptr;         // the object of kind 1; one while an airport is open
+    char airportName[kAirportNameSize] = {};  // Windows-1252, zero padded, not always terminated
+    std::string country, state, city;         // Windows-1252, as the file's name list gives them
+    std::string icao;                         // the airport's identifier as text, "" when there is none
+    uint32_t regionIdent = 0;
+    SceneryObject* undoHead = nullptr;  // newest first
+    SceneryObject* redoHead = nullptr;
+    bool groupStart = false;  // the next recorded edit opens a user action
+    bool modified = false;
+    bool loaded = false;  // an airport is open
+    bool busy = false;    // a mouse drag is in progress
+};
+
+extern ModelState state;
+
+void AppendObject(SceneryObject* object);
+
+// Takes the object out of the list. Its own next and prev stay: the history relies on them.
+void UnlinkObject(SceneryObject* object);
+
+// Frees every object of the list and of both history chains and returns the state to its start.
+void ClearModel();
+
+// The airport's name without its padding, Windows-1252.
+std::string AirportName();
+void SetAirportName(const std::string& windows1252);  // cut to 48 characters
+
+// First object of the kind at or after `from`; null when there is none.
+SceneryObject* FirstOfKind(SceneryObject* from, uint32_t kind);
+SceneryObject* NextOfKind(SceneryObject* object, uint32_t kind);
+uint32_t CountKind(uint32_t kind);
+
+}  // namespace model

@@ -1,0 +1,19 @@
+// Positions.h - where an object stands, whatever its kind.
+#pragma once
+
+#include "model/Geodesy.h"
+#include "model/SceneryObject.h"
+
+namespace model {
+
+// Airport, tower, runway (centre), helipad, start location, node, spot, reference marker, navaid (an ILS:
+// its localizer) have one position of their own; links, designators, frequencies, aprons, light strips
+// and guidelines have none.
+bool HasPosition(const SceneryObject* object);
+LatLon PositionOf(const SceneryObject* object);           // the object has a position
+BglPoint EncodedPositionOf(const SceneryObject* object);  // the object has one, and is no reference marker
+
+// Encodes and stores. Encoding loses a unit now and then: call it only for a position that was edited.
+void SetPosition(SceneryObject* object, LatLon position);
+
+}  // namespace model

@@ -1,0 +1,55 @@
+// Files.h - file access. Paths are UTF-8 and may hold any character; "\" and "/" both separate.
+//
+// FilesWin.cpp serves Windows builds (long paths included), FilesPosix.cpp the native ones.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace platform {
+
+struct OpenFile;  // a file opened for reading; defined by the system's own source file
+
+struct FileCloser {
+    void operator()(OpenFile* file) const;
+};
+using FileHandle = std::unique_ptr<OpenFile, FileCloser>;
+
+// Opens for reading, letting others read, write and rename meanwhile. Empty when that fails.
+FileHandle OpenForReading(const std::string& path);
+
+// The size of the file in bytes at this moment; 0 when it cannot be told.
+uint64_t FileSize(OpenFile* file);
+
+// Reads up to `size` bytes at `offset` and returns how many were read: fewer at the end of the file
+// or after an error, never more.
+size_t ReadAt(OpenFile* file, uint64_t offset, void* buffer, size_t size);
+
+// Reads the whole file, refusing one of more than `limit` bytes. False leaves *bytes empty.
+bool ReadWholeFile(const std::string& path, uint64_t limit, std::vector<uint8_t>* bytes);
+
+// Writes the bytes to a sibling of the target, flushes them to the disk and renames the sibling over
+// the target. False, with the old file untouched and no sibling left behind, when any step fails.
+bool WriteFileWhole(const std::string& path, std::span<const uint8_t> bytes);
+
+struct FileEntry {
+    std::string name;        // last path component, UTF-8
+    uint64_t writeTime = 0;  // last write, as a FILETIME
+    uint64_t size = 0;       // bytes
+};
+
+// Lists the files (not folders) of a folder whose name ends in `extension` (for example ".bgl"),
+// compared without regard to case, sorted by name without regard to case. A folder that does not
+// exist or may not be read yields an empty list.
+std::vector<FileEntry> ListFiles(const std::string& folder, const std::string& extension);
+
+bool FileExists(const std::string& path);  // a file, not a folder
+bool FolderExists(const std::string& path);
+bool DeleteOneFile(const std::string& path);  // true when the file is gone afterwards
+bool MakeFolders(const std::string& path);    // makes the folder and those above it
+
+}  // namespace platform

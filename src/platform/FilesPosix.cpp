@@ -1,0 +1,159 @@
+// FilesPosix.cpp - files of the native builds. A "\" in a path separates like "/", so that paths taken
+// from scenery libraries work; names are matched as the system matches them.
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+
+#include "platform/Files.h"
+#include "platform/Text.h"
+
+namespace platform {
+
+struct OpenFile {
+    int descriptor;
+};
+
+namespace {
+
+constexpr uint64_t kUnixEpochAsFileTime = 116444736000000000;  // 1970-01-01 in 100 ns units since 1601
+
+std::string NativePath(std::string path) {
+    std::replace(path.begin(), path.end(), '\\', '/');
+    return path;
+}
+
+uint64_t FileTimeOf(const timespec& time) {
+    return kUnixEpochAsFileTime + static_cast<uint64_t>(time.tv_sec) * 10000000 +
+           static_cast<uint64_t>(time.tv_nsec) / 100;
+}
+
+bool WriteAll(int descriptor, std::span<const uint8_t> bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
+        if (written < 0 && errno == EINTR) continue;
+        if (written <= 0) return false;
+        bytes = bytes.subspan(static_cast<size_t>(written));
+    }
+    return true;
+}
+
+bool EndsWithNoCase(std::string_view text, std::string_view end) {
+    return text.size() >= end.size() && EqualNoCase(text.substr(text.size() - end.size()), end);
+}
+
+void FlushFolderOf(const std::string& path) {
+    const size_t slash = path.rfind('/');
+    const std::string folder = slash == std::string::npos ? "." : path.substr(0, slash + 1);
+    const int descriptor = ::open(folder.c_str(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0) return;
+    ::fsync(descriptor);
+    ::close(descriptor);
+}
+
+}  // namespace
+
+void FileCloser::operator()(OpenFile* file) const {
+    ::close(file->descriptor);
+    delete file;
+}
+
+FileHandle OpenForReading(const std::string& path) {
+    const int descriptor = ::open(NativePath(path).c_str(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0) return nullptr;
+    struct stat info;
+    if (::fstat(descriptor, &info) != 0 || !S_ISREG(info.st_mode)) {
+        ::close(descriptor);
+        return nullptr;
+    }
+    return FileHandle(new OpenFile{ descriptor });
+}
+
+uint64_t FileSize(OpenFile* file) {
+    struct stat info;
+    return ::fstat(file->descriptor, &info) == 0 ? static_cast<uint64_t>(info.st_size) : 0;
+}
+
+size_t ReadAt(OpenFile* file, uint64_t offset, void* buffer, size_t size) {
+    size_t total = 0;
+    while (total < size) {
+        const ssize_t got = ::pread(file->descriptor, static_cast<uint8_t*>(buffer) + total, size - total,
+                                    static_cast<off_t>(offset + total));
+        if (got < 0 && errno == EINTR) continue;
+        if (got <= 0) break;
+        total += static_cast<size_t>(got);
+    }
+    return total;
+}
+
+bool ReadWholeFile(const std::string& path, uint64_t limit, std::vector<uint8_t>* bytes) {
+    bytes->clear();
+    const FileHandle file = OpenForReading(path);
+    if (!file) return false;
+    const uint64_t size = FileSize(file.get());
+    if (size > limit) return false;
+    bytes->resize(static_cast<size_t>(size));
+    if (ReadAt(file.get(), 0, bytes->data(), bytes->size()) == bytes->size()) return true;
+    bytes->clear();
+    return false;
+}
+
+bool WriteFileWhole(const std::string& path, std::span<const uint8_t> bytes) {
+    const std::string target = NativePath(path);
+    std::string sibling = target + ".XXXXXX";
+    const int descriptor = ::mkstemp(sibling.data());
+    if (descriptor < 0) return false;
+    struct stat info;
+    const mode_t mode = ::stat(target.c_str(), &info) == 0 ? info.st_mode & 07777 : 0644;
+    bool ok = ::fchmod(descriptor, mode) == 0 && WriteAll(descriptor, bytes) && ::fsync(descriptor) == 0;
+    ok = ::close(descriptor) == 0 && ok;
+    ok = ok && ::rename(sibling.c_str(), target.c_str()) == 0;
+    if (!ok)
+        ::unlink(sibling.c_str());
+    else
+        FlushFolderOf(target);
+    return ok;
+}
+
+std::vector<FileEntry> ListFiles(const std::string& folder, const std::string& extension) {
+    std::vector<FileEntry> files;
+    const std::string path = NativePath(folder);
+    DIR* directory = ::opendir(path.c_str());
+    if (!directory) return files;
+    while (const dirent* entry = ::readdir(directory)) {
+        struct stat info;
+        if (!EndsWithNoCase(entry->d_name, extension)) continue;
+        if (::fstatat(::dirfd(directory), entry->d_name, &info, 0) != 0 || !S_ISREG(info.st_mode)) continue;
+        files.push_back({ entry->d_name, FileTimeOf(info.st_mtim), static_cast<uint64_t>(info.st_size) });
+    }
+    ::closedir(directory);
+    std::sort(files.begin(), files.end(),
+              [](const FileEntry& a, const FileEntry& b) { return UpperCased(a.name) < UpperCased(b.name); });
+    return files;
+}
+
+bool FileExists(const std::string& path) {
+    struct stat info;
+    return ::stat(NativePath(path).c_str(), &info) == 0 && S_ISREG(info.st_mode);
+}
+
+bool FolderExists(const std::string& path) {
+    struct stat info;
+    return ::stat(NativePath(path).c_str(), &info) == 0 && S_ISDIR(info.st_mode);
+}
+
+bool DeleteOneFile(const std::string& path) { return ::unlink(NativePath(path).c_str()) == 0 || errno == ENOENT; }
+
+bool MakeFolders(const std::string& path) {
+    const std::string native = NativePath(path);
+    for (size_t end = native.find('/', 1); end != std::string::npos; end = native.find('/', end + 1)) {
+        if (::mkdir(native.substr(0, end).c_str(), 0755) != 0 && errno != EEXIST) return false;
+    }
+    return ::mkdir(native.c_str(), 0755) == 0 || FolderExists(native);
+}
+
+}  // namespace platform

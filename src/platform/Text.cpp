@@ -1,0 +1,93 @@
+// Text.cpp - see Text.h. The table is the published Windows-1252 mapping of bytes 0x80 to 0x9F; the
+// others equal Latin-1.
+#include "platform/Text.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
+
+namespace platform {
+
+namespace {
+
+constexpr uint16_t kUpperControls[32] = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
+};
+
+void AppendUtf8(uint32_t code, std::string* text) {
+    if (code < 0x80) {
+        text->push_back(static_cast<char>(code));
+    } else if (code < 0x800) {
+        text->push_back(static_cast<char>(0xC0 | code >> 6));
+        text->push_back(static_cast<char>(0x80 | (code & 0x3F)));
+    } else {
+        text->push_back(static_cast<char>(0xE0 | code >> 12));
+        text->push_back(static_cast<char>(0x80 | (code >> 6 & 0x3F)));
+        text->push_back(static_cast<char>(0x80 | (code & 0x3F)));
+    }
+}
+
+constexpr uint32_t kBadCode = UINT32_MAX;
+
+// The code point at the start of the text, which loses it; kBadCode for a byte that starts none.
+uint32_t TakeCodePoint(std::string_view* text) {
+    const auto lead = static_cast<uint8_t>(text->front());
+    const size_t length = lead < 0x80 ? 1 : lead < 0xC2 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF5 ? 4 : 0;
+    uint32_t code = length <= 1 ? lead : lead & (0x7Fu >> length);
+    bool bad = length == 0 || text->size() < length;
+    for (size_t i = 1; !bad && i < length; ++i) {
+        const auto byte = static_cast<uint8_t>((*text)[i]);
+        bad = (byte & 0xC0) != 0x80;
+        code = code << 6 | (byte & 0x3F);
+    }
+    text->remove_prefix(bad ? 1 : length);
+    return bad ? kBadCode : code;
+}
+
+int Windows1252Byte(uint32_t code) {
+    if (code < 0x80 || (code >= 0xA0 && code < 0x100)) return static_cast<int>(code);
+    const auto* found = std::find(std::begin(kUpperControls), std::end(kUpperControls), code);
+    return found == std::end(kUpperControls) ? -1 : static_cast<int>(0x80 + (found - kUpperControls));
+}
+
+char UpperCase(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+
+}  // namespace
+
+std::string Utf8FromWindows1252(std::string_view text) {
+    std::string utf8;
+    for (char c : text) {
+        const auto byte = static_cast<uint8_t>(c);
+        AppendUtf8(byte >= 0x80 && byte < 0xA0 ? kUpperControls[byte - 0x80] : byte, &utf8);
+    }
+    return utf8;
+}
+
+std::string Windows1252FromUtf8(std::string_view text, bool* lossless) {
+    std::string result;
+    bool lost = false;
+    while (!text.empty()) {
+        const uint32_t code = TakeCodePoint(&text);
+        const int byte = code == kBadCode ? -1 : Windows1252Byte(code);
+        lost |= byte < 0;
+        result.push_back(byte < 0 ? '?' : static_cast<char>(byte));
+    }
+    if (lossless) *lossless = !lost;
+    return result;
+}
+
+std::string UpperCased(std::string_view text) {
+    std::string upper(text);
+    std::transform(upper.begin(), upper.end(), upper.begin(), UpperCase);
+    return upper;
+}
+
+bool EqualNoCase(std::string_view a, std::string_view b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](char x, char y) { return UpperCase(x) == UpperCase(y); });
+}
+
+}  // namespace platform

@@ -1,0 +1,19 @@
+// Text.h - text encodings: UTF-8 inside the program, Windows-1252 in scenery files.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+// The five bytes that Windows-1252 leaves open map to the C1 control of the same value, as Windows does.
+std::string Utf8FromWindows1252(std::string_view text);
+
+// Characters that Windows-1252 lacks, and broken UTF-8, become "?". *lossless tells whether none did.
+std::string Windows1252FromUtf8(std::string_view text, bool* lossless = nullptr);
+
+// ASCII letters only; all other bytes stay.
+std::string UpperCased(std::string_view text);
+bool EqualNoCase(std::string_view a, std::string_view b);  // ASCII case folding
+
+}  // namespace platform

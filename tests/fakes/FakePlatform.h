@@ -1,0 +1,28 @@
+// FakePlatform.h - the platform as tests see it: messages are recorded, answers prepared.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "platform/Platform.h"
+
+struct FakeMessage {
+    std::string text;
+    platform::Buttons buttons;
+    platform::Icon icon;
+};
+
+struct FakePlatform {
+    std::vector<FakeMessage> messages;
+    std::deque<platform::Answer> answers;  // taken in order by boxes with more than an OK button
+    int repaints = 0;
+    uint64_t fileTime = 0x01C4000000000000;
+    int rotationChanges = 0;
+    int placedAircraft = 0;
+};
+
+extern FakePlatform fake;
+
+void ResetFakes();  // call from every fixture
