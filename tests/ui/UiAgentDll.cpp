@@ -1,0 +1,108 @@
+// UiAgentDll.cpp - agent.dll: answers from inside the program under test. The program needs no change for it.
+#include <windows.h>
+
+#include <cstdint>
+#include <cstdio>
+
+#include "UiAgent.h"
+
+namespace ui {
+namespace {
+
+HWND agentWindow;
+HINSTANCE instance;
+
+wchar_t* DumpMenu(HMENU menu, int depth, wchar_t* out, const wchar_t* end) {
+    constexpr int kLineCharacters = 400;
+    int count = GetMenuItemCount(menu);
+    for (int i = 0; i < count && end - out > kLineCharacters; ++i) {
+        wchar_t text[256] = L"";
+        MENUITEMINFOW info = {};
+        info.cbSize = sizeof info;
+        info.fMask = MIIM_ID | MIIM_STATE | MIIM_FTYPE | MIIM_STRING | MIIM_SUBMENU;
+        info.dwTypeData = text;
+        info.cch = 256;
+        if (!GetMenuItemInfoW(menu, static_cast<UINT>(i), TRUE, &info)) continue;
+        const wchar_t separator = kAgentFieldSeparator;
+        int written = swprintf(out, kLineCharacters, L"%d%lc%u%lc%u%lc%u%lc%ls\n", depth, separator, info.wID,
+                               separator, info.fState, separator, info.fType, separator, text);
+        if (written > 0) out += written;
+        if (info.hSubMenu) out = DumpMenu(info.hSubMenu, depth + 1, out, end);
+    }
+    return out;
+}
+
+LRESULT DumpMenuOf(HWND window, wchar_t* buffer) {
+    wchar_t* end = DumpMenu(GetMenu(window), 0, buffer, buffer + kAgentBufferBytes / sizeof(wchar_t) - 1);
+    *end = 0;
+    return end - buffer;
+}
+
+LRESULT SetKey(WPARAM key, LPARAM state) {
+    BYTE keys[256];
+    if (!GetKeyboardState(keys)) return FALSE;
+    keys[key & 0xFF] = static_cast<BYTE>(state);
+    return SetKeyboardState(keys);
+}
+
+LRESULT StockIcon(WPARAM icon) {
+    const LPCWSTR stock[] = { IDI_APPLICATION, IDI_HAND, IDI_QUESTION, IDI_EXCLAMATION, IDI_ASTERISK };
+    for (LPCWSTR id : stock) {
+        if (LoadIconW(nullptr, id) == reinterpret_cast<HICON>(icon)) return reinterpret_cast<LRESULT>(id);
+    }
+    return 0;
+}
+
+LRESULT StockCursor() {
+    const LPCWSTR stock[] = { IDC_ARROW,  IDC_CROSS, IDC_WAIT,    IDC_HAND,     IDC_SIZEALL,  IDC_SIZENS,
+                              IDC_SIZEWE, IDC_IBEAM, IDC_UPARROW, IDC_SIZENWSE, IDC_SIZENESW, IDC_NO };
+    HCURSOR current = GetCursor();
+    for (LPCWSTR id : stock) {
+        if (current && LoadCursorW(nullptr, id) == current) return reinterpret_cast<LRESULT>(id);
+    }
+    return 0;
+}
+
+LRESULT CALLBACK AgentProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case kAgentMenuState:
+        return GetMenuState(GetMenu(reinterpret_cast<HWND>(lParam)), static_cast<UINT>(wParam), MF_BYCOMMAND);
+    case kAgentMenuDump: return DumpMenuOf(reinterpret_cast<HWND>(wParam), reinterpret_cast<wchar_t*>(lParam));
+    case kAgentKeyState: return GetKeyState(static_cast<int>(wParam));
+    case kAgentSetKey: return SetKey(wParam, lParam);
+    case kAgentIcon: return StockIcon(wParam);
+    case kAgentFocus: return reinterpret_cast<LRESULT>(GetFocus());
+    case kAgentCursor: return StockCursor();
+    default: return DefWindowProcW(window, message, wParam, lParam);
+    }
+}
+
+void CreateAgentWindow() {
+    WNDCLASSW windowClass = {};
+    windowClass.lpfnWndProc = AgentProc;
+    windowClass.hInstance = instance;
+    windowClass.lpszClassName = kAgentClass;
+    RegisterClassW(&windowClass);
+    wchar_t title[32];
+    swprintf(title, 32, L"%u", static_cast<unsigned>(GetCurrentProcessId()));
+    agentWindow = CreateWindowW(kAgentClass, title, WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, instance, nullptr);
+}
+
+}  // namespace
+}  // namespace ui
+
+// The first message that the hooked thread takes creates the window there, so its answers come from that thread.
+extern "C" __declspec(dllexport) LRESULT CALLBACK AgentHook(int code, WPARAM wParam, LPARAM lParam) {
+    if (!ui::agentWindow) ui::CreateAgentWindow();
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+// Pinned: the window procedure must outlive the hook, which ends with the driver.
+BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, void*) {
+    if (reason != DLL_PROCESS_ATTACH) return TRUE;
+    ui::instance = module;
+    HMODULE pinned;
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_PIN | GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS,
+                       reinterpret_cast<LPCWSTR>(&ui::AgentProc), &pinned);
+    return TRUE;
+}
