@@ -19,6 +19,7 @@ namespace {
 void FreeChain(SceneryObject** head) {
     while (SceneryObject* entry = *head) {
         *head = entry->historyNext;
+        state.otherTexts.erase(entry);
         FreeObject(entry);
     }
 }
@@ -63,14 +64,15 @@ void TrimUndo() {
 void Record(SceneryObject* entry, HistoryOperation operation) {
     MarkEntry(entry, operation, state.groupStart);
     Push(entry, &state.undoHead);
+    if (state.groupStart) TrimUndo();  // only a new start can push an old action out
     state.groupStart = false;
-    TrimUndo();
     FreeChain(&state.redoHead);
     state.modified = true;
 }
 
 // Puts an object that carries its neighbours back between them.
 void Relink(SceneryObject* object) {
+    ++state.revision;
     if (object->prev)
         object->prev->next = object;
     else
@@ -86,6 +88,7 @@ SceneryObject* LiveObjectOf(const SceneryObject* entry) { return entry->prev ? e
 
 // The whole headers change places, but each list position keeps its own neighbours.
 void ExchangeHeaders(SceneryObject* entry, SceneryObject* live) {
+    ++state.revision;
     SceneryObject* const prev = live->prev;
     SceneryObject* const next = live->next;
     std::swap(*entry, *live);
@@ -111,11 +114,21 @@ void ReplayOutOfList(SceneryObject* entry, SceneryObject** otherChain) {
     FreeObject(entry);
 }
 
+// The texts that belong to the entry and those in force change places.
+void ExchangeTexts(const SceneryObject* entry) {
+    const auto found = state.otherTexts.find(entry);
+    if (found == state.otherTexts.end()) return;
+    const PlaceTexts inForce = CurrentPlaceTexts();
+    SetPlaceTexts(found->second);
+    found->second = inForce;
+}
+
 void ReplayModification(SceneryObject* entry, SceneryObject** otherChain) {
     const bool startsGroup = StartsGroup(entry);
     SceneryObject* live = LiveObjectOf(entry);
     assert(live && KindOf(live) == KindOf(entry));
     ExchangeHeaders(entry, live);
+    ExchangeTexts(entry);
     MarkLive(live);
     MarkEntry(entry, kOpModified, startsGroup);
     Push(entry, otherChain);
@@ -141,6 +154,13 @@ void ModifyObject(SceneryObject* edited, SceneryObject* live) {
     ExchangeHeaders(edited, live);
     MarkLive(live);
     Record(edited, kOpModified);
+}
+
+void ModifyAirport(SceneryObject* edited, const PlaceTexts& texts) {
+    assert(state.airport && KindOf(edited) == kAirport);
+    state.otherTexts[edited] = CurrentPlaceTexts();
+    SetPlaceTexts(texts);
+    ModifyObject(edited, state.airport);
 }
 
 void Undo() {

@@ -4,6 +4,7 @@
 // AddObject, DeleteObject and ModifyObject; one Undo takes all of it back.
 #pragma once
 
+#include "model/PlaceTexts.h"
 #include "model/SceneryObject.h"
 
 namespace model {
@@ -22,6 +23,10 @@ void DeleteObject(SceneryObject* object);
 // `edited` is a copy of `live` (CopyObject) with changes. The two exchange their headers: `live` stays
 // where it is in the list and carries the new content, `edited` becomes the history's.
 void ModifyObject(SceneryObject* edited, SceneryObject* live);
+
+// As ModifyObject for the open Airport, together with the texts that name it. One entry of the history
+// carries both, so undo and redo bring back the texts with the record.
+void ModifyAirport(SceneryObject* edited, const PlaceTexts& texts);
 
 // Take back or repeat one user action; nothing while a mouse drag is in progress. Undoing or redoing an
 // action of a single entry leaves the modified flag as it was. That is meant.

@@ -13,20 +13,24 @@ namespace model {
 
 namespace {
 
-template <class P>
-bool SegmentsCross(P a, P b, P c, P d) {
+// Exact, and so are differences of two; products round only from 2^53 on.
+Point ToPoint(Pixel pixel) { return { static_cast<double>(pixel.x), static_cast<double>(pixel.y) }; }
+Point ToPoint(Point point) { return point; }
+
+bool SegmentsCross(Point a, Point b, Point c, Point d) {
     return Orientation(a, b, c) != Orientation(a, b, d) && Orientation(c, d, a) != Orientation(c, d, b);
 }
 
 template <class P>
-bool RayCrossesOddly(P point, std::span<const P> polygon) {
+bool RayCrossesOddly(P start, std::span<const P> polygon) {
     if (polygon.size() < 3) return false;
-    P far = point;
-    for (const P& corner : polygon) far.x = std::max(far.x, corner.x);
+    const Point point = ToPoint(start);
+    Point far = point;
+    for (const P& corner : polygon) far.x = std::max(far.x, ToPoint(corner).x);
     far.x += 2;
     bool inside = false;
     for (size_t i = 0, last = polygon.size() - 1; i < polygon.size(); last = i++) {
-        if (SegmentsCross(point, far, polygon[last], polygon[i])) inside = !inside;
+        if (SegmentsCross(point, far, ToPoint(polygon[last]), ToPoint(polygon[i]))) inside = !inside;
     }
     return inside;
 }
@@ -40,11 +44,7 @@ double AngleAdd(double angle, double delta) {
     return angle;
 }
 
-int Orientation(Pixel p0, Pixel p1, Pixel p2) {
-    const int64_t dx1 = int64_t{ p1.x } - p0.x, dy1 = int64_t{ p1.y } - p0.y;
-    const int64_t dx2 = int64_t{ p2.x } - p0.x, dy2 = int64_t{ p2.y } - p0.y;
-    return dy2 * dx1 > dy1 * dx2 ? 1 : -1;
-}
+int Orientation(Pixel p0, Pixel p1, Pixel p2) { return Orientation(ToPoint(p0), ToPoint(p1), ToPoint(p2)); }
 
 int Orientation(Point p0, Point p1, Point p2) {
     return (p2.y - p0.y) * (p1.x - p0.x) > (p1.y - p0.y) * (p2.x - p0.x) ? 1 : -1;

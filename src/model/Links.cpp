@@ -13,6 +13,7 @@ namespace {
 
 constexpr uint16_t kIndexMask = 0x0FFF;
 constexpr int kDesignatorShift = 12;
+constexpr uint32_t kDesignatorMask = 0xF;  // what a link can hold of a runway's designator
 constexpr uint32_t kIndexByteMask = 0x0000FF00;
 constexpr int kIndexByteShift = 8;
 
@@ -29,7 +30,7 @@ SceneryObject* At(const std::vector<SceneryObject*>& objects, uint32_t index) {
 SceneryObject* RunwayNamed(const std::vector<SceneryObject*>& runways, uint32_t number, uint32_t designator) {
     for (SceneryObject* runway : runways) {
         const RunwayRecord& body = PayloadAs<RunwayPayload>(runway).body;
-        if (body.primaryNumber == number && body.primaryDesignator == designator) return runway;
+        if (body.primaryNumber == number && (body.primaryDesignator & kDesignatorMask) == designator) return runway;
     }
     return nullptr;
 }
@@ -81,10 +82,11 @@ void UpdateLinkIndices() {
             indexByte = IndexIn(designators, link.designator);
         } else {
             uint32_t designator = 0;
-            if (runways.contains(link.designator)) {
-                const RunwayRecord& runway = PayloadAs<RunwayPayload>(link.designator).body;
+            const SceneryObject* named = link.designator;
+            if (runways.contains(named)) {
+                const RunwayRecord& runway = PayloadAs<RunwayPayload>(named).body;
                 indexByte = runway.primaryNumber;
-                designator = runway.primaryDesignator & 0xF;
+                designator = runway.primaryDesignator & kDesignatorMask;
             }
             endField = (endField & kIndexMask) | designator << kDesignatorShift;
         }

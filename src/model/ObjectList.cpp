@@ -10,6 +10,7 @@ namespace model {
 ModelState state;
 
 void AppendObject(SceneryObject* object) {
+    ++state.revision;
     object->next = nullptr;
     object->prev = state.tail;
     if (state.tail)
@@ -21,6 +22,7 @@ void AppendObject(SceneryObject* object) {
 }
 
 void UnlinkObject(SceneryObject* object) {
+    ++state.revision;
     if (object->prev)
         object->prev->next = object->next;
     else
@@ -38,7 +40,9 @@ void ClearModel() {
         state.head = object->next;
         FreeObject(object);
     }
+    const uint64_t revision = state.revision + 1;
     state = ModelState{};
+    state.revision = revision;
 }
 
 std::string AirportName() {

@@ -7,7 +7,9 @@
 
 #include <cstdint>
 #include <string>
+#include <unordered_map>
 
+#include "model/PlaceTexts.h"
 #include "model/Records.h"
 #include "model/SceneryObject.h"
 
@@ -23,10 +25,12 @@ struct ModelState {
     uint32_t regionIdent = 0;
     SceneryObject* undoHead = nullptr;  // newest first
     SceneryObject* redoHead = nullptr;
-    bool groupStart = false;  // the next recorded edit opens a user action
+    std::unordered_map<const SceneryObject*, PlaceTexts> otherTexts;  // of history entries that changed them
+    bool groupStart = false;                                          // the next recorded edit opens a user action
     bool modified = false;
-    bool loaded = false;  // an airport is open
-    bool busy = false;    // a mouse drag is in progress
+    bool loaded = false;    // an airport is open
+    bool busy = false;      // a mouse drag is in progress
+    uint64_t revision = 0;  // grows with every edit, undo and redo and with every other airport; never falls back
 };
 
 extern ModelState state;

@@ -52,6 +52,13 @@ LatLon PositionOf(const SceneryObject* object) {
     return BglToLatLon(EncodedPositionOf(object));
 }
 
+void SetEncodedPosition(SceneryObject* object, BglPoint code) {
+    const uint32_t offset = PlaceOffset(KindOf(object));
+    assert(offset != kNoPlace && offset + sizeof(EncodedPoint) <= object->payloadSize);
+    const EncodedPoint point = { code.lonCode, code.latCode };
+    std::memcpy(object->payload + offset, &point, sizeof point);
+}
+
 void SetPosition(SceneryObject* object, LatLon position) {
     if (KindOf(object) == kReferenceMarker) {
         auto& marker = PayloadAs<ReferenceMarkerPayload>(object);
@@ -59,11 +66,7 @@ void SetPosition(SceneryObject* object, LatLon position) {
         marker.longitude = position.lon;
         return;
     }
-    const uint32_t offset = PlaceOffset(KindOf(object));
-    assert(offset != kNoPlace);
-    const BglPoint code = LatLonToBgl(position);
-    const EncodedPoint point = { code.lonCode, code.latCode };
-    std::memcpy(object->payload + offset, &point, sizeof point);
+    SetEncodedPosition(object, LatLonToBgl(position));
 }
 
 }  // namespace model

@@ -13,6 +13,8 @@ bool HasPosition(const SceneryObject* object);
 LatLon PositionOf(const SceneryObject* object);           // the object has a position
 BglPoint EncodedPositionOf(const SceneryObject* object);  // the object has one, and is no reference marker
 
+void SetEncodedPosition(SceneryObject* object, BglPoint code);
+
 // Encodes and stores. Encoding loses a unit now and then: call it only for a position that was edited.
 void SetPosition(SceneryObject* object, LatLon position);
 

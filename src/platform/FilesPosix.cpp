@@ -104,11 +104,13 @@ bool ReadWholeFile(const std::string& path, uint64_t limit, std::vector<uint8_t>
 
 bool WriteFileWhole(const std::string& path, std::span<const uint8_t> bytes) {
     const std::string target = NativePath(path);
+    struct stat info;
+    const bool exists = ::stat(target.c_str(), &info) == 0;
+    if (exists && !S_ISREG(info.st_mode)) return false;  // renaming would replace a device
+    const mode_t mode = exists ? info.st_mode & 07777 : 0644;
     std::string sibling = target + ".XXXXXX";
     const int descriptor = ::mkstemp(sibling.data());
     if (descriptor < 0) return false;
-    struct stat info;
-    const mode_t mode = ::stat(target.c_str(), &info) == 0 ? info.st_mode & 07777 : 0644;
     bool ok = ::fchmod(descriptor, mode) == 0 && WriteAll(descriptor, bytes) && ::fsync(descriptor) == 0;
     ok = ::close(descriptor) == 0 && ok;
     ok = ok && ::rename(sibling.c_str(), target.c_str()) == 0;

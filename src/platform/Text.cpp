@@ -43,6 +43,8 @@ uint32_t TakeCodePoint(std::string_view* text) {
         bad = (byte & 0xC0) != 0x80;
         code = code << 6 | (byte & 0x3F);
     }
+    constexpr uint32_t kShortest[] = { 0, 0, 0x80, 0x800, 0x10000 };  // the first code that needs that many bytes
+    bad = bad || code < kShortest[length];
     text->remove_prefix(bad ? 1 : length);
     return bad ? kBadCode : code;
 }

@@ -1,0 +1,237 @@
+// DeleteRules.cpp - see DeleteRules.h.
+//
+// An object's dependents go before the object itself, in the same action. They may be anywhere in the
+// list, also right behind the object: its successor is asked for only when they are gone. So one walk
+// suffices, and no object is asked about twice.
+#include "model/DeleteRules.h"
+
+#include <cstddef>
+#include <cstring>
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+#include "model/EditHistory.h"
+#include "model/Ident.h"
+#include "model/ObjectList.h"
+#include "model/Records.h"
+#include "model/Triangulate.h"
+#include "platform/Platform.h"
+
+namespace model {
+
+namespace {
+
+using platform::Answer;
+using platform::Buttons;
+using platform::Icon;
+
+constexpr uint32_t kApronSelectableVertices = 160;  // bits of the selection bitmap
+constexpr int kRegionAirportShift = 11;
+
+// Links by the node, spot, runway or designator that they point to, guidelines by their markers.
+using Users = std::unordered_map<const SceneryObject*, std::vector<SceneryObject*>>;
+
+struct Deletion {
+    Users users;
+    std::unordered_set<const SceneryObject*> gone;
+    int edits = 0;
+};
+
+Users UsersOfAll() {
+    Users users;
+    const auto note = [&](const SceneryObject* used, SceneryObject* user) {
+        if (used) users[used].push_back(user);
+    };
+    for (SceneryObject* object = state.head; object; object = object->next) {
+        if (KindOf(object) == kTaxiLink) {
+            const auto& link = PayloadAs<TaxiLinkPayload>(object);
+            note(link.start, object);
+            note(link.end, object);
+            note(link.designator, object);
+        } else if (KindOf(object) == kGuideline) {
+            const auto& guideline = PayloadAs<GuidelinePayload>(object);
+            note(guideline.from, object);
+            note(guideline.to, object);
+        }
+    }
+    return users;
+}
+
+void Remove(SceneryObject* object, Deletion* deletion) {
+    if (!deletion->gone.insert(object).second) return;
+    DeleteObject(object);
+    ++deletion->edits;
+}
+
+void Change(SceneryObject* edited, SceneryObject* live, Deletion* deletion) {
+    ModifyObject(edited, live);
+    ++deletion->edits;
+}
+
+const std::vector<SceneryObject*>& UsersOf(const SceneryObject* object, const Deletion& deletion) {
+    static const std::vector<SceneryObject*> kNone;
+    const auto found = deletion.users.find(object);
+    return found == deletion.users.end() ? kNone : found->second;
+}
+
+void RemoveUsers(const SceneryObject* object, Deletion* deletion) {
+    for (SceneryObject* user : UsersOf(object, *deletion)) Remove(user, deletion);
+}
+
+// Links named after a runway or designator that goes keep their way but lose the name.
+void ForgetDesignator(const SceneryObject* designator, Deletion* deletion) {
+    for (SceneryObject* link : UsersOf(designator, *deletion)) {
+        if (deletion->gone.contains(link)) continue;
+        SceneryObject* edited = CopyObject(link);
+        PayloadAs<TaxiLinkPayload>(edited).designator = nullptr;
+        Change(edited, link, deletion);
+    }
+}
+
+// The stock object that the replacement stood for is in force again.
+void RemoveNavaid(SceneryObject* navaid, Deletion* deletion) {
+    if (SceneryObject* stock = navaid->related) {
+        SceneryObject* edited = CopyObject(stock);
+        edited->related = nullptr;
+        Change(edited, stock, deletion);
+    }
+    Remove(navaid, deletion);
+}
+
+std::vector<SceneryObject*> OwnIlsOf(const SceneryObject* runway) {
+    std::vector<SceneryObject*> found;
+    for (SceneryObject* ils = FirstOfKind(state.head, kIls); ils; ils = NextOfKind(ils, kIls)) {
+        if (IsStock(ils)) continue;
+        if (IlsBelongsTo(ils, runway, RunwayEnd::Primary) || IlsBelongsTo(ils, runway, RunwayEnd::Secondary))
+            found.push_back(ils);
+    }
+    return found;
+}
+
+bool Confirmed(const char* question) {
+    return platform::ShowMessage(question, Buttons::OkCancel, Icon::Exclamation) == Answer::Ok;
+}
+
+void DeleteRunway(SceneryObject* runway, Deletion* deletion) {
+    const std::vector<SceneryObject*> installed = OwnIlsOf(runway);
+    if (!installed.empty() && !Confirmed("This runway is equipped with ILS.\n\n"
+                                         "If you delete the runway the ILS will also be deleted.\n\n"
+                                         "Do you want to proceed?"))
+        return;
+    for (SceneryObject* ils : installed) RemoveNavaid(ils, deletion);
+    ForgetDesignator(runway, deletion);
+    Remove(runway, deletion);
+}
+
+void DeleteTower(SceneryObject* tower, Deletion* deletion) {
+    if (Confirmed("Are you sure you want to delete the control tower viewpoint?")) Remove(tower, deletion);
+}
+
+void RefuseStock(const SceneryObject* object) {
+    const std::string what = KindOf(object) == kIls ? "ILS" : "navaids";
+    platform::ShowMessage("Flight Simulator does not allow stock " + what +
+                              " to be deleted,\nthey can only be moved or modified.\n\n"
+                              "This operation has been cancelled.",
+                          Buttons::Ok, Icon::Exclamation);
+}
+
+void DeleteApron(SceneryObject* apron, Deletion* deletion) {
+    if (apron->flags & kWholeSelected) return Remove(apron, deletion);
+    const auto& head = PayloadAs<ApronHead>(apron);
+    const std::vector<EncodedPoint> outline = ApronOutline(apron);
+    std::vector<EncodedPoint> kept;
+    for (size_t i = 0; i < outline.size(); ++i) {
+        const bool selected = i < kApronSelectableVertices && (head.selection[i / 8] >> (i % 8) & 1) != 0;
+        if (!selected) kept.push_back(outline[i]);
+    }
+    if (kept.size() == outline.size()) return;
+    if (kept.size() < 3) return Remove(apron, deletion);
+    SceneryObject* edited = CopyWithOutline(apron, kept);
+    edited->flags &= ~kSelected;
+    Change(edited, apron, deletion);
+}
+
+void DeleteEdgeLights(SceneryObject* lights, Deletion* deletion) {
+    if (lights->flags & kWholeSelected) return Remove(lights, deletion);
+    const uint32_t count = PayloadAs<EdgeLightsHead>(lights).stripCount;
+    std::vector<EdgeLightStrip> strips(count);
+    if (count > 0) std::memcpy(strips.data(), lights->payload + sizeof(EdgeLightsHead), count * sizeof(EdgeLightStrip));
+    std::erase_if(strips, [](const EdgeLightStrip& strip) {
+        return strip.segmentSelected != 0 || strip.startSelected != 0 || strip.endSelected != 0;
+    });
+    if (strips.size() == count) return;
+    if (strips.empty()) return Remove(lights, deletion);
+    const size_t stripBytes = strips.size() * sizeof(EdgeLightStrip);
+    SceneryObject* edited = CopyObject(lights);
+    ResizePayload(edited, static_cast<uint32_t>(sizeof(EdgeLightsHead) + stripBytes));
+    PayloadAs<EdgeLightsHead>(edited).stripCount = static_cast<uint32_t>(strips.size());
+    std::memcpy(edited->payload + sizeof(EdgeLightsHead), strips.data(), stripBytes);
+    edited->flags &= ~kSelected;
+    Change(edited, lights, deletion);
+}
+
+void DeleteByKind(SceneryObject* object, Deletion* deletion) {
+    if (IsStock(object)) return RefuseStock(object);
+    switch (KindOf(object)) {
+    case kAirport: return;  // never
+    case kTowerViewpoint: return DeleteTower(object, deletion);
+    case kRunway: return DeleteRunway(object, deletion);
+    case kTaxiNode:
+    case kParkingSpot:
+    case kReferenceMarker: RemoveUsers(object, deletion); return Remove(object, deletion);
+    case kTaxiDesignator: ForgetDesignator(object, deletion); return Remove(object, deletion);
+    case kApron: return DeleteApron(object, deletion);
+    case kApronEdgeLights: return DeleteEdgeLights(object, deletion);
+    case kIls:
+    case kMarkerBeacon:
+    case kNdb:
+    case kVorDme: return RemoveNavaid(object, deletion);
+    default: return Remove(object, deletion);
+    }
+}
+
+uint32_t AirportIdent() { return state.airport ? PayloadAs<AirportRecord>(state.airport).ident >> kIdentShift : 0; }
+
+}  // namespace
+
+bool IlsBelongsTo(const SceneryObject* ils, const SceneryObject* runway, RunwayEnd end) {
+    const IlsPayload& payload = PayloadAs<IlsPayload>(ils);
+    const RunwayRecord& body = PayloadAs<RunwayPayload>(runway).body;
+    const bool primary = end == RunwayEnd::Primary;
+    const uint32_t named = primary ? body.primaryIls : body.secondaryIls;
+    if (named != 0) return named == payload.body.ident >> kIdentShift;
+    const uint8_t number = primary ? body.primaryNumber : body.secondaryNumber;
+    const uint8_t designator = primary ? body.primaryDesignator : body.secondaryDesignator;
+    return !IsStock(ils) && state.airport && payload.localizer.runwayNumber == number &&
+           payload.localizer.runwayDesignator == designator &&
+           payload.body.region >> kRegionAirportShift == AirportIdent();
+}
+
+int DeleteSelected(const SceneryObject* dragged) {
+    Deletion deletion;
+    deletion.users = UsersOfAll();
+    BeginAction();
+    for (SceneryObject *object = state.head, *next = nullptr; object; object = next) {
+        if (IsSelected(object) && object != dragged) DeleteByKind(object, &deletion);
+        next = object->next;
+    }
+    platform::RequestRepaint();
+    return deletion.edits;
+}
+
+int DeleteGuidelinesAndMarkers() {
+    Deletion deletion;
+    BeginAction();
+    for (const uint32_t kind : { uint32_t{ kGuideline }, uint32_t{ kReferenceMarker } }) {
+        for (SceneryObject *object = FirstOfKind(state.head, kind), *next = nullptr; object; object = next) {
+            next = NextOfKind(object, kind);
+            Remove(object, &deletion);
+        }
+    }
+    platform::RequestRepaint();
+    return deletion.edits;
+}
+
+}  // namespace model

@@ -1,0 +1,190 @@
+// FilesWin.cpp - files of the Windows builds: paths of any characters and of any length.
+#include <windows.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <string_view>
+
+#include "platform/Files.h"
+#include "platform/Text.h"
+#include "platform/WideTextWin.h"
+
+namespace platform {
+
+struct OpenFile {
+    HANDLE handle;
+};
+
+namespace {
+
+constexpr size_t kLongPath = 240;  // from here on "\\?\" is needed: folders must leave room for an 8.3 name
+constexpr DWORD kChunk = 1u << 30;
+constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+// The path as the system takes it. Behind the prefix for long paths "/", "." and ".." mean nothing any more, so
+// such a path is made full first.
+std::wstring NativePath(const std::string& path) {
+    std::wstring wide = WideFromUtf8(path);
+    std::replace(wide.begin(), wide.end(), L'/', L'\\');
+    if (wide.size() < kLongPath || wide.starts_with(L"\\\\?\\")) return wide;
+    const DWORD size = GetFullPathNameW(wide.c_str(), 0, nullptr, nullptr);
+    std::wstring full(size, L'\0');
+    full.resize(GetFullPathNameW(wide.c_str(), size, full.data(), nullptr));
+    if (full.empty()) return wide;
+    return full.starts_with(L"\\\\") ? L"\\\\?\\UNC\\" + full.substr(2) : L"\\\\?\\" + full;
+}
+
+// An embedded zero would cut the path, and another file would be meant.
+bool IsUsable(const std::string& path) { return !path.empty() && path.find('\0') == std::string::npos; }
+
+DWORD AttributesOf(const std::string& path) {
+    return IsUsable(path) ? GetFileAttributesW(NativePath(path).c_str()) : INVALID_FILE_ATTRIBUTES;
+}
+
+bool WriteAll(HANDLE file, std::span<const uint8_t> bytes) {
+    while (!bytes.empty()) {
+        const auto chunk = static_cast<DWORD>(std::min<size_t>(bytes.size(), kChunk));
+        DWORD written = 0;
+        if (!WriteFile(file, bytes.data(), chunk, &written, nullptr) || written == 0) return false;
+        bytes = bytes.subspan(written);
+    }
+    return true;
+}
+
+// A new file in the folder of the target. Its short name fits even where that of the target fills the limit.
+HANDLE CreateSibling(const std::wstring& target, std::wstring* sibling) {
+    const size_t slash = target.find_last_of(L"\\:");
+    const std::wstring folder = slash == std::wstring::npos ? L"" : target.substr(0, slash + 1);
+    const DWORD start = GetCurrentProcessId() * 1000 + GetTickCount() % 1000;
+    for (DWORD attempt = 0; attempt < 100; ++attempt) {
+        wchar_t name[32];
+        swprintf(name, 32, L"~tv%08lX.tmp", start + attempt);
+        *sibling = folder + name;
+        const HANDLE file =
+            CreateFileW(sibling->c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+        if (file != INVALID_HANDLE_VALUE || GetLastError() != ERROR_FILE_EXISTS) return file;
+    }
+    return INVALID_HANDLE_VALUE;
+}
+
+bool EndsWithNoCase(std::string_view text, std::string_view end) {
+    return text.size() >= end.size() && EqualNoCase(text.substr(text.size() - end.size()), end);
+}
+
+uint64_t Joined(DWORD high, DWORD low) { return static_cast<uint64_t>(high) << 32 | low; }
+
+}  // namespace
+
+void FileCloser::operator()(OpenFile* file) const {
+    CloseHandle(file->handle);
+    delete file;
+}
+
+FileHandle OpenForReading(const std::string& path) {
+    if (!IsUsable(path)) return nullptr;
+    const HANDLE handle = CreateFileW(NativePath(path).c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING,
+                                      FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (handle == INVALID_HANDLE_VALUE) return nullptr;
+    if (GetFileType(handle) != FILE_TYPE_DISK) {  // "CON" and its like
+        CloseHandle(handle);
+        return nullptr;
+    }
+    return FileHandle(new OpenFile{ handle });
+}
+
+uint64_t FileSize(OpenFile* file) {
+    LARGE_INTEGER size;
+    return GetFileSizeEx(file->handle, &size) ? static_cast<uint64_t>(size.QuadPart) : 0;
+}
+
+size_t ReadAt(OpenFile* file, uint64_t offset, void* buffer, size_t size) {
+    size_t total = 0;
+    while (total < size) {
+        const uint64_t at = offset + total;
+        OVERLAPPED place{};
+        place.Offset = static_cast<DWORD>(at);
+        place.OffsetHigh = static_cast<DWORD>(at >> 32);
+        const auto chunk = static_cast<DWORD>(std::min<size_t>(size - total, kChunk));
+        DWORD got = 0;
+        if (!ReadFile(file->handle, static_cast<uint8_t*>(buffer) + total, chunk, &got, &place) || got == 0) break;
+        total += got;
+    }
+    return total;
+}
+
+bool ReadWholeFile(const std::string& path, uint64_t limit, std::vector<uint8_t>* bytes) {
+    bytes->clear();
+    const FileHandle file = OpenForReading(path);
+    if (!file) return false;
+    const uint64_t size = FileSize(file.get());
+    if (size > limit) return false;
+    bytes->resize(static_cast<size_t>(size));
+    if (ReadAt(file.get(), 0, bytes->data(), bytes->size()) == bytes->size()) return true;
+    bytes->clear();
+    return false;
+}
+
+bool WriteFileWhole(const std::string& path, std::span<const uint8_t> bytes) {
+    if (!IsUsable(path)) return false;
+    const std::wstring target = NativePath(path);
+    const DWORD attributes = GetFileAttributesW(target.c_str());
+    // A file that its owner has protected stays, also where the system would let us replace it.
+    constexpr DWORD kKept = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY;
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & kKept)) return false;
+    std::wstring sibling;
+    const HANDLE file = CreateSibling(target, &sibling);
+    if (file == INVALID_HANDLE_VALUE) return false;
+    bool ok = WriteAll(file, bytes) && FlushFileBuffers(file);
+    ok = CloseHandle(file) && ok;
+    ok = ok && MoveFileExW(sibling.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
+    if (!ok) DeleteFileW(sibling.c_str());
+    return ok;
+}
+
+std::vector<FileEntry> ListFiles(const std::string& folder, const std::string& extension) {
+    std::vector<FileEntry> files;
+    if (!IsUsable(folder)) return files;
+    WIN32_FIND_DATAW found;
+    const HANDLE search = FindFirstFileW(NativePath(folder + "\\*").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return files;
+    do {
+        if (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) continue;
+        const std::string name = Utf8FromWide(found.cFileName);
+        // Not by the pattern: the system also matches it against short names, and "x.bglx" has one in ".bgl".
+        if (!EndsWithNoCase(name, extension)) continue;
+        files.push_back({ name, Joined(found.ftLastWriteTime.dwHighDateTime, found.ftLastWriteTime.dwLowDateTime),
+                          Joined(found.nFileSizeHigh, found.nFileSizeLow) });
+    } while (FindNextFileW(search, &found));
+    FindClose(search);
+    std::sort(files.begin(), files.end(),
+              [](const FileEntry& a, const FileEntry& b) { return UpperCased(a.name) < UpperCased(b.name); });
+    return files;
+}
+
+bool FileExists(const std::string& path) {
+    const DWORD attributes = AttributesOf(path);
+    return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+bool FolderExists(const std::string& path) {
+    const DWORD attributes = AttributesOf(path);
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+bool DeleteOneFile(const std::string& path) {
+    if (!IsUsable(path)) return false;
+    if (DeleteFileW(NativePath(path).c_str())) return true;
+    const DWORD error = GetLastError();
+    return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
+}
+
+bool MakeFolders(const std::string& path) {
+    if (!IsUsable(path)) return false;
+    for (size_t end = path.find_first_of("\\/", 1); end != std::string::npos;
+         end = path.find_first_of("\\/", end + 1)) {
+        CreateDirectoryW(NativePath(path.substr(0, end)).c_str(), nullptr);  // fails on a drive or share: no matter
+    }
+    return CreateDirectoryW(NativePath(path).c_str(), nullptr) || FolderExists(path);
+}
+
+}  // namespace platform

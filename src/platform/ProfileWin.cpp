@@ -1,0 +1,81 @@
+// ProfileWin.cpp - INI files through the system's profile functions.
+//
+// Those keep a file in the encoding that it has, and make a new one in the 8-bit encoding of the system, where a
+// path may lose characters. So a missing file is made as an empty UTF-16 one first, and an 8-bit one becomes
+// UTF-16 when it is to take such a text.
+#include <windows.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <vector>
+
+#include "platform/Files.h"
+#include "platform/IniText.h"
+#include "platform/Profile.h"
+#include "platform/WideTextWin.h"
+
+namespace platform {
+
+namespace {
+
+constexpr uint64_t kLargestFile = 16u << 20;  // bytes
+
+bool FitsSystemText(const std::wstring& text) {
+    BOOL replaced = FALSE;
+    const int size = static_cast<int>(text.size());
+    if (size == 0) return true;
+    return WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, text.data(), size, nullptr, 0, nullptr, &replaced) > 0 &&
+           !replaced;
+}
+
+bool WriteAsUtf16(const std::string& file, const std::string& text) {
+    const std::wstring wide = L"\xFEFF" + WideFromUtf8(text);
+    return WriteFileWhole(file, { reinterpret_cast<const uint8_t*>(wide.data()), wide.size() * sizeof(wchar_t) });
+}
+
+// False when the file cannot be made ready to take the text without a loss.
+bool PrepareFile(const std::string& file, const std::wstring& text) {
+    std::vector<uint8_t> bytes;
+    if (!ReadWholeFile(file, kLargestFile, &bytes)) return FileExists(file) || WriteAsUtf16(file, "");
+    if (bytes.empty()) return WriteAsUtf16(file, "");
+    const bool isUtf16 = bytes.size() >= 2 && bytes[0] == 0xFF && bytes[1] == 0xFE;
+    return isUtf16 || FitsSystemText(text) || WriteAsUtf16(file, DecodeIniText(bytes));
+}
+
+// Reading takes one pair of quotes and the blanks around a value away.
+std::wstring Protected(std::wstring value) {
+    std::replace_if(
+        value.begin(), value.end(), [](wchar_t c) { return c == L'\r' || c == L'\n' || c == 0; }, L' ');
+    if (value.empty()) return value;
+    const auto isOdd = [](wchar_t c) { return c == L' ' || c == L'\t' || c == L'"' || c == L'\''; };
+    return isOdd(value.front()) || isOdd(value.back()) ? L"\"" + value + L"\"" : value;
+}
+
+}  // namespace
+
+std::string ReadProfile(const std::string& file, const std::string& section, const std::string& key,
+                        const std::string& fallback, size_t limit) {
+    std::wstring value(limit + 1, L'\0');
+    value.resize(GetPrivateProfileStringW(WideFromUtf8(section).c_str(), WideFromUtf8(key).c_str(),
+                                          WideFromUtf8(fallback).c_str(), value.data(),
+                                          static_cast<DWORD>(value.size()), WideFromUtf8(file).c_str()));
+    return Utf8FromWide(value);
+}
+
+bool WriteProfile(const std::string& file, const std::string& section, const std::string& key,
+                  const std::string& value) {
+    const std::wstring text = Protected(WideFromUtf8(value));
+    return PrepareFile(file, text) &&
+           WritePrivateProfileStringW(WideFromUtf8(section).c_str(), WideFromUtf8(key).c_str(), text.c_str(),
+                                      WideFromUtf8(file).c_str()) != 0;
+}
+
+std::string Utf8FromSystemText(std::string_view text) {
+    const int size = static_cast<int>(std::min<size_t>(text.size(), INT32_MAX));
+    std::wstring wide(text.size(), L'\0');
+    if (size > 0)
+        wide.resize(static_cast<size_t>(MultiByteToWideChar(CP_ACP, 0, text.data(), size, wide.data(), size)));
+    return Utf8FromWide(wide);
+}
+
+}  // namespace platform

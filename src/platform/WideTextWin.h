@@ -1,0 +1,68 @@
+// WideTextWin.h - UTF-8, as the program uses it, and UTF-16, as Windows does.
+//
+// A file name may hold half of a surrogate pair. Such a half travels as a three-byte sequence of its own, which the
+// system's own conversion would replace, and the file could not be found again.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+// Takes one code point off the front of the text; a broken sequence yields U+FFFD and loses one byte.
+inline uint32_t TakeCode(std::string_view* text) {
+    const auto lead = static_cast<uint8_t>(text->front());
+    const size_t length = lead < 0x80 ? 1 : lead < 0xC2 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF5 ? 4 : 0;
+    uint32_t code = length <= 1 ? lead : lead & (0x7Fu >> length);
+    bool good = length != 0 && text->size() >= length;
+    for (size_t i = 1; good && i < length; ++i) {
+        const auto byte = static_cast<uint8_t>((*text)[i]);
+        good = (byte & 0xC0) == 0x80;
+        code = code << 6 | (byte & 0x3F);
+    }
+    constexpr uint32_t kFirstOfLength[5] = { 0, 0, 0x80, 0x800, 0x10000 };
+    good = good && code >= kFirstOfLength[length] && code <= 0x10FFFF;
+    text->remove_prefix(good ? length : 1);
+    return good ? code : 0xFFFD;
+}
+
+inline std::wstring WideFromUtf8(std::string_view text) {
+    std::wstring wide;
+    wide.reserve(text.size());
+    while (!text.empty()) {
+        const uint32_t code = TakeCode(&text);
+        if (code < 0x10000) {
+            wide.push_back(static_cast<wchar_t>(code));
+        } else {
+            wide.push_back(static_cast<wchar_t>(0xD800 + ((code - 0x10000) >> 10)));
+            wide.push_back(static_cast<wchar_t>(0xDC00 + (code & 0x3FF)));
+        }
+    }
+    return wide;
+}
+
+inline std::string Utf8FromWide(std::wstring_view wide) {
+    const auto isHigh = [](uint32_t unit) { return unit >= 0xD800 && unit < 0xDC00; };
+    const auto isLow = [](uint32_t unit) { return unit >= 0xDC00 && unit < 0xE000; };
+    std::string text;
+    text.reserve(wide.size());
+    for (size_t i = 0; i < wide.size(); ++i) {
+        uint32_t code = wide[i];
+        if (isHigh(code) && i + 1 < wide.size() && isLow(wide[i + 1]))
+            code = 0x10000 + ((code - 0xD800) << 10) + (wide[++i] - 0xDC00u);
+        if (code < 0x80) {
+            text.push_back(static_cast<char>(code));
+            continue;
+        }
+        const int tail = code < 0x800 ? 1 : code < 0x10000 ? 2 : 3;
+        constexpr uint32_t kLead[4] = { 0, 0xC0, 0xE0, 0xF0 };
+        text.push_back(static_cast<char>(kLead[tail] | code >> (6 * tail)));
+        for (int k = tail - 1; k >= 0; --k) text.push_back(static_cast<char>(0x80 | (code >> (6 * k) & 0x3F)));
+    }
+    return text;
+}
+
+}  // namespace platform

@@ -1,0 +1,55 @@
+// MapFixture.h - a test airport on a map of 800 x 600 pixels, half a pixel to the metre, north up.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "app/Settings.h"
+#include "fakes/BuildObjects.h"
+#include "fakes/FakePlatform.h"
+#include "fakes/RecordingCanvas.h"
+#include "map/FaultMarker.h"
+#include "map/MapView.h"
+#include "map/PaintMap.h"
+#include "map/Palette.h"
+#include "map/Tools.h"
+
+class MapFixture : public testing::Test {
+protected:
+    static constexpr int kWidth = 800, kHeight = 600;
+
+    void SetUp() override {
+        ResetFakes();
+        model::ClearModel();
+        app::settings = {};
+        app::settings.showLatLongGrid = false;
+        map::view = {};
+        map::layers = {};
+        map::simAircraft = {};
+        map::faultMarker = {};
+        map::tools = {};
+        map::ResetTools();
+        map::ResetView(build::kMiddle);
+        Scale(0.5);
+        ResetFakes();
+    }
+    void TearDown() override {
+        map::ResetTools();
+        model::ClearModel();
+    }
+
+    static void Open() {
+        build::Airport("KTST");
+        model::state.loaded = true;
+    }
+    static void Scale(double pixelsPerMetre) {
+        map::view.span = kHeight / pixelsPerMetre;
+        map::ResizeView(kWidth, kHeight);
+    }
+    static platform::Pixel PixelOf(build::Place place) { return map::WorldToPixel(build::At(place)); }
+
+    static void Paint(RecordingCanvas* log) { map::PaintMap(&log->canvas); }
+    static void Paint() {
+        RecordingCanvas log;
+        Paint(&log);
+    }
+};
