@@ -1,10 +1,14 @@
 // Settings.h - the user's settings. Includes no other folder, so that every folder may read them.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace app {
+
+constexpr size_t kPreviousFiles = 10, kMostUsedSpecs = 20;
 
 // Defaults are those of a first start.
 struct Settings {
@@ -20,8 +24,10 @@ struct Settings {
     bool latLongGridDecimal = true;
     int nextUpdateNotice = 3;  // months
     bool windowMaximized = false;
-    std::string lastSavedFile;     // UTF-8 path
-    std::string overrideFsFolder;  // UTF-8 path; read only, set by hand
+    std::string lastSavedFile;               // UTF-8 path
+    std::string overrideFsFolder;            // UTF-8 path; read only, set by hand
+    std::vector<std::string> previousFiles;  // "IDENT,path", newest first, at most kPreviousFiles
+    std::vector<std::string> mostUsedSpecs;  // names, the most used first, at most kMostUsedSpecs
 };
 
 extern Settings settings;

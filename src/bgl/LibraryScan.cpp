@@ -1,0 +1,229 @@
+// LibraryScan.cpp - see LibraryScan.h.
+#include "bgl/LibraryScan.h"
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+#include <vector>
+
+#include "bgl/AirportIndex.h"
+#include "bgl/IndexCache.h"
+#include "bgl/LibraryHost.h"
+#include "bgl/NameList.h"
+#include "bgl/RecordIds.h"
+#include "bgl/SceneryAreas.h"
+#include "bgl/SceneryFile.h"
+#include "model/Ident.h"
+#include "platform/Files.h"
+#include "platform/Platform.h"
+#include "platform/Text.h"
+
+namespace bgl {
+
+namespace {
+
+constexpr const char* kCollecting = "Collecting Airports...";
+
+// A sound file stays far below these; a damaged one must not make us read it whole.
+constexpr uint64_t kMostSections = 1024, kMostTableBytes = 1 << 16, kMostNameBytes = 64 << 20;
+
+constexpr uint32_t kClassBits = 0xFFFF;          // the upper half of the word tells the size of the cell ids
+constexpr uint32_t kLaterSummarySection = 0x2C;  // only files for later simulators have it
+constexpr uint32_t kFirstLaterClass = 5, kLastLaterClass = 7;  // and sections of these classes
+
+constexpr int kScanned = 5, kExamined = 85, kFileRead = 30, kDone = 100;  // percent of the progress bar
+
+bool IsForLaterSimulator(const SceneryFile& file) {
+    return std::any_of(file.sections.begin(), file.sections.end(), [](const SectionEntry& section) {
+        const uint32_t sectionClass = section.sectionClass & kClassBits;
+        return section.type == kLaterSummarySection || section.sectionClass > kClassBits ||
+               (sectionClass >= kFirstLaterClass && sectionClass <= kLastLaterClass);
+    });
+}
+
+// Opens the structure with what it may read kept within the limits above.
+bool ReadLimitedStructure(const ByteSource& source, SceneryFile* file) {
+    ByteSource head = source;
+    head.size = std::min(source.size, kFileHeaderSize + kMostSections * kSectionEntrySize);
+    if (!ReadStructure(head, file)) return false;
+    file->source = source;
+    file->tableBytesLeft = std::min(source.size, kMostTableBytes);
+    file->recordBytesLeft = std::min(source.size, kMostNameBytes);
+    return true;
+}
+
+void AddAirports(Bytes subsection, uint32_t file) {
+    NameListView list;
+    if (!OpenNameList(subsection, &list)) return;
+    uint64_t left = kMostNameBytes;  // in a damaged list thousands of airports may share one endless name
+    for (uint32_t i = 0; i < list.airportCount; ++i) {
+        const NamedAirport airport = NameListEntry(list, i);
+        const size_t size = airport.country.size() + airport.state.size() + airport.city.size() + airport.name.size();
+        if (size > left) break;
+        left -= size;
+        AddAirport(airport.country, airport.state, airport.city, airport.name,
+                   model::UnpackIdent(airport.ident >> model::kIdentShift), file);
+    }
+}
+
+bool AddNameLists(SceneryFile* structure, const SectionEntry& section, uint32_t file) {
+    const std::vector<SubsectionEntry> subsections = ReadSubsections(structure, section);
+    for (const SubsectionEntry& subsection : subsections) {
+        if (!CoverRecords(structure, subsection)) break;
+        AddAirports(ReadStretch(structure->source, subsection.offset, subsection.size), file);
+    }
+    return !subsections.empty();
+}
+
+FileKind KindAfter(ScanResult result, const std::string& path) {
+    if (result != ScanResult::AirportsFound) return FileKind::NoAirports;
+    return IsStockFileName(path) ? FileKind::Stock : FileKind::AddOn;
+}
+
+void CountResult(ScanResult result) {
+    CollectionReport& report = library.report;
+    uint32_t* const counters[] = { &report.cannotOpen, &report.notScenery, &report.noAirports, &report.withAirports };
+    ++*counters[static_cast<size_t>(result)];
+}
+
+// Whether the file differs from what was known of it.
+bool ScanFile(const std::string& path, uint32_t time, uint32_t layer) {
+    const size_t known = library.files.size();
+    const uint32_t number = FileNumberOf(path);
+    LibraryFile& file = library.files[number];
+    // Several areas may lead to one folder: then the highest layer counts.
+    if (file.present) layer = std::max(file.layer, layer);
+    const bool changed = number == known || file.writeTime != time || file.layer != layer;
+    if (!file.present) ++library.report.present;
+    file.present = true;
+    if (file.writeTime != time) file.kind = FileKind::NotExamined;
+    file.layer = layer;
+    file.writeTime = time;
+    return changed;
+}
+
+// Whether anything differs from what the caches told.
+bool ScanLibrary(const std::string& simulatorFolder) {
+    if (simulatorFolder.empty()) return false;
+    bool changed = false;
+    for (const SceneryArea& area : ReadSceneryAreas(simulatorFolder)) {
+        ++library.report.areas;
+        const std::string folder = AreaFileFolder(area);
+        for (const platform::FileEntry& entry : platform::ListFiles(folder, ".bgl")) {
+            changed |= ScanFile(folder + "\\" + entry.name, ScanTime(entry.writeTime), area.layer);
+        }
+    }
+    for (const std::string& saved : library.savedFiles) {
+        const auto found = library.fileOfPath.find(saved);
+        if (found != library.fileOfPath.end()) library.files[found->second].kind = FileKind::NotExamined;
+    }
+    library.savedFiles.clear();
+    return changed || library.report.present != library.files.size();
+}
+
+// The box repaints at each call, and there may be thousands of files.
+void MoveProgress(int percent, int* shown) {
+    if (percent != *shown) SetProgress(percent);
+    *shown = percent;
+}
+
+void ExamineFiles() {
+    std::vector<uint32_t> files;
+    for (uint32_t i = 0; i < library.files.size(); ++i) {
+        if (library.files[i].present && library.files[i].kind == FileKind::NotExamined) files.push_back(i);
+    }
+    int shown = kScanned;
+    for (size_t i = 0; i < files.size(); ++i) {
+        const ScanResult result = ScanBglHeader(files[i]);
+        CountResult(result);
+        LibraryFile& file = library.files[files[i]];
+        file.kind = KindAfter(result, file.path);
+        const size_t share = static_cast<size_t>(kExamined - kScanned) * (i + 1) / files.size();
+        MoveProgress(kScanned + static_cast<int>(share), &shown);
+    }
+}
+
+void BuildPlaces(int from, int to) {
+    for (int step = 0; step < kTreeSteps; ++step) {
+        BuildPlacesStep(step);
+        SetProgress(from + (to - from) * (step + 1) / kTreeSteps);
+    }
+}
+
+double SecondsSince(std::chrono::steady_clock::time_point start) {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+void ShowFailure(ScanResult result, const std::string& path) {
+    const std::string text = result == ScanResult::CannotOpen ? "Unable to open file \"" + path + "\""
+                             : result == ScanResult::NotScenery
+                                 ? "Selected file  " + path + "  is not in recognised AFD format"
+                                 : "Selected file  " + path + "  does not contain any airports";
+    platform::ShowMessage(text, platform::Buttons::Ok, platform::Icon::Exclamation);
+}
+
+bool IsInSceneryFolder(const std::string& path) {
+    return platform::UpperCased(path).find("SCENERY") != std::string::npos;
+}
+
+}  // namespace
+
+ScanResult ScanBglHeader(uint32_t file) {
+    ++library.report.opened;
+    const platform::FileHandle handle = platform::OpenForReading(library.files[file].path);
+    if (!handle) return ScanResult::CannotOpen;
+    SceneryFile structure;
+    if (!ReadLimitedStructure(SourceOfFile(handle.get()), &structure)) return ScanResult::NotScenery;
+    if (IsForLaterSimulator(structure)) return ScanResult::NoAirports;
+    bool found = false;
+    for (const SectionEntry& section : structure.sections) {
+        if ((section.sectionClass & kClassBits) == kNameList) found |= AddNameLists(&structure, section, file);
+    }
+    return found ? ScanResult::AirportsFound : ScanResult::NoAirports;
+}
+
+void CollectAllAirports(const std::string& simulatorFolder, const std::string& cacheFolder) {
+    const auto start = std::chrono::steady_clock::now();
+    ShowProgress(kCollecting);
+    ReleaseLibrary();
+    CacheTexts caches = cacheFolder.empty() ? CacheTexts{} : ReadCaches(cacheFolder);
+    const bool cached = ParseFileList(caches, simulatorFolder);
+    const bool changed = ScanLibrary(simulatorFolder);
+    library.report.listSeconds = SecondsSince(start);
+    SetProgress(kScanned);
+    if (cached) ParseAirportIndex(std::move(caches.airportIndex));
+    const auto examineStart = std::chrono::steady_clock::now();
+    ExamineFiles();
+    library.report.examineSeconds = SecondsSince(examineStart);
+    BuildPlaces(kExamined, kDone);
+    // Writing safely takes longer than all the rest when nothing is new. And a library out of reach, say on a drive
+    // that is not there, says nothing against what is known of it.
+    const bool isNew = !cached || changed || library.report.opened > 0;
+    if (isNew && library.report.areas > 0 && !cacheFolder.empty())
+        library.report.cachesKept = WriteCaches(cacheFolder, ComposeCaches());
+    library.report.allSeconds = SecondsSince(start);
+    FinishProgress();
+}
+
+bool CollectAirportsFromFile(const std::string& path) {
+    ShowProgress(kCollecting);
+    ReleaseLibrary();
+    const uint32_t number = FileNumberOf(path);
+    LibraryFile& file = library.files[number];
+    file.present = true;
+    library.report.present = 1;
+    file.kind = IsInSceneryFolder(path) && IsStockFileName(path) ? FileKind::Stock : FileKind::AddOn;
+    const ScanResult result = ScanBglHeader(number);
+    CountResult(result);
+    if (result == ScanResult::AirportsFound) {
+        SetProgress(kFileRead);
+        BuildPlaces(kFileRead, kDone);
+    }
+    CloseProgress();
+    if (result == ScanResult::AirportsFound) return true;
+    ReleaseLibrary();
+    ShowFailure(result, path);
+    return false;
+}
+
+}  // namespace bgl

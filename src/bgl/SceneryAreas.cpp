@@ -1,0 +1,77 @@
+// SceneryAreas.cpp - see SceneryAreas.h.
+#include "bgl/SceneryAreas.h"
+
+#include <algorithm>
+#include <charconv>
+#include <initializer_list>
+
+#include "platform/Files.h"
+#include "platform/IniText.h"
+#include "platform/Text.h"
+
+namespace bgl {
+
+namespace {
+
+constexpr std::string_view kAreaPrefix = "Area.";
+
+bool IsSeparator(char c) { return c == '\\' || c == '/'; }
+
+std::string_view WithoutLastSeparators(std::string_view path) {
+    while (!path.empty() && IsSeparator(path.back())) path.remove_suffix(1);
+    return path;
+}
+
+bool IsFullPath(std::string_view path) {
+    const bool namesServer = path.size() >= 2 && IsSeparator(path[0]) && IsSeparator(path[1]);
+    return namesServer || path.find(':') != std::string_view::npos;
+}
+
+// Digits at the start of the text; whatever is no layer at all is the lowest.
+uint32_t ParseLayer(std::string_view text) {
+    uint32_t layer = 0;
+    if (!text.empty() && text.front() == '+') text.remove_prefix(1);
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), layer);
+    return result.ec == std::errc::result_out_of_range ? UINT32_MAX : layer;
+}
+
+// The system's own spelling matters only where it tells upper from lower case.
+std::string Spelled(const std::string& folder, std::initializer_list<const char*> names,
+                    bool (*exists)(const std::string&)) {
+    for (const char* name : names) {
+        if (exists(folder + "\\" + name)) return folder + "\\" + name;
+    }
+    return folder + "\\" + *names.begin();
+}
+
+}  // namespace
+
+std::string FullPath(const std::string& simulatorFolder, std::string_view path) {
+    path = WithoutLastSeparators(path);
+    if (IsFullPath(path)) return std::string(path);
+    while (!path.empty() && IsSeparator(path.front())) path.remove_prefix(1);
+    return std::string(WithoutLastSeparators(simulatorFolder)) + "\\" + std::string(path);
+}
+
+std::vector<SceneryArea> ParseSceneryAreas(std::string_view text, const std::string& simulatorFolder) {
+    std::vector<SceneryArea> areas;
+    for (const platform::IniSection& section : platform::ParseIni(text)) {
+        if (!platform::EqualNoCase(section.name.substr(0, kAreaPrefix.size()), kAreaPrefix)) continue;
+        const std::string_view local = platform::IniValue(section, "Local");
+        if (WithoutLastSeparators(local).empty()) continue;
+        areas.push_back({ FullPath(simulatorFolder, local), ParseLayer(platform::IniValue(section, "Layer")) });
+    }
+    return areas;
+}
+
+std::vector<SceneryArea> ReadSceneryAreas(const std::string& simulatorFolder) {
+    const std::string folder(WithoutLastSeparators(simulatorFolder));
+    const std::string path = Spelled(folder, { "Scenery.cfg", "scenery.cfg", "SCENERY.CFG" }, platform::FileExists);
+    return ParseSceneryAreas(platform::ReadIniText(path), folder);
+}
+
+std::string AreaFileFolder(const SceneryArea& area) {
+    return Spelled(area.folder, { "scenery", "Scenery", "SCENERY" }, platform::FolderExists);
+}
+
+}  // namespace bgl

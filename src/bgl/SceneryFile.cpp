@@ -1,0 +1,147 @@
+// SceneryFile.cpp - see SceneryFile.h.
+#include "bgl/SceneryFile.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "bgl/RecordIds.h"
+#include "model/Ident.h"
+#include "model/Records.h"
+#include "platform/Text.h"
+
+namespace bgl {
+
+namespace {
+
+constexpr uint64_t kLongestStretch = 64 << 20;  // the largest stock file is a tenth of that
+constexpr uint64_t kSectionCountOffset = 20;
+
+std::string_view LastComponent(std::string_view path) {
+    const size_t separator = path.find_last_of("\\/");
+    return separator == std::string_view::npos ? path : path.substr(separator + 1);
+}
+
+// As many whole entries as were asked for and lie in the file.
+template <class Entry>
+std::vector<Entry> ReadTable(const ByteSource& source, uint64_t offset, uint64_t count) {
+    if (offset >= source.size) return {};
+    std::vector<Entry> entries(static_cast<size_t>(std::min(count, (source.size - offset) / sizeof(Entry))));
+    const size_t got = ReadSource(source, offset, entries.data(), entries.size() * sizeof(Entry));
+    entries.resize(got / sizeof(Entry));
+    return entries;
+}
+
+#pragma pack(push, 1)
+struct RecordStart {
+    uint16_t id;
+    uint32_t size;
+    model::AirportRecord airport;
+};
+#pragma pack(pop)
+
+// Walks the heads of the records between `offset` and `end` for the wanted airport.
+bool FindInRecords(const ByteSource& source, uint64_t offset, uint64_t end, std::string_view ident,
+                   AirportPlace* place) {
+    while (offset + kRecordHeadSize <= end) {
+        RecordStart start;
+        const size_t wanted = static_cast<size_t>(std::min<uint64_t>(sizeof start, end - offset));
+        const size_t got = ReadSource(source, offset, &start, wanted);
+        if (got < kRecordHeadSize || start.size < kRecordHeadSize) return false;
+        if (start.id == kAirportRecord) {
+            if (got < sizeof start) return false;
+            const std::string found = model::UnpackIdent(start.airport.ident >> model::kIdentShift);
+            if (ident.empty() || platform::EqualNoCase(found, ident)) {
+                place->offset = offset;
+                place->size = start.size;
+                return true;
+            }
+        }
+        offset += start.size;
+    }
+    return false;
+}
+
+}  // namespace
+
+bool IsStockFileName(std::string_view path) {
+    constexpr size_t kPrefix = 3, kDigits = 5;
+    const std::string_view name = LastComponent(path);
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    return name.size() == kPrefix + kDigits + 4 && platform::EqualNoCase(name.substr(0, kPrefix), "AP9") &&
+           std::all_of(name.begin() + kPrefix, name.begin() + kPrefix + kDigits, isDigit) &&
+           platform::EqualNoCase(name.substr(kPrefix + kDigits), ".bgl");
+}
+
+bool IsOwnFileName(std::string_view path) { return platform::EqualNoCase(LastComponent(path).substr(0, 4), "TV2_"); }
+
+ByteSource SourceOfFile(platform::OpenFile* file) { return { file, {}, platform::FileSize(file) }; }
+
+ByteSource SourceOfBytes(Bytes bytes) { return { nullptr, bytes, bytes.size() }; }
+
+size_t ReadSource(const ByteSource& source, uint64_t offset, void* buffer, size_t size) {
+    if (source.file) return platform::ReadAt(source.file, offset, buffer, size);
+    if (offset >= source.size) return 0;
+    const size_t held = std::min(size, source.memory.size() - static_cast<size_t>(offset));
+    if (held > 0) std::memcpy(buffer, source.memory.data() + offset, held);
+    return held;
+}
+
+std::vector<uint8_t> ReadStretch(const ByteSource& source, uint64_t offset, uint64_t size) {
+    if (offset >= source.size) return {};
+    const uint64_t held = std::min(size, source.size - offset);
+    if (held > kLongestStretch) return {};
+    std::vector<uint8_t> bytes(static_cast<size_t>(held));
+    bytes.resize(ReadSource(source, offset, bytes.data(), bytes.size()));
+    return bytes;
+}
+
+bool ReadStructure(const ByteSource& source, SceneryFile* file) {
+    uint8_t header[kFileHeaderSize];
+    if (ReadSource(source, 0, header, sizeof header) < sizeof header) return false;
+    if (ValueAt<uint32_t>(header, 0) != kFileMagic) return false;
+    file->source = source;
+    file->sections = ReadTable<SectionEntry>(source, kFileHeaderSize, ValueAt<uint32_t>(header, kSectionCountOffset));
+    file->tableBytesLeft = file->recordBytesLeft = source.size;
+    return true;
+}
+
+std::vector<SubsectionEntry> ReadSubsections(SceneryFile* file, const SectionEntry& section) {
+    const uint64_t most = file->tableBytesLeft / kSubsectionEntrySize;
+    const uint64_t count = std::min<uint64_t>(section.subsectionCount, most);
+    std::vector<SubsectionEntry> entries = ReadTable<SubsectionEntry>(file->source, section.tableOffset, count);
+    file->tableBytesLeft -= entries.size() * kSubsectionEntrySize;
+    for (SubsectionEntry& entry : entries) {
+        const uint64_t held = entry.offset < file->source.size ? file->source.size - entry.offset : 0;
+        entry.size = static_cast<uint32_t>(std::min<uint64_t>(entry.size, held));
+    }
+    return entries;
+}
+
+bool CoverRecords(SceneryFile* file, const SubsectionEntry& subsection) {
+    if (subsection.size > file->recordBytesLeft) return false;
+    file->recordBytesLeft -= subsection.size;
+    return true;
+}
+
+bool FindAirport(SceneryFile* file, std::string_view ident, AirportPlace* place) {
+    for (const SectionEntry& section : file->sections) {
+        if (section.type != kAirportSection || section.sectionClass != kByCell) continue;
+        for (const SubsectionEntry& subsection : ReadSubsections(file, section)) {
+            if (!CoverRecords(file, subsection)) return false;
+            const uint64_t end = uint64_t{ subsection.offset } + subsection.size;
+            if (FindInRecords(file->source, subsection.offset, end, ident, place)) return true;
+        }
+    }
+    return false;
+}
+
+bool FindAirportInFile(const std::string& path, std::string_view ident, AirportPlace* place) {
+    const platform::FileHandle handle = platform::OpenForReading(path);
+    SceneryFile file;
+    if (!handle || !ReadStructure(SourceOfFile(handle.get()), &file)) return false;
+    if (!FindAirport(&file, ident, place)) return false;
+    place->path = path;
+    return true;
+}
+
+}  // namespace bgl
