@@ -5,6 +5,7 @@
 
 #include "model/Geodesy.h"
 #include "model/Geometry.h"
+#include "model/SceneryObject.h"
 
 namespace map {
 
@@ -34,9 +35,19 @@ struct MapLayers {
     bool starts = false;
     bool navaids = false;
     bool holdShortLimits = false;
+    // Links on this taxiway name stand out; null highlights none. Compared only, never followed.
+    const model::SceneryObject* highlightedDesignator = nullptr;
 };
 
 extern MapLayers layers;
+
+// The aircraft in the simulator, as the last poll of the simulator link saw it.
+struct SimAircraft {
+    bool active = false;  // the link is up
+    LatLon position;
+};
+
+extern SimAircraft simAircraft;
 
 void ResizeView(int32_t width, int32_t height);  // measures the client area
 model::Point WorldToScreen(LatLon position);
@@ -55,6 +66,7 @@ void PanStep(PanDirection direction);
 void PanDragStart(Pixel at);
 void PanDrag(Pixel at);
 void SlewHome();                                 // also places the simulator aircraft, when the link is up
+void JumpHere(Pixel at);                         // places the simulator aircraft; the view stays
 void ResetView(LatLon home);                     // on loading an airport
 void OnWheel(int delta, bool ctrl, bool shift);  // raw wheel delta; accumulates to notches of 120
 

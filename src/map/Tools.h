@@ -47,4 +47,7 @@ void OnButtonUp(model::Pixel at, KeyState keys);
 void OnMiddleDown(model::Pixel at);
 void OnMiddleUp();
 
+// The next (or previous) taxiway name stands out on the map; after the last one none does.
+void CycleHighlight(bool backwards);
+
 }  // namespace map

@@ -1,0 +1,24 @@
+// LinkSplit.h - new links, and links split by a node that lies on them. All of it recorded edits; the
+// caller has begun the user action.
+#pragma once
+
+#include "model/Geodesy.h"
+#include "model/SceneryObject.h"
+
+namespace map {
+
+constexpr double kOnLinkDistance = 6.096;  // metres (20 feet): from the link, and from its ends at least
+
+// Whether the point lies on the link from a to b; if so it is moved onto it.
+bool OnLinkTest(model::LatLon a, model::LatLon b, model::LatLon* point);
+
+// Adds a link made by a tool. A link that joins the same two objects, either way round, is removed first.
+void AddLink(model::SceneryObject* link);
+
+// Two new links, from the node to either end of the old link, take its place.
+void SplitLink(model::SceneryObject* link, model::SceneryObject* node);
+
+// Splits every link that passes under the node, which moves onto them.
+void JoinNodeIntoLinks(model::SceneryObject* node);
+
+}  // namespace map

@@ -1,0 +1,108 @@
+// PaintMap.cpp - the order of the layers, and what they share.
+#include "map/PaintMap.h"
+
+#include <array>
+
+#include "app/Settings.h"
+#include "map/MapView.h"
+#include "map/Painter.h"
+#include "model/ObjectList.h"
+
+namespace map {
+
+namespace {
+
+constexpr double kMarkingScale = 0.3;  // pixels per metre from which taxiway markings are drawn
+constexpr int kCrossHairReach = 22;    // pixels, each side of the aircraft
+
+void PaintBackground(const Painter& painter) {
+    Fill(painter, InkOf(Ink::Background), InkOf(Ink::Background));
+    const Pixel corner = { view.clientWidth - 1, view.clientHeight - 1 };
+    const std::array corners = { Pixel{ 0, 0 }, Pixel{ corner.x, 0 }, corner, Pixel{ 0, corner.y } };
+    platform::DrawPolygon(painter.canvas, corners);
+}
+
+void PaintGround(Painter* painter) {
+    PaintAprons(painter);
+    if (app::settings.showLatLongGrid) PaintGrid(painter);
+    LayCorners(&painter->network, 0);
+    PaintRunwayShoulders(painter);  // under the taxiways that cross them
+    PaintTaxiwaySurfaces(painter->canvas, painter->network);
+    PaintRunwaySurfaces(painter);
+    PaintRunwayMarkings(painter);
+    PaintHelipads(painter);
+    if (painter->scale >= kMarkingScale) PaintTaxiwayMarkings(painter);
+}
+
+void PaintPlaces(Painter* painter) {
+    if (layers.network) {
+        PaintParkingSpots(painter);
+        PaintTaxiNodes(painter);
+        PaintTaxiLinks(painter);
+    }
+    if (layers.lights) PaintRunwayLights(painter);
+    PaintReferencePoint(painter);
+    PaintTower(painter);
+    if (layers.starts) PaintStartLocations(painter);
+    if (layers.navaids) PaintNavaids(painter);
+    if (app::settings.showLabels != 0 && layers.network) PaintParkingLabels(painter);
+}
+
+void PaintCrossHair(Canvas* canvas) {
+    const Point at = WorldToScreen(simAircraft.position);
+    if (!Meets(BoundsOf(at, kCrossHairReach), ClipBox())) return;
+    const Pixel centre = ToPixel(at);
+    platform::SetPen(canvas, 1, InkOf(Ink::CrossHair));
+    platform::DrawLine(canvas, { centre.x - kCrossHairReach, centre.y }, { centre.x + kCrossHairReach, centre.y });
+    platform::DrawLine(canvas, { centre.x, centre.y - kCrossHairReach }, { centre.x, centre.y + kCrossHairReach });
+}
+
+}  // namespace
+
+void Fill(const Painter& painter, Colour fill, Colour outline) {
+    platform::SetPen(painter.canvas, 1, outline);
+    platform::SetBrush(painter.canvas, fill);
+}
+
+void FillOnly(const Painter& painter, Colour fill) {
+    platform::SetPen(painter.canvas, platform::kNoPen, 0);
+    platform::SetBrush(painter.canvas, fill);
+}
+
+void Stroke(const Painter& painter, int width, Colour colour) {
+    platform::SetPen(painter.canvas, width, colour);
+    platform::SetBrush(painter.canvas, platform::kNoBrush);
+}
+
+Colour FillInk(const SceneryObject* object, Ink normal) {
+    return InkOf(model::IsSelected(object) ? Ink::SelectedFill : normal);
+}
+
+Colour OutlineInk(const SceneryObject* object, Ink normal) {
+    return InkOf(model::IsSelected(object) ? Ink::SelectedOutline : normal);
+}
+
+void PaintMap(Canvas* canvas) {
+    Painter painter;
+    painter.canvas = canvas;
+    painter.clip = ClipBox();
+    painter.scale = view.pixelsPerMetre;
+    ForgetScreenPlaces();
+    PaintBackground(painter);
+    if (!model::state.airport) return;
+    painter.network = BuildTaxiNetwork();
+    PaintGround(&painter);
+    PaintPlaces(&painter);
+    if (painter.apronSelected) PaintSelectedAprons(&painter);
+    if (layers.lights) PaintApronEdgeLights(&painter);
+    PaintReferenceMarkers(&painter);
+    PaintGuidelines(&painter);
+    PaintFaultMarker(&painter);
+    if (view.lockedToSim && simAircraft.active) PaintCrossHair(canvas);
+}
+
+void PaintFeedback(Canvas* canvas) {
+    if (simAircraft.active && !view.lockedToSim) PaintCrossHair(canvas);
+}
+
+}  // namespace map

@@ -1,0 +1,238 @@
+// PaintNavaids.cpp - ILS, marker beacons, NDBs and VORs.
+//
+// An ILS beam begins at the landing threshold of the runway it serves, as wide as it is there, so that the
+// runway under it stays free for the mouse; without such a runway it begins at the antenna.
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <string>
+
+#include "map/MapView.h"
+#include "map/Painter.h"
+#include "map/RunwayShape.h"
+#include "model/Ident.h"
+#include "model/Positions.h"
+
+namespace map {
+
+namespace {
+
+constexpr double kBeamLength = 5556;                     // 3 nautical miles of the beam are drawn
+constexpr double kMostBeamWidth = 60;                    // degrees; more is no localizer
+constexpr double kAntennaHalf = 22, kAntennaDepth = 3;   // metres: the row of antennas across the course
+constexpr double kGlideSlopeReach = 18, kDmeReach = 11;  // metres from the middle to the corners
+constexpr double kMarkerLength = 70, kMarkerWidth = 28;  // half the lens of a marker beacon
+constexpr double kNdbRadius = 40, kVorRadius = 45;
+constexpr int kLeastSymbol = 9;                  // pixels
+constexpr int kLabelHeight = 13, kLabelGap = 3;  // pixels
+
+enum IlsPart : uint8_t { kLocalizer = 1, kGlideSlope = 2, kDme = 4 };
+constexpr uint8_t kNotDmeOnly = 0x01;
+
+double SymbolReach(double metres) { return std::max(ScaledPixels(metres), kLeastSymbol); }
+
+std::vector<Pixel> ToPixels(std::span<const Point> points) {
+    std::vector<Pixel> pixels;
+    for (const Point& point : points) pixels.push_back(ToPixel(point));
+    return pixels;
+}
+
+LatLon PositionOfCode(uint32_t latitude, uint32_t longitude) { return model::BglToLatLon({ latitude, longitude }); }
+
+void PaintIdent(const Painter& painter, uint32_t packed, Point at, double radius, Colour colour) {
+    const std::string text = model::UnpackIdent(packed >> model::kIdentShift);
+    platform::TextRun run;
+    run.text = text;
+    run.at = ToPixel(at + Point{ radius + kLabelGap, 0 });
+    run.alignY = platform::AlignY::Middle;
+    run.height = kLabelHeight;
+    run.bold = true;
+    run.colour = colour;
+    platform::DrawText(painter.canvas, run);
+}
+
+// Distance along the course from the antenna back to the threshold that this ILS serves, pixels.
+double DistanceToThreshold(const model::IlsPayload& ils, Point antenna, Point course) {
+    const uint32_t ident = ils.body.ident >> model::kIdentShift;
+    double distance = 0;
+    ForEachOfKind(model::kRunway, [&](SceneryObject* runway) {
+        const model::RunwayRecord& body = model::PayloadAs<model::RunwayPayload>(runway).body;
+        const std::array idents = { uint32_t{ body.primaryIls }, uint32_t{ body.secondaryIls } };
+        const RunwayShape shape = ShapeOfRunway(runway);
+        for (size_t i = 0; i < 2; ++i) {
+            if (ident == 0 || idents[i] != ident) continue;
+            const Point offset = antenna - At(shape.ends[i].frame, 0, shape.ends[i].displaced);
+            distance = std::max(distance, offset.x * course.x + offset.y * course.y);
+        }
+    });
+    return distance;
+}
+
+// The chart's feather: the beam's outline, its right half filled, notched at the far end.
+void PaintLocalizer(const Painter& painter, const model::IlsPayload& ils, bool selected, ScreenParts* parts) {
+    const Point antenna = WorldToScreen(PositionOfCode(ils.body.latitude, ils.body.longitude));
+    const Point course = HeadingOnScreen(double{ ils.localizer.heading } * model::kRadiansPerDegree);
+    const Point right = TurnedRight(course);
+    const double width = std::clamp(double{ ils.localizer.width }, 0.0, kMostBeamWidth);
+    const double spread = std::tan(width / 2 * model::kRadiansPerDegree);
+    const double near = DistanceToThreshold(ils, antenna, course), far = near + kBeamLength * painter.scale;
+    const auto at = [&](double side, double distance) {
+        return antenna - course * distance + right * (side * distance * spread);
+    };
+    const Colour line = InkOf(selected ? Ink::SelectedOutline : Ink::Navaid);
+    const Colour fill = InkOf(selected ? Ink::SelectedFill : Ink::NavaidFill);
+    const std::array beam = { at(-1, near), at(1, near), at(1, far), at(-1, far) };
+    const double notch = far - (far - near) * 0.08;
+    if (Meets(BoundsOf(beam), painter.clip)) {
+        parts->beam = ToPixels(beam);
+        const std::array rightHalf = { at(0, near), beam[1], beam[2], at(0, notch) };
+        const std::array leftHalf = { at(0, near), beam[0], beam[3], at(0, notch) };
+        Fill(painter, fill, line);
+        FillPolygon(painter.canvas, rightHalf);
+        Stroke(painter, 1, line);
+        FillPolygon(painter.canvas, leftHalf);
+    }
+    const GroundFrame frame = { antenna, right, course, painter.scale };
+    const double half = std::max(kAntennaHalf, kLeastSymbol / painter.scale);
+    const double depth = std::max(kAntennaDepth, 2 / painter.scale);
+    const auto row = Rectangle(frame, -half, half, -depth, depth);
+    if (!Meets(BoundsOf(row), painter.clip)) return;
+    parts->localizer = ToPixels(row);
+    Fill(painter, selected ? fill : line, line);
+    FillPolygon(painter.canvas, row);
+    PaintIdent(painter, ils.body.ident, antenna, half * painter.scale, line);
+}
+
+void PaintGlideSlope(const Painter& painter, const model::IlsPayload& ils, bool selected, ScreenParts* parts) {
+    const Point at = WorldToScreen(PositionOfCode(ils.glideSlope.latitude, ils.glideSlope.longitude));
+    const double reach = SymbolReach(kGlideSlopeReach);
+    if (!Meets(BoundsOf(at, reach), painter.clip)) return;
+    // The point shows where the glide path comes from: against the course.
+    const Point back = HeadingOnScreen(double{ ils.localizer.heading } * model::kRadiansPerDegree) * -reach;
+    const Point side = TurnedRight(back);
+    const std::array corners = { at + back, at - back * 0.6 + side * 0.6, at - back * 0.6 - side * 0.6 };
+    parts->glideSlope = ToPixels(corners);
+    Fill(painter, InkOf(selected ? Ink::SelectedFill : Ink::NavaidFill),
+         InkOf(selected ? Ink::SelectedOutline : Ink::Navaid));
+    FillPolygon(painter.canvas, corners);
+}
+
+void PaintDme(const Painter& painter, const model::DmePart& dme, bool selected, std::vector<Pixel>* place) {
+    const Point at = WorldToScreen(PositionOfCode(dme.latitude, dme.longitude));
+    const double reach = SymbolReach(kDmeReach);
+    if (!Meets(BoundsOf(at, reach), painter.clip)) return;
+    const std::array corners = { at + Point{ -reach, -reach }, at + Point{ reach, -reach }, at + Point{ reach, reach },
+                                 at + Point{ -reach, reach } };
+    *place = ToPixels(corners);
+    Stroke(painter, 2, InkOf(selected ? Ink::SelectedFill : Ink::Navaid));
+    FillPolygon(painter.canvas, corners);
+}
+
+void PaintIls(const Painter& painter, SceneryObject* object) {
+    const auto& ils = model::PayloadAs<model::IlsPayload>(object);
+    const bool whole = (object->flags & model::kWholeSelected) != 0;
+    const auto lit = [&](IlsPart part) {
+        return model::IsSelected(object) && (whole || (ils.selectedParts & part) != 0);
+    };
+    ScreenParts& parts = PlaceParts(object);
+    PaintLocalizer(painter, ils, lit(kLocalizer), &parts);
+    if (ils.body.flags & model::kHasGlideSlope) PaintGlideSlope(painter, ils, lit(kGlideSlope), &parts);
+    if (ils.body.flags & model::kHasDme) PaintDme(painter, ils.dme, lit(kDme), &parts.dme);
+}
+
+// A lens across the course.
+void PaintMarkerBeacon(const Painter& painter, SceneryObject* object) {
+    const auto& beacon = model::PayloadAs<model::MarkerBeaconPayload>(object);
+    const Point at = WorldToScreen(model::PositionOf(object));
+    const Point ahead = HeadingOnScreen(beacon.heading * model::kTwoPi / 256);
+    const double length = SymbolReach(kMarkerLength), width = length * (kMarkerWidth / kMarkerLength);
+    if (!Meets(BoundsOf(at, length), painter.clip)) return;
+    const Point tip = TurnedRight(ahead) * length, bulge = ahead * width;
+    const std::array corners = { at - tip - bulge, at + tip - bulge, at + tip + bulge, at - tip + bulge };
+    PlaceCorners(object, ToPixels(corners));
+    Outline lens;
+    MoveTo(&lens, at - tip);
+    QuadTo(&lens, at + bulge * 2, at + tip);
+    QuadTo(&lens, at - bulge * 2, at - tip);
+    Close(&lens);
+    Fill(painter, FillInk(object, Ink::NavaidFill), OutlineInk(object, Ink::Navaid));
+    FillOutline(painter.canvas, lens);
+    constexpr const char* kLetters[] = { "I", "M", "O", "B" };
+    platform::TextRun run;
+    run.text = kLetters[beacon.type & 3];
+    run.at = ToPixel(at);
+    run.alignX = platform::AlignX::Centre;
+    run.alignY = platform::AlignY::Middle;
+    run.height = kLabelHeight;
+    run.colour = OutlineInk(object, Ink::Navaid);
+    if (width * 2 >= kLabelHeight) platform::DrawText(painter.canvas, run);
+}
+
+// Rings of dots around a middle dot.
+void PaintNdb(const Painter& painter, SceneryObject* object) {
+    const Point at = WorldToScreen(model::PositionOf(object));
+    const double radius = SymbolReach(kNdbRadius);
+    if (!Meets(BoundsOf(at, radius), painter.clip)) return;
+    PlaceCircle(object, ToPixel(at), static_cast<int32_t>(radius));
+    const Colour colour = FillInk(object, Ink::Navaid);
+    FillOnly(painter, colour);
+    const double dot = std::max(1.0, std::floor(radius * 0.06));
+    FillCircle(painter.canvas, at, std::max(2.0, std::floor(radius * 0.14)));
+    constexpr struct {
+        double share;
+        int dots;
+    } kRings[] = { { 0.4, 10 }, { 0.68, 16 }, { 0.95, 22 } };
+    for (const auto& ring : kRings) {
+        for (int i = 0; i < ring.dots; ++i) {
+            const double angle = model::kTwoPi * i / ring.dots;
+            FillCircle(painter.canvas, at + Point{ std::sin(angle), -std::cos(angle) } * (radius * ring.share), dot);
+        }
+    }
+    PaintIdent(painter, model::PayloadAs<model::NdbPayload>(object).ident, at, radius, colour);
+}
+
+// A hexagon with a dot; with DME in a square, and a DME by itself the square alone.
+void PaintVor(const Painter& painter, SceneryObject* object) {
+    const auto& vor = model::PayloadAs<model::VorDmePayload>(object).body;
+    const Point at = WorldToScreen(model::PositionOf(object));
+    const double radius = SymbolReach(kVorRadius), half = std::floor(radius * 0.8);
+    if (!Meets(BoundsOf(at, radius), painter.clip)) return;
+    PlaceCircle(object, ToPixel(at), static_cast<int32_t>(radius));
+    const Colour colour = FillInk(object, Ink::Navaid);
+    Stroke(painter, 2, colour);
+    if (vor.flags & model::kHasDme) {
+        const std::array square = { at + Point{ -half, -half }, at + Point{ half, -half }, at + Point{ half, half },
+                                    at + Point{ -half, half } };
+        FillPolygon(painter.canvas, square);
+    }
+    if (vor.flags & kNotDmeOnly) {
+        std::array<Point, 6> hexagon;
+        for (int i = 0; i < 6; ++i) {
+            const double angle = model::kTwoPi * i / 6;
+            hexagon[static_cast<size_t>(i)] = at + Point{ std::cos(angle), std::sin(angle) } * half;
+        }
+        FillPolygon(painter.canvas, hexagon);
+    }
+    FillOnly(painter, colour);
+    FillCircle(painter.canvas, at, std::max(1.0, std::floor(radius * 0.1)));
+    PaintIdent(painter, vor.ident, at, radius, colour);
+}
+
+void PaintNavaid(const Painter& painter, SceneryObject* object) {
+    if (model::IsReplacedStock(object)) return;
+    switch (model::KindOf(object)) {
+    case model::kIls: PaintIls(painter, object); break;
+    case model::kMarkerBeacon: PaintMarkerBeacon(painter, object); break;
+    case model::kNdb: PaintNdb(painter, object); break;
+    case model::kVorDme: PaintVor(painter, object); break;
+    default: break;
+    }
+}
+
+}  // namespace
+
+void PaintNavaids(Painter* painter) {
+    for (SceneryObject* o = model::state.head; o; o = o->next) PaintNavaid(*painter, o);
+}
+
+}  // namespace map

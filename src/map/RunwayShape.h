@@ -1,0 +1,60 @@
+// RunwayShape.h - a runway laid out on the screen.
+#pragma once
+
+#include <array>
+
+#include "map/RunwayGlyphs.h"
+#include "model/Records.h"
+
+namespace map {
+
+// Bits of a runway's marking flags.
+enum RunwayMarks : uint16_t {
+    kEdgeLines = 0x0001,
+    kThresholdStripes = 0x0002,
+    kAimingPoints = 0x0004,
+    kTouchdownMarks = 0x0008,
+    kCentreLine = 0x0010,
+    kDesignation = 0x0020,
+    kPrecision = 0x0040,
+    kEdgePavement = 0x0080,
+    kSingleEnd = 0x0100,  // no markings at the secondary end
+    kPrimaryClosed = 0x0200,
+    kSecondaryClosed = 0x0400,
+    kPrimaryStol = 0x0800,
+    kSecondaryStol = 0x1000,
+};
+
+// Seen by a pilot landing on this end: the frame's origin is the middle of the end, ahead is inward.
+struct RunwayEnd {
+    GroundFrame frame;
+    double displaced = 0;  // metres of displaced threshold, inside the runway
+    double blastPad = 0;   // metres, outside the runway
+    double blastPadWidth = 0;
+    uint32_t displacedSurface = 0, blastPadSurface = 0;
+    uint32_t number = 0, designator = 0;
+    uint16_t approachLights = 0;
+    bool closed = false, stol = false, marked = true;
+};
+
+struct RunwayShape {
+    double length = 0, width = 0;  // metres
+    uint32_t surface = 0;
+    uint16_t marks = 0;
+    uint8_t lights = 0;
+    GroundFrame frame;               // origin at the centre, ahead toward the secondary end
+    std::array<RunwayEnd, 2> ends;   // primary, secondary
+    std::array<Point, 4> corners;    // of the runway proper: left and right of the primary end, then the other
+    std::array<Point, 4> wholeArea;  // with shoulders and blast pads, for culling
+};
+
+// Lengths that are no lengths count as 0.
+RunwayShape ShapeOfRunway(const model::SceneryObject* runway);
+
+// Corners of a rectangle of the frame, in order around it.
+std::array<Point, 4> Rectangle(const GroundFrame& frame, double left, double right, double near, double far);
+
+void PaintMarkingsOf(Canvas* canvas, const RunwayShape& runway, Colour ground);  // inside its outline
+void PaintLightsOf(Canvas* canvas, const RunwayShape& runway);
+
+}  // namespace map

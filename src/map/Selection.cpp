@@ -1,0 +1,117 @@
+// Selection.cpp - selecting by click, all and none.
+//
+// Selection bits lie in the object's flags and, for kinds with parts, in its payload; neither is recorded
+// in the edit history.
+#include "map/Selection.h"
+
+#include "map/ApronShape.h"
+#include "map/LightStrips.h"
+#include "model/ObjectList.h"
+#include "model/Records.h"
+#include "platform/Platform.h"
+
+namespace map {
+
+using model::IlsPayload;
+using model::KindOf;
+using model::kSelected;
+using model::kWholeSelected;
+using model::PayloadAs;
+using model::SceneryObject;
+
+namespace {
+
+void SetFlag(SceneryObject* object, uint32_t flag, bool set) {
+    object->flags = set ? object->flags | flag : object->flags & ~flag;
+}
+
+void ClearParts(SceneryObject* object) {
+    SetFlag(object, kWholeSelected, false);
+    switch (KindOf(object)) {
+    case model::kIls: PayloadAs<IlsPayload>(object).selectedParts = 0; break;
+    case model::kApron: ClearVertexSelection(object); break;
+    case model::kApronEdgeLights: ClearStripSelection(object); break;
+    default: break;
+    }
+}
+
+// A wholly selected ILS counts as having all its parts.
+uint8_t SelectedPartsOf(const SceneryObject* ils) {
+    return ils->flags & kWholeSelected ? kAllIlsParts : PayloadAs<IlsPayload>(ils).selectedParts;
+}
+
+void SelectIlsPart(SceneryObject* ils, int part, bool toggle) {
+    const auto bit = static_cast<uint8_t>(part);
+    const uint8_t parts = SelectedPartsOf(ils);
+    const auto now = static_cast<uint8_t>(toggle ? parts ^ bit : parts | bit);
+    PayloadAs<IlsPayload>(ils).selectedParts = now;
+    SetFlag(ils, kWholeSelected, false);
+    SetFlag(ils, kSelected, now != 0);
+}
+
+void SelectApronPart(SceneryObject* apron, int part, bool toggle) {
+    if (part == 0) {
+        const bool selected = !(toggle && model::IsSelected(apron));
+        SetFlag(apron, kSelected, selected);
+        SetFlag(apron, kWholeSelected, selected);
+        return;
+    }
+    const auto vertex = static_cast<uint32_t>(part - 1);
+    SetFlag(apron, kWholeSelected, false);
+    SelectVertex(apron, vertex, !(toggle && IsVertexSelected(apron, vertex)));
+    SetFlag(apron, kSelected, AnyVertexSelected(apron));
+}
+
+void SelectStrip(SceneryObject* lights, int part, bool toggle) {
+    SetFlag(lights, kWholeSelected, false);
+    SelectStripPart(lights, part, !(toggle && IsStripPartSelected(lights, part)));
+    SetFlag(lights, kSelected, AnyStripPartSelected(lights));
+}
+
+void SelectPick(const Pick& pick, bool toggle) {
+    SceneryObject* object = pick.object;
+    switch (KindOf(object)) {
+    case model::kIls: SelectIlsPart(object, pick.part, toggle); break;
+    case model::kApron: SelectApronPart(object, pick.part, toggle); break;
+    case model::kApronEdgeLights: SelectStrip(object, pick.part, toggle); break;
+    default: SetFlag(object, kSelected, !(toggle && model::IsSelected(object))); break;
+    }
+    if (!model::IsSelected(object)) ClearParts(object);
+}
+
+bool IsLeftOut(const SceneryObject* object) {
+    const uint32_t kind = KindOf(object);
+    return kind == model::kNdb || kind == model::kVorDme || model::IsReplacedStock(object);
+}
+
+}  // namespace
+
+void SelectAt(model::Pixel at, bool extend) {
+    const Pick pick = PickObject(at);
+    const bool changed = !extend && DeselectAll();
+    if (pick.object) SelectPick(pick, extend);
+    if (pick.object || changed) platform::RequestRepaint();
+}
+
+bool DeselectAll() {
+    bool any = false;
+    for (SceneryObject* o = model::state.head; o; o = o->next) {
+        if (!model::IsSelected(o)) continue;
+        any = true;
+        SetFlag(o, kSelected, false);
+        ClearParts(o);
+    }
+    return any;
+}
+
+void SelectAll() {
+    for (SceneryObject* o = model::state.head; o; o = o->next) {
+        if (IsLeftOut(o)) continue;
+        SetFlag(o, kSelected | kWholeSelected, true);
+        if (KindOf(o) == model::kIls) PayloadAs<IlsPayload>(o).selectedParts = kAllIlsParts;
+        if (KindOf(o) == model::kApronEdgeLights) SelectAllStripPoints(o);
+    }
+    platform::RequestRepaint();
+}
+
+}  // namespace map
