@@ -1,0 +1,305 @@
+// AirportModel.cpp - see AirportModel.h.
+#include "sample/AirportModel.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <map>
+#include <string_view>
+
+#include "model/Ident.h"
+#include "model/ObjectList.h"
+#include "model/Triangulate.h"
+#include "platform/Text.h"
+#include "sample/Network.h"
+#include "sample/PlanGeometry.h"
+
+namespace sample {
+
+namespace {
+
+using model::PayloadAs;
+using model::SceneryObject;
+
+constexpr uint32_t kAirportLowBits = 1;                   // kind of object in the low bits of an ident word
+constexpr float kLightSpacing = 60.96f;                   // metres: 200 feet
+constexpr uint32_t kBlueLights = 0xFF0000FF;              // ARGB
+constexpr float kLightBrightness = 1, kLightLimit = 800;  // as the simulator's own strips
+constexpr uint8_t kDrawSurfaceAndDetail = 3;
+
+uint32_t FuelWord(const AirportPlan& plan) {
+    constexpr uint32_t kAvgas = 1u << 30 | 3u << 4, kJet = 1u << 31 | 3u << 14;  // with 100 octane and Jet A
+    return (plan.avgas ? kAvgas : 0) | (plan.jetFuel ? kJet : 0);
+}
+
+void AppendAirport(const AirportPlan& plan) {
+    SceneryObject* object = model::CreateObject(model::kAirport, sizeof(model::AirportRecord));
+    auto& body = PayloadAs<model::AirportRecord>(object);
+    const model::EncodedPoint at = Encoded(plan, {});
+    body.longitude = at.longitude;
+    body.latitude = at.latitude;
+    body.altitude = Millimetres(plan.elevation);
+    body.magneticVariation = WestVariation(plan.variation);
+    body.ident = model::PackIdent(plan.ident) << model::kIdentShift | kAirportLowBits;
+    body.fuel = FuelWord(plan);
+    model::AppendObject(object);
+    model::SetAirportName(platform::Windows1252FromUtf8(plan.name));
+    model::state.airport = object;
+    model::state.country = platform::Windows1252FromUtf8(plan.country);
+    model::state.state = platform::Windows1252FromUtf8(plan.state);
+    model::state.city = platform::Windows1252FromUtf8(plan.city);
+    model::state.icao = model::UnpackIdent(model::PackIdent(plan.ident));
+}
+
+void AppendTower(const AirportPlan& plan) {
+    if (!plan.hasTower) return;
+    SceneryObject* object = model::CreateObject(model::kTowerViewpoint, sizeof(model::TowerViewpointRecord));
+    const model::EncodedPoint at = Encoded(plan, plan.tower);
+    PayloadAs<model::TowerViewpointRecord>(object) = { at.longitude, at.latitude,
+                                                       Millimetres(plan.elevation + plan.towerHeight) };
+    model::AppendObject(object);
+}
+
+void AppendHelipads(const AirportPlan& plan) {
+    constexpr uint8_t kHShape = 1;
+    for (const HelipadPlan& pad : plan.helipads) {
+        SceneryObject* object = model::CreateObject(model::kHelipad, sizeof(model::HelipadRecord));
+        const model::EncodedPoint at = Encoded(plan, pad.at);
+        PayloadAs<model::HelipadRecord>(object) = { pad.surface,
+                                                    kHShape,
+                                                    0,
+                                                    at.longitude,
+                                                    at.latitude,
+                                                    Millimetres(plan.elevation),
+                                                    static_cast<float>(pad.length),
+                                                    static_cast<float>(pad.width),
+                                                    static_cast<float>(pad.heading) };
+        model::AppendObject(object);
+    }
+}
+
+void AppendHelipadStarts(const AirportPlan& plan) {
+    constexpr uint8_t kHelipadStart = 3 << 4;
+    uint8_t number = 0;
+    for (const HelipadPlan& pad : plan.helipads) {
+        SceneryObject* object = model::CreateObject(model::kStartLocation, sizeof(model::StartLocationRecord));
+        const model::EncodedPoint at = Encoded(plan, pad.at);
+        PayloadAs<model::StartLocationRecord>(object) = { ++number,
+                                                          kHelipadStart,
+                                                          at.longitude,
+                                                          at.latitude,
+                                                          Millimetres(plan.elevation),
+                                                          static_cast<float>(pad.heading) };
+        model::AppendObject(object);
+    }
+}
+
+void AppendComms(const AirportPlan& plan) {
+    for (const CommPlan& comm : plan.comms) {
+        SceneryObject* object = model::CreateObject(model::kCommFrequency, sizeof(model::CommFrequencyRecord));
+        auto& body = PayloadAs<model::CommFrequencyRecord>(object);
+        body.type = comm.type;
+        body.frequency = comm.frequency;
+        StoreText(comm.name, body.name, sizeof body.name);
+        model::AppendObject(object);
+    }
+}
+
+std::vector<SceneryObject*> AppendNodes(const AirportPlan& plan, const Network& network) {
+    std::vector<SceneryObject*> nodes;
+    for (const NetNode& node : network.nodes) {
+        SceneryObject* object = model::CreateObject(model::kTaxiNode, sizeof(model::TaxiNodeRecord));
+        const model::EncodedPoint at = Encoded(plan, node.at);
+        PayloadAs<model::TaxiNodeRecord>(object) = { node.type, 0, 0, at.longitude, at.latitude };
+        model::AppendObject(object);
+        nodes.push_back(object);
+    }
+    return nodes;
+}
+
+std::vector<std::string> SplitCodes(std::string_view codes) {
+    std::vector<std::string> list;
+    while (!codes.empty()) {
+        const size_t comma = codes.find(',');
+        list.emplace_back(codes.substr(0, comma));
+        codes = comma == std::string_view::npos ? std::string_view{} : codes.substr(comma + 1);
+    }
+    return list;
+}
+
+SceneryObject* MakeSpot(const AirportPlan& plan, const SpotPlan& spot) {
+    constexpr size_t kCodeSize = 4;
+    const std::vector<std::string> codes = SplitCodes(spot.codes);
+    const auto count = static_cast<uint32_t>(codes.size());
+    SceneryObject* object = model::CreateObject(
+        model::kParkingSpot, static_cast<uint32_t>(sizeof(model::ParkingSpotRecord) + kCodeSize * count));
+    const model::EncodedPoint at = Encoded(plan, spot.at);
+    const uint32_t packed = spot.name | static_cast<uint32_t>(spot.pushback) << 6 |
+                            static_cast<uint32_t>(spot.type) << 8 | static_cast<uint32_t>(spot.number & 0xFFF) << 12 |
+                            count << 24;
+    PayloadAs<model::ParkingSpotRecord>(object) = { packed, static_cast<float>(spot.radius),
+                                                    static_cast<float>(Wrapped(spot.heading)), at.longitude,
+                                                    at.latitude };
+    uint8_t* place = object->payload + sizeof(model::ParkingSpotRecord);
+    for (const std::string& code : codes) {
+        std::memcpy(place, code.data(), std::min(code.size(), kCodeSize));
+        place += kCodeSize;
+    }
+    return object;
+}
+
+// What the designers of the simulator's own airports set in the bytes behind the link's type: lines and lights.
+uint32_t PaintBits(Paint paint) {
+    constexpr uint32_t kCentreLine = 0x01, kCentreLights = 0x02, kSolidEdges = 0x04 | 0x20, kEdgeLights = 0x10 | 0x80;
+    switch (paint) {
+    case Paint::None: return 0;
+    case Paint::Centre: return kCentreLine;
+    case Paint::Taxiway: return kCentreLine | kSolidEdges;
+    default: return kCentreLine | kCentreLights | kSolidEdges | kEdgeLights;
+    }
+}
+
+uint32_t LinkFlags(model::LinkType type, Paint paint, Surface surface) {
+    constexpr uint32_t kDrawBits = 0x60;
+    const uint32_t typeByte = type == model::kApronRouteLink ? type : type | kDrawBits;
+    return typeByte | PaintBits(paint) << 16 | static_cast<uint32_t>(surface) << 24;
+}
+
+struct LinkEnds {
+    std::vector<SceneryObject*> nodes, spots, runways;
+    std::map<std::string, SceneryObject*, std::less<>> names;  // the blank name included
+};
+
+void AppendLink(const AirportPlan& plan, const NetLink& net, const LinkEnds& ends) {
+    SceneryObject* object = model::CreateObject(model::kTaxiLink, sizeof(model::TaxiLinkPayload));
+    auto& link = PayloadAs<model::TaxiLinkPayload>(object);
+    const auto at = [](const std::vector<SceneryObject*>& list, int index) { return list[static_cast<size_t>(index)]; };
+    link.start = at(ends.nodes, net.start);
+    if (net.type == model::kParkingLink) {
+        link.end = at(ends.spots, net.end);
+        link.designator = ends.names.find("")->second;
+        link.flagsWord = LinkFlags(net.type, Paint::Centre, net.line->surface);
+        link.width = static_cast<float>(plan.spots[static_cast<size_t>(net.end)].connector);
+    } else if (net.type == model::kRunwayLink) {
+        const RunwayPlan& runway = plan.runways[static_cast<size_t>(net.runway)];
+        link.end = at(ends.nodes, net.end);
+        link.designator = at(ends.runways, net.runway);
+        link.flagsWord = LinkFlags(net.type, Paint::None, runway.surface);
+        link.width = static_cast<float>(runway.width);
+    } else {
+        link.end = at(ends.nodes, net.end);
+        link.designator = ends.names.find(std::string_view(net.line->name))->second;
+        link.flagsWord = LinkFlags(net.type, net.line->paint, net.line->surface);
+        link.width = static_cast<float>(net.line->width);
+    }
+    model::AppendObject(object);
+}
+
+// The names in alphabetical order behind the blank one, which stands for "no name".
+void AppendDesignators(const Network& network, LinkEnds* ends) {
+    if (network.links.empty()) return;
+    ends->names.emplace("", nullptr);
+    for (const NetLink& link : network.links) {
+        if (link.line) ends->names.emplace(link.line->name, nullptr);
+    }
+    for (auto& [name, object] : ends->names) {
+        object = model::CreateObject(model::kTaxiDesignator, sizeof(model::TaxiDesignatorRecord));
+        std::memcpy(object->payload, name.data(), std::min(name.size(), sizeof(model::TaxiDesignatorRecord)));
+    }
+}
+
+void AppendNetwork(const AirportPlan& plan, LinkEnds ends) {
+    const Network network = BuildNetwork(plan);
+    ends.nodes = AppendNodes(plan, network);
+    for (const SpotPlan& spot : plan.spots) {
+        ends.spots.push_back(MakeSpot(plan, spot));
+        model::AppendObject(ends.spots.back());
+    }
+    AppendDesignators(network, &ends);
+    for (const NetLink& link : network.links) AppendLink(plan, link, ends);
+    for (const auto& [name, object] : ends.names) model::AppendObject(object);
+}
+
+void AppendAprons(const AirportPlan& plan) {
+    for (const ApronPlan& apron : plan.aprons) {
+        std::vector<model::EncodedPoint> outline;
+        for (const Local corner : apron.outline) outline.push_back(Encoded(plan, corner));
+        SceneryObject* empty = model::CreateObject(model::kApron, sizeof(model::ApronHead));
+        auto& head = PayloadAs<model::ApronHead>(empty);
+        head.outlineSurface = head.surface = apron.surface;
+        head.drawFlags = kDrawSurfaceAndDetail;
+        model::AppendObject(model::CopyWithOutline(empty, outline));
+        model::FreeObject(empty);
+    }
+}
+
+void AppendLights(const AirportPlan& plan) {
+    if (plan.lights.empty()) return;
+    const auto count = static_cast<uint32_t>(plan.lights.size());
+    SceneryObject* object = model::CreateObject(
+        model::kApronEdgeLights,
+        static_cast<uint32_t>(sizeof(model::EdgeLightsHead) + count * sizeof(model::EdgeLightStrip)));
+    auto& head = PayloadAs<model::EdgeLightsHead>(object);
+    head.colour = kBlueLights;
+    head.brightness = kLightBrightness;
+    head.maximumAltitude = kLightLimit;
+    head.stripCount = count;
+    uint8_t* place = object->payload + sizeof(model::EdgeLightsHead);
+    for (const LightStrip& strip : plan.lights) {
+        const model::EncodedPoint from = Encoded(plan, strip.from), to = Encoded(plan, strip.to);
+        const double length = Distance(strip.from, strip.to);
+        const double gaps = std::max(1.0, std::round(length / kLightSpacing));  // so that the strip ends at a light
+        const model::EdgeLightStrip made{
+            static_cast<float>(length / gaps), from.longitude, from.latitude, to.longitude, to.latitude, 0, 0, 0
+        };
+        std::memcpy(place, &made, sizeof made);
+        place += sizeof made;
+    }
+    model::AppendObject(object);
+}
+
+}  // namespace
+
+void MakeAirportModel(const AirportPlan& plan) {
+    model::ClearModel();
+    AppendAirport(plan);
+    AppendTower(plan);
+    LinkEnds ends;
+    for (const RunwayPlan& runway : plan.runways) {
+        ends.runways.push_back(MakeRunway(plan, runway));
+        model::AppendObject(ends.runways.back());
+    }
+    AppendHelipads(plan);
+    for (const RunwayPlan& runway : plan.runways) {
+        for (int end = 0; end < 2; ++end) model::AppendObject(MakeStart(plan, runway, end));
+    }
+    AppendHelipadStarts(plan);
+    AppendComms(plan);
+    AppendNetwork(plan, std::move(ends));
+    AppendAprons(plan);
+    AppendLights(plan);
+    for (const RunwayPlan& runway : plan.runways) {
+        for (int end = 0; end < 2; ++end) {
+            if (!runway.ends[end].ils.ident.empty()) model::AppendObject(MakeIls(plan, runway, end));
+        }
+    }
+    model::state.loaded = true;
+}
+
+model::EncodedPoint Encoded(const AirportPlan& plan, Local place) {
+    const model::BglPoint code = model::LatLonToBgl(model::LocalToLatLon(plan.reference, place));
+    return { code.lonCode, code.latCode };
+}
+
+int32_t Millimetres(double metres) { return static_cast<int32_t>(std::lround(metres * 1000)); }
+
+float WestVariation(double eastVariation) { return static_cast<float>(Wrapped(-eastVariation)); }
+
+void StoreText(const std::string& utf8, char* field, size_t size) {
+    const std::string text = platform::Windows1252FromUtf8(utf8);
+    const size_t length = std::min(text.size(), size - 1);
+    std::memcpy(field, text.data(), length);
+    std::memset(field + length, 0, size - length);
+}
+
+}  // namespace sample
