@@ -19,6 +19,9 @@ enum AgentMessage : UINT {
     kAgentIcon,                    // wParam HICON -> which stock icon it is (IDI_...), 0 none
     kAgentFocus,                   // -> window with the focus
     kAgentCursor,                  // -> which stock cursor is set now (IDC_...), 0 none of them
+    kAgentGdiLevel,                // -> how far the program's table of GDI objects is filled
+    kAgentMark,                    // posted: counted when its turn comes
+    kAgentMarks,                   // -> how many marks have been counted
 };
 
 constexpr UINT kAgentBufferBytes = 131072;

@@ -68,6 +68,12 @@ std::vector<MenuEntry> ReadMenu(const Agent& agent) {
     return entries;
 }
 
+bool SettlePosted(const Agent& agent) {
+    const LRESULT before = SendMessageW(agent.window, kAgentMarks, 0, 0);
+    PostMessageW(agent.window, kAgentMark, 0, 0);
+    return WaitUntil([&] { return SendMessageW(agent.window, kAgentMarks, 0, 0) != before; });
+}
+
 int KeyState(const Agent& agent, int key) {
     return static_cast<int>(SendMessageW(agent.window, kAgentKeyState, static_cast<WPARAM>(key), 0));
 }
@@ -81,6 +87,8 @@ int StockIcon(const Agent& agent, HICON icon) {
 }
 
 int StockCursor(const Agent& agent) { return static_cast<int>(SendMessageW(agent.window, kAgentCursor, 0, 0)); }
+
+int GdiLevel(const Agent& agent) { return static_cast<int>(SendMessageW(agent.window, kAgentGdiLevel, 0, 0)); }
 
 HWND FocusOf(const Agent& agent) { return reinterpret_cast<HWND>(SendMessageW(agent.window, kAgentFocus, 0, 0)); }
 

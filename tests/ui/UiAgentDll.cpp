@@ -1,6 +1,7 @@
 // UiAgentDll.cpp - agent.dll: answers from inside the program under test. The program needs no change for it.
 #include <windows.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 
@@ -11,6 +12,7 @@ namespace {
 
 HWND agentWindow;
 HINSTANCE instance;
+LRESULT marks;
 
 wchar_t* DumpMenu(HMENU menu, int depth, wchar_t* out, const wchar_t* end) {
     constexpr int kLineCharacters = 400;
@@ -63,6 +65,19 @@ LRESULT StockCursor() {
     return 0;
 }
 
+// The low word of a GDI handle is its place in the table. New objects fill the free places first, so the highest
+// of a handful of new ones tells how far the table is filled, give or take what was freed just now.
+LRESULT GdiLevel() {
+    HGDIOBJ probes[64];
+    LRESULT highest = 0;
+    for (HGDIOBJ& probe : probes) {
+        probe = CreatePen(PS_SOLID, 1, 0);
+        highest = std::max<LRESULT>(highest, LOWORD(reinterpret_cast<UINT_PTR>(probe)));
+    }
+    for (HGDIOBJ probe : probes) DeleteObject(probe);
+    return highest;
+}
+
 LRESULT CALLBACK AgentProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case kAgentMenuState:
@@ -73,6 +88,9 @@ LRESULT CALLBACK AgentProc(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     case kAgentIcon: return StockIcon(wParam);
     case kAgentFocus: return reinterpret_cast<LRESULT>(GetFocus());
     case kAgentCursor: return StockCursor();
+    case kAgentGdiLevel: return GdiLevel();
+    case kAgentMark: ++marks; return 0;
+    case kAgentMarks: return marks;
     default: return DefWindowProcW(window, message, wParam, lParam);
     }
 }

@@ -40,7 +40,7 @@ HWND WaitForDialog(DWORD processId, const wchar_t* title = nullptr, DWORD millis
 bool WaitUntilGone(HWND window, DWORD milliseconds = kPatience);
 bool WaitForTitlePart(HWND window, const std::wstring& part, DWORD milliseconds = kPatience);
 
-// One round trip through the window's message queue: what was posted before is done.
+// The program answers again. Not that it has done what was posted: sent messages overtake posted ones.
 bool Settle(HWND window, DWORD milliseconds = kPatience);
 
 // Posted, not sent: a command that opens a modal dialog would block the sender until it is closed.
@@ -77,10 +77,13 @@ bool AttachAgent(HWND mainWindow, Agent* agent);
 void DetachAgent(Agent* agent);
 UINT MenuState(const Agent& agent, UINT id);  // MF_ flags, 0xFFFFFFFF when there is no such entry
 std::vector<MenuEntry> ReadMenu(const Agent& agent);
+// What was posted to the program before is done, or has a modal dialog open.
+bool SettlePosted(const Agent& agent);
 int KeyState(const Agent& agent, int key);
 void HoldKey(const Agent& agent, int key, bool down);  // what GetKeyState tells the program from now on
 int StockIcon(const Agent& agent, HICON icon);         // 32513 error, 32514 question, 32515 warning, 32516 information
 int StockCursor(const Agent& agent);                   // 32512 arrow, 32515 cross, ...
 HWND FocusOf(const Agent& agent);
+int GdiLevel(const Agent& agent);  // how far the program's table of GDI objects is filled, roughly
 
 }  // namespace ui

@@ -75,7 +75,7 @@ void UiTest::TearDown() {
 void UiTest::Command(UINT id) {
     ASSERT_TRUE(IsWindowEnabled(mainWindow)) << "a modal dialog is open";
     PostCommand(mainWindow, id);
-    ASSERT_TRUE(Settle(mainWindow)) << "the program does not answer";
+    ASSERT_TRUE(SettlePosted(agent)) << "the program does not answer";
 }
 
 bool UiTest::IsGreyed(UINT id) const {

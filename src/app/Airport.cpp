@@ -1,0 +1,102 @@
+// Airport.cpp - see Airport.h.
+#include "app/Airport.h"
+
+#include <cstdint>
+#include <cstring>
+
+#include "app/AppHost.h"
+#include "app/AppState.h"
+#include "bgl/OpenAirport.h"
+#include "bgl/SceneryFile.h"
+#include "map/MapView.h"
+#include "map/Tools.h"
+#include "model/ObjectList.h"
+#include "model/Positions.h"
+#include "platform/Files.h"
+#include "platform/Platform.h"
+#include "platform/Text.h"
+
+namespace app {
+
+namespace {
+
+enum class FileKind { Unreadable, NoScenery, Scenery };
+
+// Scenery files of the new style start with a number that no other file starts with.
+FileKind KindOfFile(const std::string& path) {
+    const platform::FileHandle file = platform::OpenForReading(path);
+    if (!file) return FileKind::Unreadable;
+    uint32_t magic = 0;
+    const size_t got = platform::ReadAt(file.get(), 0, &magic, sizeof magic);
+    return got == sizeof magic && magic == bgl::kFileMagic ? FileKind::Scenery : FileKind::NoScenery;
+}
+
+// Why the file does not hold what was asked for, in the words for the user.
+std::string Explanation(const std::string& path, std::string_view ident) {
+    switch (KindOfFile(path)) {
+    case FileKind::Unreadable: return "Unable to open file \"" + path + "\"";
+    case FileKind::NoScenery: return "Selected file  " + path + "  is not in recognised AFD format";
+    case FileKind::Scenery: break;
+    }
+    bgl::AirportPlace any;
+    if (ident.empty() || !bgl::FindAirportInFile(path, "", &any))
+        return "Selected file  " + path + "  does not contain any airports";
+    return "Selected file  " + path + "  does not contain airport " + platform::UpperCased(ident);
+}
+
+bool Refuse(const std::string& message) {
+    platform::ShowMessage(message, platform::Buttons::Ok, platform::Icon::Exclamation);
+    return false;
+}
+
+void ShowAirport() {
+    SetWindowTitle(TitleText());
+    ShowCommandStates();
+    platform::RequestRepaint();
+}
+
+}  // namespace
+
+bool OpenAirportFile(const std::string& path, std::string_view ident) {
+    bgl::AirportPlace place;
+    if (!bgl::FindAirportInFile(path, ident, &place)) return Refuse(Explanation(path, ident));
+    const bool opened = bgl::OpenAirport(place, state.simulatorFolder);
+    state.sourceFile = opened ? path : "";
+    state.savePath.clear();  // the path of the airport before must not be written over
+    model::state.modified = false;
+    map::ResetTools();
+    map::layers.navaids = false;
+    if (opened) map::ResetView(model::PositionOf(model::state.airport));
+    ShowAirport();
+    return opened || Refuse("Unable to open file \"" + path + "\"");
+}
+
+void CloseAirport() {
+    if (!model::state.loaded) return;
+    map::ResetTools();
+    model::ClearModel();
+    state.sourceFile.clear();
+    state.savePath.clear();
+    ShowAirport();
+}
+
+std::string TitleText() {
+    constexpr const char* kBetween = "    ";
+    std::string title = "Tarvo";
+    title += kBetween + model::state.icao + kBetween + platform::Utf8FromWindows1252(model::AirportName());
+    if (!model::state.loaded) return title;
+    if (bgl::IsStockFileName(state.sourceFile)) return title + kBetween + "( stock airport )";
+    return title + kBetween + "( file " + std::string(FileNameOf(state.sourceFile)) + " )";
+}
+
+std::string_view FileNameOf(std::string_view path) {
+    const size_t slash = path.find_last_of("\\/:");
+    return slash == std::string_view::npos ? path : path.substr(slash + 1);
+}
+
+std::string_view FolderOf(std::string_view path) {
+    const size_t slash = path.find_last_of("\\/");
+    return slash == std::string_view::npos ? std::string_view{} : path.substr(0, slash);
+}
+
+}  // namespace app

@@ -1,0 +1,95 @@
+// HostWin.cpp - what the portable part asks of the window and of the system (AppHost.h).
+#include <windows.h>
+
+#include <commdlg.h>
+#include <shellapi.h>
+
+#include "app/AppHost.h"
+#include "app/Commands.h"
+#include "app/ToolbarWin.h"
+#include "platform/PlatformWin.h"
+#include "platform/WideTextWin.h"
+
+namespace app {
+
+namespace {
+
+constexpr DWORD kPathLimit = 32768;  // the longest path that Windows knows
+
+// Greys and checks every entry of the menu and of the menus in it.
+void ShowMenuStates(HMENU menu) {
+    for (int position = 0; position < GetMenuItemCount(menu); ++position) {
+        if (const HMENU inner = GetSubMenu(menu, position)) {
+            ShowMenuStates(inner);
+            continue;
+        }
+        const auto id = static_cast<int>(GetMenuItemID(menu, position));
+        if (id <= 0) continue;  // a separator
+        const auto place = static_cast<UINT>(position);
+        EnableMenuItem(menu, place, MF_BYPOSITION | (IsCommandEnabled(id) ? MF_ENABLED : MF_GRAYED));
+        CheckMenuItem(menu, place, MF_BYPOSITION | (IsCommandChecked(id) ? MF_CHECKED : MF_UNCHECKED));
+    }
+}
+
+}  // namespace
+
+bool AskSavePath(const SaveQuestion& question, std::string* path) {
+    std::wstring file = platform::WideFromUtf8(question.name);
+    file.resize(kPathLimit);
+    const std::wstring folder = platform::WideFromUtf8(question.folder);
+    OPENFILENAMEW dialog{};
+    dialog.lStructSize = sizeof dialog;
+    dialog.hwndOwner = platform::MainWindow();
+    dialog.lpstrFilter = L"Bgl files\0*.bgl\0";
+    dialog.lpstrFile = file.data();
+    dialog.nMaxFile = kPathLimit;
+    dialog.lpstrInitialDir = folder.empty() ? nullptr : folder.c_str();
+    dialog.lpstrTitle = L"Save Airport File";
+    dialog.lpstrDefExt = L"bgl";
+    // Not OFN_FILEMUSTEXIST: it belongs to open dialogs only, and here it could refuse every new file.
+    dialog.Flags =
+        OFN_EXPLORER | OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_PATHMUSTEXIST | OFN_LONGNAMES;
+    if (!GetSaveFileNameW(&dialog)) return false;
+    *path = platform::Utf8FromWide(file.c_str());
+    return true;
+}
+
+void SetWindowTitle(std::string_view title) {
+    if (platform::MainWindow()) SetWindowTextW(platform::MainWindow(), platform::WideFromUtf8(title).c_str());
+}
+
+void ShowCommandStates() {
+    if (!platform::MainWindow()) return;  // the command was Exit
+    ShowMenuStates(GetMenu(platform::MainWindow()));
+    ShowToolbarStates();
+}
+
+void ShowText(std::string_view title, std::string_view text, platform::Icon icon) {
+    platform::ShowTitledMessage(title, text, platform::Buttons::Ok, icon);
+}
+
+void OpenDocument(const std::string& path) {
+    ShellExecuteW(platform::MainWindow(), L"open", platform::WideFromUtf8(path).c_str(), nullptr, nullptr,
+                  SW_SHOWNORMAL);
+}
+
+void CloseMainWindow() { SendMessageW(platform::MainWindow(), WM_CLOSE, 0, 0); }
+
+// The simulator is a 32-bit program, so what its setup wrote lies in that view of the registry.
+std::vector<std::string> RegisteredSimulatorFolders() {
+    std::vector<std::string> folders;
+    for (const REGSAM view : { REGSAM{ KEY_WOW64_32KEY }, REGSAM{ KEY_WOW64_64KEY } }) {
+        HKEY key;
+        if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Microsoft Games\\Flight Simulator\\9.0", 0,
+                          KEY_READ | view, &key) != ERROR_SUCCESS)
+            continue;
+        std::wstring value(kPathLimit, L'\0');
+        auto bytes = static_cast<DWORD>(value.size() * sizeof(wchar_t));
+        if (RegGetValueW(key, nullptr, L"EXE Path", RRF_RT_REG_SZ, nullptr, value.data(), &bytes) == ERROR_SUCCESS)
+            folders.push_back(platform::Utf8FromWide(value.c_str()));
+        RegCloseKey(key);
+    }
+    return folders;
+}
+
+}  // namespace app

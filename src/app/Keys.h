@@ -1,0 +1,13 @@
+// Keys.h - which command a key gives.
+#pragma once
+
+namespace app {
+
+struct KeyModifiers {
+    bool ctrl = false, shift = false;
+};
+
+// The command id for a virtual-key code; 0 for a key without one.
+int CommandForKey(int key, KeyModifiers held);
+
+}  // namespace app

@@ -1,0 +1,11 @@
+// MainWindowWin.h - the one top-level window.
+#pragma once
+
+#include <windows.h>
+
+namespace app {
+
+bool RegisterMainWindow(HINSTANCE instance);
+HWND CreateMainWindow(HINSTANCE instance);  // null when that fails
+
+}  // namespace app

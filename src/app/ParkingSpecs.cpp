@@ -1,0 +1,123 @@
+// ParkingSpecs.cpp - reads the parking specs, one a line: name, red, green, blue, code, code, ...
+//
+// A ";" ends a line wherever it stands. After a bad colour the line goes on without one; a bad code drops
+// the rest of its line's codes.
+#include "app/ParkingSpecs.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "platform/Files.h"
+#include "platform/Platform.h"
+#include "platform/Text.h"
+
+namespace app {
+
+std::vector<ParkingSpec> parkingSpecs;
+
+namespace {
+
+constexpr const char* kFileName = "ParkingSpecs.txt";
+constexpr uint64_t kFileLimit = 16 * 1024 * 1024;
+constexpr size_t kLineLimit = 1000;
+constexpr size_t kCodeLimit = 4;
+constexpr const char* kNameMissing = "The parking spec name (e.g. \"Air India\") is missing.";
+constexpr const char* kBadColour =
+    "Bad syntax for the RGB colour field.\nIt should look something like \"100,255,255\"\n"
+    "or use four commas: ,,,, to omit the colour field";
+
+void Complain(std::string_view line, const std::string& what) {
+    const std::string text = std::string("Error found in ") + kFileName + " file on the following line:\n\n" +
+                             std::string(line) + "\n\n" + what;
+    platform::ShowMessage(text, platform::Buttons::Ok, platform::Icon::Exclamation);
+}
+
+std::string_view Trimmed(std::string_view text) {
+    constexpr std::string_view kBlanks = " \t";
+    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+    return text.substr(0, text.find_last_not_of(kBlanks) + 1);
+}
+
+// The fields of a line, trimmed.
+std::vector<std::string_view> FieldsOf(std::string_view line) {
+    line = line.substr(0, line.find(';'));
+    std::vector<std::string_view> fields;
+    for (;;) {
+        const size_t comma = line.find(',');
+        fields.push_back(Trimmed(line.substr(0, comma)));
+        if (comma == std::string_view::npos) return fields;
+        line.remove_prefix(comma + 1);
+    }
+}
+
+// A decimal number that begins with a digit, at most 255. What follows the digits does not count.
+bool ReadChannel(std::string_view field, uint8_t* channel) {
+    int value = 0;
+    size_t digits = 0;
+    for (; digits < field.size() && field[digits] >= '0' && field[digits] <= '9'; ++digits) {
+        value = std::min(value * 10 + (field[digits] - '0'), 255);
+    }
+    *channel = static_cast<uint8_t>(value);
+    return digits > 0;
+}
+
+// Fields 2 to 4. False for a bad colour; all three empty or absent is no colour.
+bool ReadColour(const std::vector<std::string_view>& fields, ParkingSpec* spec) {
+    std::string_view channels[3];
+    for (size_t i = 0; i < 3 && i + 1 < fields.size(); ++i) channels[i] = fields[i + 1];
+    if (channels[0].empty() && channels[1].empty() && channels[2].empty()) return true;
+    uint8_t values[3];
+    for (size_t i = 0; i < 3; ++i) {
+        if (!ReadChannel(channels[i], &values[i])) return false;
+    }
+    spec->hasColour = true;
+    spec->red = values[0], spec->green = values[1], spec->blue = values[2];
+    spec->halfRed = values[0] / 2, spec->halfGreen = values[1] / 2, spec->halfBlue = values[2] / 2;
+    return true;
+}
+
+void ReadLine(std::string_view line) {
+    const std::string_view text = Trimmed(line);
+    if (text.empty() || text.front() == ';') return;
+    const std::vector<std::string_view> fields = FieldsOf(text);
+    if (fields[0].empty()) {
+        Complain(text, kNameMissing);
+        return;
+    }
+    ParkingSpec spec;
+    spec.name = fields[0];
+    if (!ReadColour(fields, &spec)) Complain(text, kBadColour);
+    for (size_t i = 4; i < fields.size() && !fields[i].empty(); ++i) {
+        if (fields[i].size() > kCodeLimit) {
+            Complain(text, "The parking code \"" + std::string(fields[i]) + "\" is more than 4 characters long\n");
+            break;
+        }
+        spec.codes.emplace_back(fields[i]);
+    }
+    parkingSpecs.push_back(std::move(spec));
+}
+
+// The file may be UTF-8 with its mark; without one it is Windows-1252, as the simulator's own texts are.
+std::string DecodedText(const std::vector<uint8_t>& bytes) {
+    constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+    const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    if (text.starts_with(kUtf8Mark)) return std::string(text.substr(kUtf8Mark.size()));
+    return platform::Utf8FromWindows1252(text);
+}
+
+}  // namespace
+
+bool LoadParkingSpecs(const std::string& programFolder) {
+    parkingSpecs.clear();
+    std::vector<uint8_t> bytes;
+    if (!platform::ReadWholeFile(programFolder + "\\" + kFileName, kFileLimit, &bytes)) return false;
+    const std::string text = DecodedText(bytes);
+    for (size_t start = 0; start < text.size();) {
+        const size_t end = std::min(text.find_first_of("\r\n", start), text.size());
+        ReadLine(std::string_view(text).substr(start, std::min(end - start, kLineLimit)));
+        start = end + 1;
+    }
+    return true;
+}
+
+}  // namespace app

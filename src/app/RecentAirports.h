@@ -1,0 +1,27 @@
+// RecentAirports.h - the airports at the end of the File menu, newest first. They are kept in the settings.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace app {
+
+struct RecentAirport {
+    std::string ident;  // at most 4 characters
+    std::string path;   // UTF-8
+};
+
+// Puts the airport on top. One with the same identifier, without regard to case, gives way; so does the oldest
+// of more than kPreviousFiles.
+void NoteOpenedAirport(std::string_view ident, std::string_view path);
+
+size_t RecentAirportCount();
+
+// The entry, counted from 0. False for one that does not exist or, written by hand, names no airport or file.
+bool GetRecentAirport(size_t index, RecentAirport* airport);
+
+// "&1  KSEA" for the entry counted from 0.
+std::string RecentMenuText(size_t index);
+
+}  // namespace app

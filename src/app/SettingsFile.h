@@ -1,0 +1,15 @@
+// SettingsFile.h - Tarvo2.ini in the program folder.
+#pragma once
+
+#include <string>
+
+namespace app {
+
+// Reads every setting; what is missing or makes no sense has its default. A missing file is no error.
+void LoadSettings(const std::string& programFolder);
+
+// Writes every setting back but the simulator folder override, which only the user sets. False when the
+// file cannot be written.
+bool SaveSettings(const std::string& programFolder);
+
+}  // namespace app
