@@ -1,0 +1,65 @@
+// StartLocations.cpp - check 4: runway ends without a start location of their name.
+#include <algorithm>
+#include <cstdio>
+#include <set>
+
+#include "faults/Checks.h"
+#include "faults/Messages.h"
+#include "model/Names.h"
+#include "model/Records.h"
+
+namespace faults {
+
+namespace {
+
+// Bits of the pattern flags.
+constexpr uint8_t kBaseClosedForTakeoff = 0x01, kReciprocalClosedForTakeoff = 0x08;
+constexpr uint8_t kHelipadStart = 3;
+
+// Runway ends that a start location serves; a helipad's is named "Helipad" and serves none.
+std::set<std::string> ServedEnds(const Network& network) {
+    std::set<std::string> names;
+    for (const SceneryObject* start : network.startLocations) {
+        const auto& record = model::PayloadAs<model::StartLocationRecord>(start);
+        if (record.designatorAndType >> 4 == kHelipadStart) continue;
+        names.insert(model::RunwayEndName(record.number, record.designatorAndType & 0xF));
+    }
+    return names;
+}
+
+}  // namespace
+
+void PrepareStartLocations(PassData* data) {
+    const std::set<std::string> served = ServedEnds(data->network);
+    data->missingStarts.clear();
+    for (const model::RunwayArea& area : data->network.runways) {
+        const model::RunwayRecord& body = model::PayloadAs<model::RunwayPayload>(area.runway).body;
+        const auto examine = [&](bool reciprocal, const std::string& name) {
+            const bool closed = body.pattern & (reciprocal ? kReciprocalClosedForTakeoff : kBaseClosedForTakeoff);
+            if (!closed && !served.contains(name)) data->missingStarts.push_back({ area.runway, reciprocal, name });
+        };
+        examine(false, model::RunwayEndName(body.primaryNumber, body.primaryDesignator));
+        examine(true, model::RunwayEndName(body.secondaryNumber, body.secondaryDesignator));
+    }
+    std::reverse(data->missingStarts.begin(), data->missingStarts.end());  // told last end first
+}
+
+bool FindMissingStart(const PassData& data, size_t from, Finding* finding) {
+    if (from >= data.missingStarts.size()) return false;
+    const MissingStart& missing = data.missingStarts[from];
+    const auto& body = model::PayloadAs<model::RunwayPayload>(missing.runway).body;
+    char message[1000];
+    std::snprintf(message, sizeof message, kBadStartMessage, missing.endName.c_str());
+    const model::RunwayArea area = model::AreaOf(missing.runway);
+    const double fromCentre = double{ body.length } / 2 - kStartInset;
+    const double heading = missing.atReciprocalEnd ? area.heading : area.heading + model::kPi;
+    finding->report = { FaultCheck::StartLocations,
+                        message,
+                        { missing.runway },
+                        model::OffsetByPolar(area.centre, { fromCentre, heading }) };
+    finding->mark = nullptr;
+    finding->resumeAt = from + 1;
+    return true;
+}
+
+}  // namespace faults
