@@ -1,0 +1,87 @@
+// Choices.cpp - see Choices.h.
+#include "dialogs/Choices.h"
+
+#include <cstdio>
+
+#include "dialogs/TextField.h"
+#include "model/Names.h"
+#include "model/ObjectList.h"
+#include "model/Records.h"
+
+namespace dialogs {
+
+namespace {
+
+constexpr uint32_t kNumberCount = 45;
+constexpr uint32_t kFirstLettered = 37;
+
+}  // namespace
+
+std::vector<std::string> SurfaceChoices() {
+    std::vector<std::string> names;
+    for (uint32_t code = 0; code < model::kSurfaceCount; ++code) names.emplace_back(model::SurfaceName(code));
+    return names;
+}
+
+int SurfaceIndex(uint32_t code) { return code < model::kSurfaceCount ? static_cast<int>(code) : -1; }
+
+std::vector<std::string> RunwayNumberChoices() {
+    std::vector<std::string> names;
+    for (uint32_t number = 0; number < kFirstLettered; ++number) {
+        char text[12];
+        std::snprintf(text, sizeof text, "%02u", static_cast<unsigned>(number));
+        names.emplace_back(text);
+    }
+    for (uint32_t number = kFirstLettered; number < kNumberCount; ++number) {
+        names.push_back(model::RunwayEndName(number, 0));
+    }
+    return names;
+}
+
+int RunwayNumberIndex(uint32_t number) { return number < kNumberCount ? static_cast<int>(number) : -1; }
+
+int SuffixIndex(uint32_t designator) { return designator < kSuffixChoices.size() ? static_cast<int>(designator) : -1; }
+
+std::string EndName(const SceneryObject* runway, int end) {
+    const model::RunwayRecord& body = model::PayloadAs<model::RunwayPayload>(runway).body;
+    return end == kBaseEnd ? model::RunwayEndName(body.primaryNumber, body.primaryDesignator)
+                           : model::RunwayEndName(body.secondaryNumber, body.secondaryDesignator);
+}
+
+std::vector<RunwayEndRef> AllRunwayEnds() {
+    std::vector<RunwayEndRef> ends;
+    for (SceneryObject* runway = model::FirstOfKind(model::state.head, model::kRunway); runway;
+         runway = model::NextOfKind(runway, model::kRunway)) {
+        ends.push_back({ runway, kBaseEnd });
+        ends.push_back({ runway, kReciprocalEnd });
+    }
+    return ends;
+}
+
+std::string DesignatorName(const SceneryObject* designator) {
+    const auto& record = model::PayloadAs<model::TaxiDesignatorRecord>(designator);
+    return ShowText(record.name, sizeof record.name);
+}
+
+SceneryObject* BlankDesignator() {
+    SceneryObject* designator = model::FirstOfKind(model::state.head, model::kTaxiDesignator);
+    while (designator && !DesignatorName(designator).empty())
+        designator = model::NextOfKind(designator, model::kTaxiDesignator);
+    return designator;
+}
+
+std::vector<DesignatorChoice> DesignatorChoices() {
+    std::vector<DesignatorChoice> choices = { { "", BlankDesignator() } };
+    for (SceneryObject* object = model::FirstOfKind(model::state.head, model::kTaxiDesignator); object;
+         object = model::NextOfKind(object, model::kTaxiDesignator)) {
+        const std::string name = DesignatorName(object);
+        if (!name.empty()) choices.push_back({ "Taxi " + name, object });
+    }
+    for (SceneryObject* runway = model::FirstOfKind(model::state.head, model::kRunway); runway;
+         runway = model::NextOfKind(runway, model::kRunway)) {
+        choices.push_back({ "Rwy " + EndName(runway, kBaseEnd) + "/" + EndName(runway, kReciprocalEnd), runway });
+    }
+    return choices;
+}
+
+}  // namespace dialogs

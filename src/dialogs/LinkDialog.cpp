@@ -1,0 +1,247 @@
+// LinkDialog.cpp - see LinkDialog.h.
+//
+// OK turns the difference between shown and entered into a change first; the couplings then complete that
+// change, and only at its end is it written to the links. Edge line style 3 (solid and dashed) has no
+// button: a link keeps it until the user presses one.
+#include "dialogs/LinkDialog.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "dialogs/Choices.h"
+#include "dialogs/DialogHost.h"
+#include "dialogs/NumberField.h"
+#include "model/ObjectList.h"
+#include "model/Positions.h"
+#include "model/Records.h"
+#include "model/RunwayArea.h"
+
+namespace dialogs {
+
+namespace {
+
+using model::TaxiLinkPayload;
+
+constexpr Quantity kLinkWidth = { "width", Unit::TaxiLength, 0, 1000, 0, 0 };
+constexpr uint32_t kLinkTypes[] = { model::kRunwayLink, model::kTaxiwayLink, model::kApronRouteLink,
+                                    model::kClosedLink };
+
+// Places in the flags word.
+constexpr uint32_t kTypeMask = 0xF;
+constexpr uint32_t kDrawFlags = 0x60;  // draw surface, draw detail: compiled apron routes lack them
+constexpr int kCentreLine = 16, kCentreLights = 17, kLeftEdge = 18, kLeftLights = 20, kRightEdge = 21,
+              kRightLights = 23, kSurface = 24;
+constexpr uint32_t kEdgeMask = 3, kBit = 1;
+
+uint32_t GetBits(const TaxiLinkPayload& link, int shift, uint32_t mask) { return link.flagsWord >> shift & mask; }
+
+void SetBits(TaxiLinkPayload* link, int shift, uint32_t mask, uint32_t value) {
+    link->flagsWord = (link->flagsWord & ~(mask << shift)) | (value & mask) << shift;
+}
+
+int EdgeIndex(uint32_t style) { return style < kEdgeLineNames.size() ? static_cast<int>(style) : -1; }
+
+bool EndsAtSpot(const TaxiLinkPayload& link) {
+    return (link.end && KindOf(link.end) == model::kParkingSpot) ||
+           (link.start && KindOf(link.start) == model::kParkingSpot);
+}
+
+bool IsParkingConnector(const TaxiLinkPayload& link) {
+    return model::LinkTypeOf(link) == model::kParkingLink || EndsAtSpot(link);
+}
+
+bool IsRunway(const SceneryObject* object) { return object && KindOf(object) == model::kRunway; }
+
+float WidthOf(const SceneryObject* runway) { return model::PayloadAs<model::RunwayPayload>(runway).body.width; }
+
+// Null when the link lies on no runway.
+SceneryObject* RunwayUnderLink(const TaxiLinkPayload& link) {
+    if (!link.start || !link.end) return nullptr;
+    const std::vector<model::RunwayArea> areas = model::RunwayAreas();
+    const model::RunwayArea* area =
+        model::RunwayUnder(areas, model::PositionOf(link.start), model::PositionOf(link.end));
+    return area ? area->runway : nullptr;
+}
+
+// What OK changes. Null designator: none at all.
+struct LinkChange {
+    std::optional<uint32_t> type;
+    std::optional<SceneryObject*> designator;
+    std::optional<uint32_t> surface;
+    std::optional<float> width;
+    bool edges = false, lights = false, centreLine = false, centreLights = false;
+};
+
+void SetType(TaxiLinkPayload* link, uint32_t type) {
+    const uint32_t old = model::LinkTypeOf(*link);
+    if (type == old) return;
+    SetBits(link, 0, kTypeMask, type);
+    if (type == model::kApronRouteLink) link->flagsWord &= ~kDrawFlags;
+    if (old == model::kApronRouteLink) link->flagsWord |= kDrawFlags;
+}
+
+// The couplings for links that do not end at a spot.
+void Couple(const TaxiLinkPayload& link, LinkChange* change, Edits* edits) {
+    if (!change->type && change->designator) {
+        const bool runway = IsRunway(*change->designator);
+        if (!runway && model::LinkTypeOf(link) == model::kRunwayLink) change->type = model::kTaxiwayLink;
+        if (runway && model::LinkTypeOf(link) != model::kRunwayLink) {
+            change->type = model::kRunwayLink;
+            change->width = WidthOf(*change->designator);
+        }
+    } else if (change->type) {
+        SceneryObject* designator = change->designator ? *change->designator : link.designator;
+        if (*change->type != model::kRunwayLink) {
+            if (IsRunway(designator)) change->designator = BlankDesignatorIn(edits);
+        } else if (!IsRunway(designator)) {
+            SceneryObject* runway = RunwayUnderLink(link);
+            change->designator = runway;
+            if (runway) change->width = WidthOf(runway);
+        }
+    }
+}
+
+void Apply(const LinkChange& change, const LinkFields& entered, SceneryObject* draft, Edits* edits) {
+    auto& link = model::PayloadAs<TaxiLinkPayload>(draft);
+    if (IsParkingConnector(link)) {
+        SetType(&link, model::kParkingLink);
+        if (change.designator) link.designator = BlankDesignatorIn(edits);
+    } else {
+        if (change.type) SetType(&link, *change.type);
+        if (change.designator) link.designator = *change.designator;
+    }
+    if (change.surface) SetBits(&link, kSurface, 0xFF, *change.surface);
+    if (change.width) link.width = *change.width;
+    if (change.edges && entered.leftEdge >= 0)
+        SetBits(&link, kLeftEdge, kEdgeMask, static_cast<uint32_t>(entered.leftEdge));
+    if (change.edges && entered.rightEdge >= 0)
+        SetBits(&link, kRightEdge, kEdgeMask, static_cast<uint32_t>(entered.rightEdge));
+    if (change.lights) {
+        SetBits(&link, kLeftLights, kBit, entered.leftLights);
+        SetBits(&link, kRightLights, kBit, entered.rightLights);
+    }
+    if (change.centreLine) SetBits(&link, kCentreLine, kBit, entered.centreLine);
+    if (change.centreLights) SetBits(&link, kCentreLights, kBit, entered.centreLights);
+}
+
+// What differs between the two; nothing when the width cannot be read.
+bool ReadChange(const LinkFields& shown, const LinkFields& entered, const SceneryObject* link, Edits* edits,
+                LinkChange* change, BadField* bad) {
+    if (entered.designator >= 0 && entered.designator != shown.designator) {
+        change->designator = entered.designator == 0
+                                 ? BlankDesignatorIn(edits)
+                                 : DesignatorChoices()[static_cast<size_t>(entered.designator)].object;
+    }
+    if (entered.type >= 0 && entered.type != shown.type)
+        change->type = LinkTypeChoices(link)[static_cast<size_t>(entered.type)];
+    if (entered.surface >= 0 && entered.surface != shown.surface)
+        change->surface = static_cast<uint32_t>(entered.surface);
+    if (entered.width != shown.width) {
+        double width = 0;
+        if (!ReadQuantity(kLinkWidth, shown.width, entered.width, &width)) {
+            *bad = { Field::Width };
+            return false;
+        }
+        change->width = static_cast<float>(width);
+    }
+    change->edges = entered.leftEdge != shown.leftEdge || entered.rightEdge != shown.rightEdge;
+    change->lights = entered.leftLights != shown.leftLights || entered.rightLights != shown.rightLights;
+    change->centreLine = entered.centreLine != shown.centreLine;
+    change->centreLights = entered.centreLights != shown.centreLights;
+    return true;
+}
+
+bool IsEmpty(const LinkChange& change) {
+    return !change.type && !change.designator && !change.surface && !change.width && !change.edges && !change.lights &&
+           !change.centreLine && !change.centreLights;
+}
+
+}  // namespace
+
+std::vector<uint32_t> LinkTypeChoices(const SceneryObject* link) {
+    if (IsParkingConnector(model::PayloadAs<TaxiLinkPayload>(link))) return { model::kParkingLink };
+    return { std::begin(kLinkTypes), std::end(kLinkTypes) };
+}
+
+const char* LinkTypeName(uint32_t type) {
+    switch (type) {
+    case model::kTaxiwayLink: return "Taxiway";
+    case model::kRunwayLink: return "Runway";
+    case model::kParkingLink: return "Parking connector";
+    case model::kApronRouteLink: return "Apron route";
+    case model::kClosedLink: return "Closed";
+    default: return "";
+    }
+}
+
+LinkFields LoadLinkFields(const SceneryObject* object) {
+    const auto& link = model::PayloadAs<TaxiLinkPayload>(object);
+    LinkFields fields;
+    const std::vector<DesignatorChoice> designators = DesignatorChoices();
+    fields.designator = 0;  // none, and any blank one
+    for (size_t i = 1; i < designators.size(); ++i) {
+        if (designators[i].object == link.designator) fields.designator = static_cast<int>(i);
+    }
+    const std::vector<uint32_t> types = LinkTypeChoices(object);
+    for (size_t i = 0; i < types.size(); ++i) {
+        if (types[i] == model::LinkTypeOf(link)) fields.type = static_cast<int>(i);
+    }
+    fields.surface = SurfaceIndex(model::LinkSurface(link));
+    fields.width = ShowNumber(kLinkWidth, link.width);
+    fields.leftEdge = EdgeIndex(GetBits(link, kLeftEdge, kEdgeMask));
+    fields.rightEdge = EdgeIndex(GetBits(link, kRightEdge, kEdgeMask));
+    fields.leftLights = GetBits(link, kLeftLights, kBit) != 0;
+    fields.rightLights = GetBits(link, kRightLights, kBit) != 0;
+    fields.centreLine = GetBits(link, kCentreLine, kBit) != 0;
+    fields.centreLights = GetBits(link, kCentreLights, kBit) != 0;
+    return fields;
+}
+
+bool StoreLinkFields(const LinkFields& shown, const LinkFields& entered, SceneryObject* link, BadField* bad) {
+    Edits edits;
+    LinkChange change;
+    if (!ReadChange(shown, entered, link, &edits, &change, bad)) return false;
+    if (IsEmpty(change)) return true;
+    const auto& payload = model::PayloadAs<TaxiLinkPayload>(link);
+    LinkChange forOthers = change;
+    if (IsParkingConnector(payload)) {
+        // Its designator is the blank one whatever was chosen, and that is no choice for other links.
+        change.designator = BlankDesignatorIn(&edits);
+        forOthers.designator.reset();
+    } else {
+        Couple(payload, &change, &edits);
+        forOthers = change;
+    }
+    Apply(change, entered, DraftOf(&edits, link), &edits);
+    for (SceneryObject* other = model::FirstOfKind(model::state.head, model::kTaxiLink); other;
+         other = model::NextOfKind(other, model::kTaxiLink)) {
+        if (other != link && model::IsSelected(other)) Apply(forOthers, entered, DraftOf(&edits, other), &edits);
+    }
+    if (Commit(&edits) && model::LinkTypeOf(model::PayloadAs<TaxiLinkPayload>(link)) != model::kRunwayLink)
+        UseLinkTemplate(model::PayloadAs<TaxiLinkPayload>(link));
+    return true;
+}
+
+SceneryObject* BlankDesignatorIn(Edits* edits) {
+    if (SceneryObject* blank = BlankDesignator()) return blank;
+    for (const ObjectPtr& object : edits->added) {
+        if (KindOf(object.get()) == model::kTaxiDesignator && DesignatorName(object.get()).empty()) return object.get();
+    }
+    return AddDraft(edits, ObjectPtr(model::CreateObject(model::kTaxiDesignator, sizeof(model::TaxiDesignatorRecord))));
+}
+
+void DesignateLink(SceneryObject* draft, SceneryObject* designator) {
+    auto& link = model::PayloadAs<TaxiLinkPayload>(draft);
+    if (IsParkingConnector(link)) return;
+    if (IsRunway(designator)) {
+        if (model::LinkTypeOf(link) != model::kRunwayLink) {
+            SetType(&link, model::kRunwayLink);
+            link.width = WidthOf(designator);
+        }
+    } else if (model::LinkTypeOf(link) == model::kRunwayLink) {
+        SetType(&link, model::kTaxiwayLink);
+    }
+    link.designator = designator;
+}
+
+}  // namespace dialogs

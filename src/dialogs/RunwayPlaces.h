@@ -1,0 +1,26 @@
+// RunwayPlaces.h - places given by a runway end: metres from its landing threshold.
+#pragma once
+
+#include "dialogs/Choices.h"
+#include "model/Geodesy.h"
+#include "model/Geometry.h"
+#include "model/Records.h"
+
+namespace dialogs {
+
+// A runway's own plane: x metres to the right of its heading, y metres along it, from its centre.
+struct RunwayPlane {
+    model::LatLon centre;
+    double heading = 0, halfLength = 0;  // radians, metres
+};
+RunwayPlane PlaneOf(const SceneryObject* runway);
+model::Point PlaceIn(const RunwayPlane& plane, model::LatLon position);
+model::LatLon PositionIn(const RunwayPlane& plane, model::Point place);
+
+double EndHeading(const RunwayEndRef& ref);  // degrees true in which one lands there, [0, 360)
+
+// The point `inward` metres past the landing threshold (the runway end, or the displaced threshold) and
+// `right` metres to the right of the approach.
+model::EncodedPoint PlaceFromThreshold(const RunwayEndRef& ref, double inward, double right);
+
+}  // namespace dialogs

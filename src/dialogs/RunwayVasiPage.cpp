@@ -1,0 +1,126 @@
+// RunwayVasiPage.cpp - the VASI page of the runway editor.
+//
+// The record measures a unit from the runway's centre (biasZ, positive toward the threshold), the page from
+// the runway end: distance = length / 2 - biasZ. A unit of the system "none" is absent: all zero.
+#include <cstring>
+
+#include "dialogs/NumberField.h"
+#include "dialogs/RunwayParts.h"
+
+namespace dialogs {
+
+namespace {
+
+using model::RunwayPayload;
+using model::VasiPart;
+
+constexpr double kFarthest = 50000;  // metres
+constexpr Quantity kDistance = { "VASI distance", Unit::Length, -kFarthest, kFarthest };
+constexpr Quantity kOffset = { "VASI offset", Unit::Length, -1000, 1000 };
+constexpr Quantity kSpacing = { "VASI spacing", Unit::Length, 0, 1000 };
+constexpr Quantity kSlope = { "VASI slope", Unit::Degrees, 0, 90, 2 };
+
+// A PAPI as ICAO Annex 14 places it: 305 m (1000 ft) in, 15 m beside the edge, lamps 9 m apart.
+constexpr double kUsualDistance = 304.8, kUsualSideways = 15, kUsualSpacing = 9, kUsualSlope = 3;
+
+VasiPart UnitAt(const SceneryObject* runway, size_t offset) {
+    VasiPart unit;
+    std::memcpy(&unit, runway->payload + offset, sizeof unit);
+    return unit;
+}
+
+size_t UnitOffset(size_t end, bool right) { return right ? kEndPlaces[end].rightVasi : kEndPlaces[end].leftVasi; }
+
+VasiFields LoadUnit(const SceneryObject* runway, size_t offset) {
+    const VasiPart unit = UnitAt(runway, offset);
+    const double half = model::PayloadAs<RunwayPayload>(runway).body.length / 2.0;
+    VasiFields fields;
+    fields.system = unit.type < kVasiSystems.size() ? static_cast<int>(unit.type) : -1;
+    const bool absent = unit.type == 0 && unit.biasZ == 0;
+    fields.distance = ShowNumber(kDistance, absent ? 0 : half - unit.biasZ);
+    fields.offset = ShowNumber(kOffset, unit.biasX);
+    fields.spacing = ShowNumber(kSpacing, unit.spacing);
+    fields.slope = ShowNumber(kSlope, unit.pitch);
+    return fields;
+}
+
+bool ReadOne(const Quantity& quantity, const std::string& shown, const std::string& entered, Field field, double* value,
+             BadField* bad) {
+    if (ReadQuantity(quantity, shown, entered, value)) return true;
+    bad->field = field;
+    return false;
+}
+
+bool StoreUnit(const VasiFields& shown, const VasiFields& entered, size_t offset, SceneryObject* draft, BadField* bad) {
+    VasiPart unit = UnitAt(draft, offset);
+    const VasiPart before = unit;
+    const double half = model::PayloadAs<RunwayPayload>(draft).body.length / 2.0;
+    double distance = 0, sideways = 0, spacing = 0, slope = 0;
+    if (!ReadOne(kDistance, shown.distance, entered.distance, Field::VasiDistance, &distance, bad) ||
+        !ReadOne(kOffset, shown.offset, entered.offset, Field::VasiOffset, &sideways, bad) ||
+        !ReadOne(kSpacing, shown.spacing, entered.spacing, Field::VasiSpacing, &spacing, bad) ||
+        !ReadOne(kSlope, shown.slope, entered.slope, Field::VasiSlope, &slope, bad))
+        return false;
+    if (entered.system >= 0 && entered.system != shown.system) unit.type = static_cast<uint16_t>(entered.system);
+    const bool placed = before.type == 0 && before.biasZ == 0 && unit.type != 0;  // its distance of 0 means 0
+    if (entered.distance != shown.distance || placed) unit.biasZ = static_cast<float>(half - distance);
+    if (entered.offset != shown.offset) unit.biasX = static_cast<float>(sideways);
+    if (entered.spacing != shown.spacing) unit.spacing = static_cast<float>(spacing);
+    if (entered.slope != shown.slope) unit.pitch = static_cast<float>(slope);
+    if (unit.type == 0 && std::memcmp(&unit, &before, sizeof unit) != 0) unit = {};
+    std::memcpy(draft->payload + offset, &unit, sizeof unit);
+    return true;
+}
+
+}  // namespace
+
+void LoadVasiPage(const SceneryObject* runway, RunwayFields* fields) {
+    for (size_t end = 0; end < 2; ++end) {
+        fields->ends[end].left = LoadUnit(runway, UnitOffset(end, false));
+        fields->ends[end].right = LoadUnit(runway, UnitOffset(end, true));
+    }
+}
+
+bool StoreVasiPage(const RunwayFields& shown, const RunwayFields& entered, SceneryObject* draft, BadField* bad) {
+    for (size_t end = 0; end < 2; ++end) {
+        const RunwayEndFields &was = shown.ends[end], &is = entered.ends[end];
+        bad->part = static_cast<int>(2 * end);
+        if (!StoreUnit(was.left, is.left, UnitOffset(end, false), draft, bad)) return false;
+        ++bad->part;
+        if (!StoreUnit(was.right, is.right, UnitOffset(end, true), draft, bad)) return false;
+    }
+    bad->part = 0;
+    return true;
+}
+
+void KeepVasiDistances(double oldLength, SceneryObject* draft) {
+    const double growth = (model::PayloadAs<RunwayPayload>(draft).body.length - oldLength) / 2;
+    if (growth == 0) return;
+    for (size_t end = 0; end < 2; ++end) {
+        for (const bool right : { false, true }) {
+            VasiPart unit = UnitAt(draft, UnitOffset(end, right));
+            if (unit.type == 0) continue;
+            unit.biasZ = static_cast<float>(unit.biasZ + growth);
+            std::memcpy(draft->payload + UnitOffset(end, right), &unit, sizeof unit);
+        }
+    }
+}
+
+void ChooseVasiSystem(VasiFields* fields, int system, const std::string& runwayWidth) {
+    const auto isZero = [](const std::string& text) {
+        double number = 0;
+        return ReadNumber(text, &number) && number == 0;
+    };
+    const bool untouched =
+        isZero(fields->distance) && isZero(fields->offset) && isZero(fields->spacing) && isZero(fields->slope);
+    fields->system = system;
+    if (system <= 0 || !untouched) return;
+    double shownWidth = 0;
+    ReadNumber(runwayWidth, &shownWidth);
+    fields->distance = ShowNumber(kDistance, kUsualDistance);
+    fields->offset = ShowNumber(kOffset, StoredNumber(kOffset, shownWidth) / 2 + kUsualSideways);
+    fields->spacing = ShowNumber(kSpacing, kUsualSpacing);
+    fields->slope = ShowNumber(kSlope, kUsualSlope);
+}
+
+}  // namespace dialogs

@@ -1,0 +1,176 @@
+#include "dialogs/Edits.h"
+
+#include "dialogs/PositionField.h"
+#include "dialogs/Subject.h"
+#include "fakes/DialogFixture.h"
+#include "map/MapView.h"
+#include "model/CoordinateText.h"
+
+namespace {
+
+using namespace dialogs;
+using model::state;
+
+class EditsTest : public DialogFixture {
+protected:
+    static uint8_t& TypeOf(SceneryObject* node) { return As<model::TaxiNodeRecord>(node).type; }
+    Edits edits;
+};
+
+TEST_F(EditsTest, OneCommitIsOneActionOfWhatDiffers) {
+    SceneryObject *a = build::Node(), *b = build::Node(), *c = build::Node();
+    TypeOf(DraftOf(&edits, a)) = 2;
+    TypeOf(DraftOf(&edits, b)) = 2;
+    DraftOf(&edits, c);
+    EXPECT_EQ(TypeOf(a), 1);
+    EXPECT_TRUE(Commit(&edits));
+    EXPECT_EQ(TypeOf(a), 2);
+    EXPECT_EQ(TypeOf(b), 2);
+    EXPECT_EQ(Actions(), 1);
+    EXPECT_EQ(state.undoHead->historyNext->historyNext, nullptr);
+    EXPECT_EQ(fake.repaints, 1);
+    model::Undo();
+    EXPECT_EQ(TypeOf(a), 1);
+    EXPECT_EQ(TypeOf(b), 1);
+}
+
+TEST_F(EditsTest, ACommitWithoutADifferenceRecordsNothingAndLeavesTheModifiedFlag) {
+    DraftOf(&edits, build::Node());
+    EXPECT_FALSE(Commit(&edits));
+    EXPECT_EQ(state.undoHead, nullptr);
+    EXPECT_FALSE(state.modified);
+}
+
+TEST_F(EditsTest, TheDraftOfAnObjectIsAlwaysTheSame) {
+    SceneryObject* node = build::Node();
+    SceneryObject* first = DraftOf(&edits, node);
+    DraftOf(&edits, build::Node());
+    EXPECT_EQ(DraftOf(&edits, node), first);
+}
+
+TEST_F(EditsTest, AProvisionalRecordIsInTheListButNotInTheHistory) {
+    SceneryObject* node = build::Node();
+    SceneryObject* made = MakeProvisional(model::kTaxiNode, sizeof(model::TaxiNodeRecord));
+    EXPECT_EQ(build::List(), (std::vector<SceneryObject*>{ node, made }));
+    EXPECT_TRUE(IsProvisional(made));
+    EXPECT_FALSE(state.modified);
+    CancelDialog();
+    EXPECT_EQ(build::List(), (std::vector<SceneryObject*>{ node }));
+    EXPECT_EQ(build::ListFromTail(), build::List());
+    EXPECT_EQ(state.undoHead, nullptr);
+    EXPECT_FALSE(state.modified);
+}
+
+TEST_F(EditsTest, AProvisionalRecordIsRecordedAsAddedWithWhatTheDraftHolds) {
+    build::Node();
+    SceneryObject* made = MakeProvisional(model::kTaxiNode, sizeof(model::TaxiNodeRecord));
+    TypeOf(DraftOf(&edits, made)) = 4;
+    EXPECT_TRUE(Commit(&edits));
+    EXPECT_FALSE(IsProvisional(made));
+    EXPECT_EQ(TypeOf(made), 4);
+    EXPECT_EQ(state.tail, made);
+    EXPECT_EQ(Actions(), 1);
+    model::Undo();
+    EXPECT_EQ(build::List().size(), 1u);
+    model::Redo();
+    EXPECT_EQ(TypeOf(state.tail), 4);
+}
+
+TEST_F(EditsTest, AProvisionalRecordIsAddedEvenWhenNothingWasChanged) {
+    SceneryObject* made = MakeProvisional(model::kTaxiNode, sizeof(model::TaxiNodeRecord));
+    DraftOf(&edits, made);
+    EXPECT_TRUE(Commit(&edits));
+    EXPECT_NE(state.undoHead, nullptr);
+}
+
+TEST_F(EditsTest, AStockObjectGetsAReplacementAndUndoTakesItAway) {
+    SceneryObject* stock = build::Ndb();
+    stock->flags |= model::kStock | model::kSelected;
+    const auto original = Bytes(stock);
+    As<model::NdbPayload>(DraftOf(&edits, stock)).frequency = 350000;
+    EXPECT_TRUE(Commit(&edits));
+    SceneryObject* replacement = stock->related;
+    ASSERT_NE(replacement, nullptr);
+    EXPECT_EQ(replacement->related, stock);
+    EXPECT_FALSE(model::IsStock(replacement));
+    EXPECT_TRUE(model::IsSelected(replacement));
+    EXPECT_TRUE(model::IsReplacedStock(stock));
+    EXPECT_FALSE(model::IsSelected(stock));
+    EXPECT_EQ(Bytes(stock), original);
+    EXPECT_EQ(+As<model::NdbPayload>(replacement).frequency, 350000u);
+    EXPECT_EQ(Actions(), 1);
+    model::Undo();
+    EXPECT_EQ(build::List(), (std::vector<SceneryObject*>{ stock }));
+    EXPECT_EQ(stock->related, nullptr);
+    model::Redo();
+    EXPECT_EQ(build::List(), (std::vector<SceneryObject*>{ stock, replacement }));
+    EXPECT_EQ(stock->related, replacement);
+}
+
+TEST_F(EditsTest, AClickMovesTheObjectOnTheMapAndGivesTheTextsButNotTheDraft) {
+    SceneryObject* node = build::Node();
+    const auto original = Bytes(node);
+    const uint64_t revision = state.revision;
+    const model::CoordinateTexts texts = MoveToClick(node, build::At({ 500, 300 }));
+    EXPECT_EQ(texts.latitude, model::FormatLatLon(build::At({ 500, 300 })).latitude);
+    EXPECT_NE(Bytes(node), original);
+    EXPECT_GT(state.revision, revision);
+    MoveToClick(node, build::At({ 700, 300 }));
+    EXPECT_EQ(Bytes(DraftOf(&edits, node)), original);
+    EXPECT_FALSE(state.modified);
+    CancelDialog();
+    EXPECT_EQ(Bytes(node), original);
+}
+
+TEST_F(EditsTest, CommitEndsThePreviewSoThatUndoFindsTheOldPlace) {
+    SceneryObject* node = build::Node();
+    const auto original = Bytes(node);
+    MoveToClick(node, build::At({ 500, 300 }));
+    SetPoint(DraftOf(&edits, node), build::Encoded({ 100, 100 }));
+    EXPECT_TRUE(Commit(&edits));
+    EXPECT_EQ(+PointOf(node).longitude, +build::Encoded({ 100, 100 }).longitude);
+    model::Undo();
+    EXPECT_EQ(Bytes(node), original);
+}
+
+TEST_F(EditsTest, EveryPartOfAnIlsCanBeMovedByClicks) {
+    SceneryObject* ils = build::Ils("ISEA");
+    const auto original = Bytes(ils);
+    MoveToClick(ils, build::At({ 1, 1 }));
+    MoveToClick(ils, offsetof(model::IlsPayload, glideSlope) + offsetof(model::GlideSlopePart, longitude),
+                build::At({ 2, 2 }));
+    EXPECT_EQ(dialogs::state.moved.size(), 2u);
+    EndPreview();
+    EXPECT_EQ(Bytes(ils), original);
+}
+
+TEST_F(EditsTest, TheSubjectReplacesTheSelectionUnlessItIsPartOfItOrAKeyIsHeld) {
+    SceneryObject *a = build::Node(), *b = build::Node();
+    a->flags |= model::kSelected;
+    SelectSubject(b, true);
+    EXPECT_TRUE(model::IsSelected(a));
+    SelectSubject(a, false);
+    EXPECT_TRUE(model::IsSelected(b));
+    b->flags &= ~model::kSelected;
+    SelectSubject(b, false);
+    EXPECT_FALSE(model::IsSelected(a));
+    EXPECT_TRUE(model::IsSelected(b));
+    EXPECT_EQ(state.undoHead, nullptr);
+}
+
+TEST_F(EditsTest, OnlyAPlaceOutsideTheViewIsCentred) {
+    map::ResetView(build::kMiddle);
+    map::ResizeView(800, 600);
+    ShowPlace(build::At({ 200, 200 }), true);
+    EXPECT_EQ(map::view.centre.lon, build::kMiddle.lon);
+    ShowPlace(build::At({ 200, 200 }), false);
+    EXPECT_EQ(map::view.centre.lon, build::At({ 200, 200 }).lon);
+    ShowPlace(build::At({ 90000, 200 }), true);
+    EXPECT_EQ(map::view.centre.lon, build::At({ 90000, 200 }).lon);
+    map::view.lockedToSim = true;
+    ShowPlace(build::kMiddle, false);
+    EXPECT_EQ(map::view.centre.lon, build::At({ 90000, 200 }).lon);
+    map::view = {};
+}
+
+}  // namespace

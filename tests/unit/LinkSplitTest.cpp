@@ -1,0 +1,179 @@
+#include "map/LinkSplit.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "fakes/MapFixture.h"
+#include "model/EditHistory.h"
+
+namespace {
+
+using namespace map;
+using namespace model;
+
+class LinkSplitTest : public MapFixture {
+protected:
+    static std::vector<SceneryObject*> Links() {
+        std::vector<SceneryObject*> links;
+        for (SceneryObject* o : build::List()) {
+            if (KindOf(o) == kTaxiLink) links.push_back(o);
+        }
+        return links;
+    }
+    static const TaxiLinkPayload& Of(const SceneryObject* link) { return PayloadAs<TaxiLinkPayload>(link); }
+    // The link between two objects, in this direction; null when there is none.
+    static SceneryObject* Between(const SceneryObject* start, const SceneryObject* end) {
+        for (SceneryObject* link : Links()) {
+            if (Of(link).start == start && Of(link).end == end) return link;
+        }
+        return nullptr;
+    }
+    static bool OnLink(build::Place place) {
+        LatLon point = build::At(place);
+        return OnLinkTest(build::At({ 0, 0 }), build::At({ 0, 100 }), &point);
+    }
+    static double DistanceTo(const SceneryObject* object, build::Place place) {
+        return DistanceBetween(PositionOf(object), build::At(place));
+    }
+};
+
+TEST_F(LinkSplitTest, APointUpTo20FeetBesideALinkLiesOnIt) {
+    EXPECT_TRUE(OnLink({ 5.9, 50 }));
+    EXPECT_TRUE(OnLink({ -5.9, 50 }));
+    EXPECT_FALSE(OnLink({ 6.3, 50 }));
+}
+
+TEST_F(LinkSplitTest, NothingSplitsWithin20FeetOfEitherEnd) {
+    EXPECT_FALSE(OnLink({ 0, 5.9 }));
+    EXPECT_TRUE(OnLink({ 0, 6.3 }));
+    EXPECT_TRUE(OnLink({ 0, 93.7 }));
+    EXPECT_FALSE(OnLink({ 0, 94.1 }));
+    EXPECT_FALSE(OnLink({ 0, -20 }));
+    EXPECT_FALSE(OnLink({ 0, 120 }));
+}
+
+TEST_F(LinkSplitTest, APointOnALinkIsMovedOntoIt) {
+    LatLon point = build::At({ 5, 50 });
+    ASSERT_TRUE(OnLinkTest(build::At({ 0, 0 }), build::At({ 0, 100 }), &point));
+    EXPECT_LT(DistanceBetween(point, build::At({ 0, 50 })), 0.2);
+}
+
+TEST_F(LinkSplitTest, APointBesideALinkStaysWhereItIs) {
+    LatLon point = build::At({ 50, 50 });
+    const LatLon before = point;
+    EXPECT_FALSE(OnLinkTest(build::At({ 0, 0 }), build::At({ 0, 100 }), &point));
+    EXPECT_EQ(point.lat, before.lat);
+    EXPECT_EQ(point.lon, before.lon);
+}
+
+TEST_F(LinkSplitTest, BearingsOnEitherSideOfNorthAreClose) {
+    LatLon left = build::At({ -2, 60 }), right = build::At({ 2, 60 });
+    EXPECT_TRUE(OnLinkTest(build::At({ 0, 0 }), build::At({ 1, 100 }), &left));
+    EXPECT_TRUE(OnLinkTest(build::At({ 0, 0 }), build::At({ -1, 100 }), &right));
+}
+
+TEST_F(LinkSplitTest, ALinkOfNoLengthIsNeverHit) {
+    LatLon point = build::At({ 0, 10 });
+    EXPECT_FALSE(OnLinkTest(build::At({ 0, 0 }), build::At({ 0, 0 }), &point));
+}
+
+TEST_F(LinkSplitTest, SplittingMakesTwoCopiesFromTheNode) {
+    SceneryObject* name = build::Designator("B");
+    SceneryObject* a = build::Node({ 0, 0 });
+    SceneryObject* b = build::Node({ 0, 100 });
+    SceneryObject* old = build::Link(a, b, kClosedLink, name);
+    PayloadAs<TaxiLinkPayload>(old).flagsWord |= 0x04A50000;
+    PayloadAs<TaxiLinkPayload>(old).carried[0] = 77;
+    SceneryObject* node = build::Node({ 0, 50 });
+    BeginAction();
+    SplitLink(old, node);
+    ASSERT_EQ(Links().size(), 2u);
+    EXPECT_TRUE(Of(Links()[0]).start == node);
+    EXPECT_TRUE(Of(Links()[0]).end == a);
+    EXPECT_TRUE(Of(Links()[1]).start == node);
+    EXPECT_TRUE(Of(Links()[1]).end == b);
+    for (const SceneryObject* link : Links()) {
+        EXPECT_EQ(link->flags, kTaxiLink | 0x2020u);
+        EXPECT_EQ(Of(link).flagsWord, kClosedLink | 0x04A50000u);
+        EXPECT_TRUE(Of(link).designator == name);
+        EXPECT_EQ(Of(link).carried[0], 77u);
+        EXPECT_EQ(Of(link).width, 23);
+    }
+}
+
+TEST_F(LinkSplitTest, AHalfThatEndsAtASpotIsAParkingLinkAndTheOtherAnApronRoute) {
+    SceneryObject* a = build::Node({ 0, 0 });
+    SceneryObject* spot = build::Spot({ 0, 100 });
+    SceneryObject* old = build::Link(a, spot, kParkingLink);
+    SceneryObject* node = build::Node({ 0, 50 });
+    BeginAction();
+    SplitLink(old, node);
+    EXPECT_EQ(LinkTypeOf(Of(Between(node, spot))), kParkingLink);
+    EXPECT_EQ(LinkTypeOf(Of(Between(node, a))), kApronRouteLink);
+}
+
+TEST_F(LinkSplitTest, TwoObjectsAreNeverJoinedTwice) {
+    SceneryObject* a = build::Node({ 0, 0 });
+    SceneryObject* b = build::Node({ 0, 100 });
+    SceneryObject* same = build::Link(a, b);
+    SceneryObject* reversed = build::Link(b, a);
+    SceneryObject* added = CreateObject(kTaxiLink, sizeof(TaxiLinkPayload));
+    PayloadAs<TaxiLinkPayload>(added).start = a;
+    PayloadAs<TaxiLinkPayload>(added).end = b;
+    BeginAction();
+    AddLink(added);
+    EXPECT_EQ(Links(), std::vector<SceneryObject*>{ added });
+    Undo();
+    EXPECT_EQ(Links(), (std::vector<SceneryObject*>{ same, reversed }));
+}
+
+TEST_F(LinkSplitTest, ANodeJoinsEveryLinkThatPassesUnderIt) {
+    SceneryObject* a = build::Node({ 0, -100 });
+    SceneryObject* b = build::Node({ 0, 100 });
+    SceneryObject* c = build::Node({ -100, 0 });
+    SceneryObject* d = build::Node({ 100, 0 });
+    SceneryObject* e = build::Node({ 100, 60 });
+    build::Link(a, b);
+    build::Link(c, d);
+    SceneryObject* beside = build::Link(d, e);
+    SceneryObject* node = build::Node({ 2, 3 });
+    BeginAction();
+    JoinNodeIntoLinks(node);
+    EXPECT_EQ(Links().size(), 5u);
+    for (const SceneryObject* end : { a, b, c, d }) EXPECT_NE(Between(node, end), nullptr);
+    EXPECT_EQ(Links()[0], beside);
+    EXPECT_LT(DistanceTo(node, { 0, 0 }), 0.3);
+}
+
+TEST_F(LinkSplitTest, ANodesOwnLinksAreNotSplitByIt) {
+    SceneryObject* a = build::Node({ 0, 0 });
+    SceneryObject* node = build::Node({ 0, 50 });
+    SceneryObject* own = build::Link(a, node);
+    BeginAction();
+    JoinNodeIntoLinks(node);
+    EXPECT_EQ(Links(), std::vector<SceneryObject*>{ own });
+}
+
+TEST_F(LinkSplitTest, OneUndoPutsEverythingBack) {
+    SceneryObject* a = build::Node({ 0, 0 });
+    SceneryObject* b = build::Node({ 0, 100 });
+    SceneryObject* old = build::Link(a, b);
+    const auto before = build::List();
+    BeginAction();
+    SceneryObject* node = CreateObject(kTaxiNode, sizeof(TaxiNodeRecord));
+    SetPosition(node, build::At({ 3, 40 }));
+    AddObject(node);
+    JoinNodeIntoLinks(node);
+    EXPECT_EQ(Links().size(), 2u);
+    Undo();
+    EXPECT_EQ(build::List(), before);
+    EXPECT_TRUE(Of(old).start == a);
+    Redo();
+    EXPECT_EQ(Links().size(), 2u);
+    EXPECT_NE(Between(node, b), nullptr);
+    EXPECT_LT(DistanceTo(node, { 0, 40 }), 0.3);
+    EXPECT_EQ(build::List(), build::ListFromTail());
+}
+
+}  // namespace

@@ -1,0 +1,591 @@
+#include "dialogs/RunwayDialog.h"
+
+#include <cstring>
+
+#include "dialogs/Choices.h"
+#include "dialogs/RunwayFollow.h"
+#include "dialogs/Subject.h"
+#include "fakes/DialogFixture.h"
+
+namespace {
+
+using namespace dialogs;
+using model::RunwayPayload;
+using platform::Answer;
+
+class RunwayDialog : public DialogFixture {
+protected:
+    void SetUp() override {
+        DialogFixture::SetUp();
+        airport = build::Airport("KSEA");
+        As<model::AirportRecord>(airport).magneticVariation = 340;
+        runway = build::Runway(16, 1);
+        Body().heading = 164;
+        Body().surface = 4;
+        Body().patternAltitude = 300;
+        Body().altitude = 131978;
+        Body().length = 3000;
+        Body().width = 45.72F;
+    }
+
+    model::RunwayRecord& Body() { return As<RunwayPayload>(runway).body; }
+    RunwayPayload& Parts() { return As<RunwayPayload>(runway); }
+
+    template <class Change>
+    bool Edit(Change change) {
+        const RunwayFields shown = LoadRunwayFields(runway);
+        RunwayFields entered = shown;
+        change(entered);
+        return StoreRunwayFields(shown, entered, runway, &bad);
+    }
+    // The payload bytes that differ from `before`.
+    std::vector<size_t> Changed(const std::vector<uint8_t>& before) {
+        std::vector<size_t> offsets;
+        for (size_t i = 0; i < before.size(); ++i) {
+            if (before[i] != runway->payload[i]) offsets.push_back(i);
+        }
+        return offsets;
+    }
+
+    SceneryObject *airport = nullptr, *runway = nullptr;
+};
+
+TEST_F(RunwayDialog, NumbersAndSuffixesAreListedWithTheirTexts) {
+    const auto numbers = RunwayNumberChoices();
+    ASSERT_EQ(numbers.size(), 45u);
+    EXPECT_EQ(numbers[0], "00");
+    EXPECT_EQ(numbers[4], "04");
+    EXPECT_EQ(numbers[36], "36");
+    EXPECT_EQ((std::vector<std::string>{ numbers.begin() + 37, numbers.end() }),
+              (std::vector<std::string>{ "N", "E", "NW", "SW", "S", "W", "SE", "NE" }));
+    EXPECT_STREQ(kSuffixChoices[4], "W");
+    EXPECT_EQ(EndName(runway, kBaseEnd), "16L");
+    EXPECT_EQ(EndName(runway, kReciprocalEnd), "34R");
+}
+
+TEST_F(RunwayDialog, TheDataPageShowsFeetWithoutDecimals) {
+    Parts().primaryBlastPad = { 4, 60, 45 };
+    Parts().secondaryThreshold = { 4, 150, 45 };
+    Body().primaryIls = model::PackIdent("ISNQ");
+    const RunwayFields fields = LoadRunwayFields(runway);
+    EXPECT_EQ(fields.length, "9843");
+    EXPECT_EQ(fields.width, "150");
+    EXPECT_EQ(fields.patternAltitude, "984");
+    EXPECT_EQ(fields.elevation, "433");
+    EXPECT_EQ(fields.heading, "164.0");
+    EXPECT_EQ(fields.surface, 4);
+    EXPECT_EQ(fields.ends[0].overrun, "197");
+    EXPECT_EQ(fields.ends[1].displaced, "492");
+    EXPECT_EQ(fields.ends[1].overrun, "0");
+    EXPECT_EQ(fields.ends[0].ilsIdent, "ISNQ");
+    EXPECT_EQ(fields.ends[1].ilsIdent, "");
+    EXPECT_EQ(fields.ends[0].number, 16);
+    EXPECT_EQ(fields.ends[0].suffix, 1);
+    app::settings.metric = true;
+    EXPECT_EQ(LoadRunwayFields(runway).width, "45.7");
+    EXPECT_EQ(LoadRunwayFields(runway).elevation, "132.0");
+}
+
+TEST_F(RunwayDialog, OkWithoutAChangeRecordsNothing) {
+    Parts().primaryOverrun = { 4, 100, 45 };
+    Parts().primaryApproachLights = 0xFFFF;
+    Parts().primaryLeftVasi = { 99, 1, 2, 3, 4 };
+    Body().surface = 0x80FE;
+    Body().markings = 0xFFFF;
+    Body().lights = Body().pattern = 0xFF;
+    const auto before = Bytes(runway);
+    EXPECT_TRUE(Edit([](RunwayFields&) {}));
+    EXPECT_EQ(Bytes(runway), before);
+    EXPECT_EQ(Actions(), 0);
+}
+
+TEST_F(RunwayDialog, EachDataFieldWritesItsOwnBytes) {
+    const auto before = Bytes(runway);
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.length = "10000"; }));
+    EXPECT_EQ(+Body().length, 3048.0F);
+    for (size_t offset : Changed(before)) EXPECT_TRUE(offset >= 26 && offset < 30) << offset;
+    model::Undo();
+    EXPECT_EQ(Bytes(runway), before);
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.width = "200"; }));
+    EXPECT_EQ(+Body().width, 60.96F);
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.patternAltitude = "1000"; }));
+    EXPECT_EQ(+Body().patternAltitude, 304.8F);
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.heading = "359.9"; }));
+    EXPECT_EQ(+Body().heading, 359.9F);
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.elevation = "1000"; }));
+    EXPECT_EQ(+Body().altitude, 304800);
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.surface = 1; }));
+    EXPECT_EQ(+Body().surface, 1);
+    EXPECT_EQ(Actions(), 5);
+}
+
+TEST_F(RunwayDialog, TheHighByteOfTheSurfaceStays) {
+    Body().surface = 0x8004;
+    EXPECT_EQ(LoadRunwayFields(runway).surface, 4);
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.surface = 23; }));
+    EXPECT_EQ(+Body().surface, 0x8017);
+}
+
+TEST_F(RunwayDialog, InMetresTheElevationIsAWholeNumber) {
+    app::settings.metric = true;
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.elevation = "130"; }));
+    EXPECT_EQ(+Body().altitude, 130000);
+    EXPECT_FALSE(Edit([](RunwayFields& entered) { entered.elevation = "130.5"; }));
+    EXPECT_EQ(bad.field, Field::Elevation);
+}
+
+TEST_F(RunwayDialog, TheSixFlagsAreBits24To29OfTheFlagsWord) {
+    bool RunwayEndFields::*const boxes[] = { &RunwayEndFields::noTakeoff, &RunwayEndFields::noLanding,
+                                             &RunwayEndFields::rightPattern };
+    int bit = 24;
+    for (size_t end = 0; end < 2; ++end) {
+        for (const auto box : boxes) {
+            Body().pattern = 0xC0;
+            EXPECT_TRUE(Edit([&](RunwayFields& entered) { entered.ends[end].*box = true; }));
+            uint32_t word;
+            std::memcpy(&word, runway->payload + 42, 4);
+            EXPECT_EQ(word, 0xC0000000u | 1u << bit);
+            EXPECT_TRUE(LoadRunwayFields(runway).ends[end].*box);
+            ++bit;
+        }
+    }
+}
+
+TEST_F(RunwayDialog, ChecksComeInTheirOrderWithTheirTexts) {
+    SetPoint(runway, kPlaceholder);
+    Body().length = Body().width = 0;
+    Body().primaryNumber = 41;
+    EXPECT_FALSE(Edit([](RunwayFields&) {}));
+    EXPECT_EQ(LastMessage(),
+              "ERROR: You must enter a latitude and longitude for the center of the runway.\n"
+              "You may click on the main window to set the latitude and longitude");
+    EXPECT_EQ(bad.field, Field::Latitude);
+    SetPoint(runway, build::Encoded({}));
+    EXPECT_FALSE(Edit([](RunwayFields&) {}));
+    EXPECT_EQ(LastMessage(), "ERROR: You must enter the runway length (e.g. 10000 feet)\n");
+    EXPECT_EQ(bad.field, Field::Length);
+    EXPECT_FALSE(Edit([](RunwayFields& entered) { entered.length = "9000"; }));
+    EXPECT_EQ(LastMessage(), "ERROR: You must enter the runway width (e.g. 200 feet)\n");
+    EXPECT_EQ(bad.field, Field::Width);
+    EXPECT_FALSE(Edit([](RunwayFields& entered) { entered.length = "9000", entered.width = "150"; }));
+    EXPECT_EQ(LastMessage(),
+              "ERROR: The Base runway designator can't be S,W,SE or NE,\nit must be N,E,NW,SW or 0 to 36");
+    EXPECT_EQ(bad.field, Field::Designator);
+    EXPECT_EQ(bad.part, kBaseEnd);
+    EXPECT_EQ(Actions(), 0);
+}
+
+TEST_F(RunwayDialog, ABaseEndOfNorthIsAcceptedAndOfSouthRefused) {
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.ends[0].number = 37; }));
+    EXPECT_EQ(Body().primaryNumber, 37);
+    EXPECT_FALSE(Edit([](RunwayFields& entered) { entered.ends[0].number = 41; }));
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.ends[1].number = 41; }));
+}
+
+TEST_F(RunwayDialog, ALengthOfZeroIsRefusedButLessThanZeroPasses) {
+    EXPECT_FALSE(Edit([](RunwayFields& entered) { entered.length = "0"; }));
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.length = "-100"; }));
+    EXPECT_LT(+Body().length, 0);
+}
+
+TEST_F(RunwayDialog, AnUntouchedLengthKeepsTheStoredMetres) {
+    Body().length = 3000.123F;
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.width = "200"; }));
+    EXPECT_EQ(+Body().length, 3000.123F);
+}
+
+TEST_F(RunwayDialog, NonsenseIsRefusedWithItsRange) {
+    EXPECT_FALSE(Edit([](RunwayFields& entered) { entered.heading = "400"; }));
+    EXPECT_EQ(LastMessage(), "ERROR: The true heading must be a number from 0 to 360 degrees");
+    EXPECT_FALSE(Edit([](RunwayFields& entered) { entered.length = "9000 ft"; }));
+    EXPECT_EQ(bad.field, Field::Length);
+    EXPECT_FALSE(Edit([](RunwayFields& entered) { entered.ends[1].overrun = "-1"; }));
+    EXPECT_EQ(bad.field, Field::Overrun);
+    EXPECT_EQ(bad.part, kReciprocalEnd);
+    EXPECT_FALSE(Edit([](RunwayFields& entered) { entered.ends[0].displaced = "x"; }));
+    EXPECT_EQ(bad.field, Field::DisplacedThreshold);
+    EXPECT_EQ(Actions(), 0);
+}
+
+TEST_F(RunwayDialog, TheOverrunAreaIsTheBlastPadAndIsMadeAfterTheRunway) {
+    Parts().primaryOverrun = { 9, 77, 30 };
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.ends[0].overrun = "200"; }));
+    EXPECT_EQ(+Parts().primaryBlastPad.surface, 4);
+    EXPECT_EQ(+Parts().primaryBlastPad.length, 60.96F);
+    EXPECT_EQ(+Parts().primaryBlastPad.width, 45.72F);
+    EXPECT_EQ(+Parts().primaryOverrun.length, 77);
+    Parts().primaryBlastPad.surface = 12;
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.ends[0].overrun = "300"; }));
+    EXPECT_EQ(+Parts().primaryBlastPad.surface, 12);
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.ends[0].overrun = "0"; }));
+    EXPECT_EQ(+Parts().primaryBlastPad.surface, 0);
+    EXPECT_EQ(+Parts().primaryBlastPad.width, 0);
+}
+
+TEST_F(RunwayDialog, TheDisplacedThresholdOfEachEndIsItsOwnPart) {
+    EXPECT_TRUE(Edit([](RunwayFields& entered) {
+        entered.ends[0].displaced = "100";
+        entered.ends[1].displaced = "200";
+    }));
+    EXPECT_EQ(+Parts().primaryThreshold.length, 30.48F);
+    EXPECT_EQ(+Parts().secondaryThreshold.length, 60.96F);
+    EXPECT_EQ(+Parts().secondaryThreshold.surface, 4);
+}
+
+TEST_F(RunwayDialog, TheMagneticHeadingIsTheTrueOneLessTheEastVariation) {
+    EXPECT_EQ(VariationText(), "20.0");
+    EXPECT_EQ(MagneticHeadingText("164.0"), "144.0");
+    EXPECT_EQ(MagneticHeadingText("10"), "350.0");
+    EXPECT_EQ(MagneticHeadingText("20"), "0.0");
+    EXPECT_EQ(MagneticHeadingText("19.99"), "0.0");
+    EXPECT_EQ(MagneticHeadingText("north"), "");
+    EXPECT_EQ(MagneticHeadingText("400"), "");
+}
+
+TEST_F(RunwayDialog, LightsMapToTheApproachWordsAndTheLightsByte) {
+    Parts().primaryApproachLights = 0xE000;
+    Parts().secondaryApproachLights = 0x0100;
+    EXPECT_TRUE(Edit([](RunwayFields& entered) {
+        entered.ends[0].approachSystem = 7;
+        entered.ends[0].strobes = "21";
+        entered.ends[0].endLights = entered.ends[0].touchdownLights = true;
+        entered.ends[1].reil = true;
+        entered.edgeLights = 3;
+        entered.centreLights = 1;
+        entered.redEndLights = true;
+    }));
+    EXPECT_EQ(+Parts().primaryApproachLights, 0xE000 | 21 << 8 | 0xA0 | 7);
+    EXPECT_EQ(+Parts().secondaryApproachLights, 0x0140);
+    EXPECT_EQ(Body().lights, 0x17);
+    const RunwayFields fields = LoadRunwayFields(runway);
+    EXPECT_EQ(fields.ends[0].approachSystem, 7);
+    EXPECT_EQ(fields.ends[0].strobes, "21");
+    EXPECT_TRUE(fields.ends[1].reil);
+    EXPECT_EQ(fields.edgeLights, 3);
+    EXPECT_EQ(fields.centreLights, 1);
+}
+
+TEST_F(RunwayDialog, StrobesAreReadInTheirBaseAndKeptToFiveBits) {
+    const auto strobes = [&](const char* text) {
+        EXPECT_TRUE(Edit([&](RunwayFields& entered) { entered.ends[0].strobes = text; })) << text;
+        return +Parts().primaryApproachLights >> 8;
+    };
+    EXPECT_EQ(strobes("0x1F"), 31);
+    EXPECT_EQ(strobes("010"), 8);
+    EXPECT_EQ(strobes(" 9 "), 9);
+    EXPECT_EQ(strobes("33"), 1);
+    EXPECT_EQ(strobes("0"), 0);
+    for (const char* text : { "", "five", "0x", "08", "-1", "3 strobes" }) {
+        EXPECT_FALSE(Edit([&](RunwayFields& entered) { entered.ends[1].strobes = text; })) << text;
+        EXPECT_EQ(bad.field, Field::Strobes);
+        EXPECT_EQ(bad.part, kReciprocalEnd);
+        EXPECT_EQ(PageOf(bad), RunwayPage::Lights);
+    }
+    EXPECT_EQ(LastMessage(), "ERROR: The approach strobes must be a whole number from 0 to 31");
+}
+
+TEST_F(RunwayDialog, AnApproachSystemBeyondTheListIsNoChoiceAndStays) {
+    Parts().primaryApproachLights = 0x1E;
+    EXPECT_EQ(LoadRunwayFields(runway).ends[0].approachSystem, -1);
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.ends[0].reil = true; }));
+    EXPECT_EQ(+Parts().primaryApproachLights, 0x5E);
+}
+
+TEST_F(RunwayDialog, EveryMarkingIsItsOwnBit) {
+    const std::pair<bool RunwayFields::*, int> whole[] = {
+        { &RunwayFields::edgeLines, 0 },     { &RunwayFields::threshold, 1 },    { &RunwayFields::aimingPoint, 2 },
+        { &RunwayFields::touchdownZone, 3 }, { &RunwayFields::centreLine, 4 },   { &RunwayFields::numbers, 5 },
+        { &RunwayFields::precision, 6 },     { &RunwayFields::edgePavement, 7 }, { &RunwayFields::noMarkings, 8 },
+    };
+    for (const auto& [box, bit] : whole) {
+        Body().markings = 0xE000;
+        EXPECT_TRUE(Edit([&](RunwayFields& entered) { entered.*box = true; }));
+        EXPECT_EQ(+Body().markings, 0xE000 | 1 << bit);
+        EXPECT_TRUE(Edit([&](RunwayFields& entered) { entered.*box = false; }));
+        EXPECT_EQ(+Body().markings, 0xE000);
+    }
+    for (size_t end = 0; end < 2; ++end) {
+        Body().markings = 0;
+        EXPECT_TRUE(Edit([&](RunwayFields& entered) { entered.ends[end].closedMark = true; }));
+        EXPECT_EQ(+Body().markings, 0x200 << end);
+        Body().markings = 0;
+        EXPECT_TRUE(Edit([&](RunwayFields& entered) { entered.ends[end].stolMark = true; }));
+        EXPECT_EQ(+Body().markings, 0x800 << end);
+    }
+}
+
+TEST_F(RunwayDialog, AVasiIsShownByItsDistanceFromTheRunwayEnd) {
+    Parts().primaryLeftVasi = { 8, 38, 1195.2F, 9, 3 };
+    app::settings.metric = true;
+    const VasiFields fields = LoadRunwayFields(runway).ends[0].left;
+    EXPECT_EQ(kVasiSystems[static_cast<size_t>(fields.system)], std::string("PAPI 4"));
+    EXPECT_EQ(fields.distance, "304.8");
+    EXPECT_EQ(fields.offset, "38.0");
+    EXPECT_EQ(fields.spacing, "9.0");
+    EXPECT_EQ(fields.slope, "3.00");
+    EXPECT_EQ(LoadRunwayFields(runway).ends[1].right.distance, "0.0");
+}
+
+TEST_F(RunwayDialog, EachVasiUnitWritesItsOwnPart) {
+    app::settings.metric = true;
+    const auto fill = [](VasiFields& unit, int system) { unit = { system, "300", "40", "9", "3.25" }; };
+    EXPECT_TRUE(Edit([&](RunwayFields& entered) {
+        fill(entered.ends[0].left, 1);
+        fill(entered.ends[0].right, 2);
+        fill(entered.ends[1].left, 3);
+        fill(entered.ends[1].right, 14);
+    }));
+    const model::VasiPart units[] = { Parts().primaryLeftVasi, Parts().primaryRightVasi, Parts().secondaryLeftVasi,
+                                      Parts().secondaryRightVasi };
+    const int types[] = { 1, 2, 3, 14 };
+    for (size_t i = 0; i < 4; ++i) {
+        EXPECT_EQ(+units[i].type, types[i]);
+        EXPECT_EQ(+units[i].biasZ, 1200);
+        EXPECT_EQ(+units[i].biasX, 40);
+        EXPECT_EQ(+units[i].spacing, 9);
+        EXPECT_EQ(+units[i].pitch, 3.25F);
+    }
+}
+
+TEST_F(RunwayDialog, TheSystemNoneClearsTheUnit) {
+    Parts().secondaryRightVasi = { 8, 38, 1195.2F, 9, 3 };
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.ends[1].right.system = 0; }));
+    const model::VasiPart zero = {}, unit = Parts().secondaryRightVasi;
+    EXPECT_EQ(std::memcmp(&unit, &zero, sizeof unit), 0);
+}
+
+TEST_F(RunwayDialog, ARefusedVasiFieldNamesItsUnit) {
+    EXPECT_FALSE(Edit([](RunwayFields& entered) { entered.ends[1].right.slope = "91"; }));
+    EXPECT_EQ(LastMessage(), "ERROR: The VASI slope must be a number from 0 to 90 degrees");
+    EXPECT_EQ(bad.field, Field::VasiSlope);
+    EXPECT_EQ(bad.part, 3);
+    EXPECT_EQ(PageOf(bad), RunwayPage::Vasi);
+}
+
+TEST_F(RunwayDialog, AChosenSystemFillsAnEmptyUnitWithAUsualInstallation) {
+    app::settings.metric = true;
+    VasiFields unit = { 0, "0.0", "0.0", "0.0", "0.00" };
+    ChooseVasiSystem(&unit, 8, "45.0");
+    EXPECT_EQ(unit.system, 8);
+    EXPECT_EQ(unit.distance, "304.8");
+    EXPECT_EQ(unit.offset, "37.5");
+    EXPECT_EQ(unit.spacing, "9.0");
+    EXPECT_EQ(unit.slope, "3.00");
+    unit.offset = "50";
+    ChooseVasiSystem(&unit, 7, "45.0");
+    EXPECT_EQ(unit.offset, "50");
+    app::settings.metric = false;
+    unit = { 0, "0", "0", "0", "0.00" };
+    ChooseVasiSystem(&unit, 8, "150");
+    EXPECT_EQ(unit.distance, "1000");
+    EXPECT_EQ(unit.offset, "124");
+}
+
+TEST_F(RunwayDialog, AVasiKeepsItsDistanceWhenTheLengthChanges) {
+    Parts().primaryLeftVasi = { 8, 38, 1195.2F, 9, 3 };
+    app::settings.metric = true;
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.length = "3200"; }));
+    EXPECT_FLOAT_EQ(+Parts().primaryLeftVasi.biasZ, 1295.2F);
+    EXPECT_EQ(LoadRunwayFields(runway).ends[0].left.distance, "304.8");
+    EXPECT_EQ(+Parts().primaryRightVasi.biasZ, 0);
+    EXPECT_TRUE(Edit([](RunwayFields& entered) {
+        entered.length = "3000";
+        entered.ends[0].left.distance = "400";
+    }));
+    EXPECT_FLOAT_EQ(+Parts().primaryLeftVasi.biasZ, 1100);
+}
+
+class RunwayWithIls : public RunwayDialog {
+protected:
+    void SetUp() override {
+        RunwayDialog::SetUp();
+        Body().heading = 0;
+        Body().primaryNumber = 4, Body().secondaryNumber = 22;
+        Body().primaryIls = model::PackIdent("IABC");
+        ils = build::Ils("IABC", { 0, 1800 });
+        Ils().localizer = { 4, 1, 0, 4 };
+        Ils().body.flags = model::kHasGlideSlope | model::kHasDme;
+        const model::EncodedPoint beside = build::Encoded({ 120, -1200 });
+        Ils().glideSlope.longitude = beside.longitude, Ils().glideSlope.latitude = beside.latitude;
+        Ils().dme.longitude = beside.longitude, Ils().dme.latitude = beside.latitude;
+        std::strcpy(Ils().name, "ILS/DME 4L");
+        start = build::Placed<model::StartLocationRecord>(model::kStartLocation, { 0, -1450 });
+        Start() = { 4, 0x11, Start().longitude, Start().latitude, 0, 0 };
+        other = build::Placed<model::StartLocationRecord>(model::kStartLocation, { 0, 1450 });
+        As<model::StartLocationRecord>(other).number = 5;
+        As<model::StartLocationRecord>(other).designatorAndType = 0x11;
+    }
+    model::IlsPayload& Ils() { return As<model::IlsPayload>(ils); }
+    model::StartLocationRecord& Start() { return As<model::StartLocationRecord>(start); }
+    static void ExpectAt(model::EncodedPoint point, double east, double north) {
+        const model::Local at =
+            model::LatLonToLocal(build::kMiddle, model::BglToLatLon({ point.latitude, point.longitude }));
+        EXPECT_NEAR(at.east, east, 0.5);
+        EXPECT_NEAR(at.north, north, 0.5);
+    }
+    model::EncodedPoint GlideSlope() { return { Ils().glideSlope.longitude, Ils().glideSlope.latitude }; }
+
+    SceneryObject *ils = nullptr, *start = nullptr, *other = nullptr;
+};
+
+TEST_F(RunwayWithIls, ADesignatorIsRenamedWhereverItIsUsedInOneAction) {
+    SceneryObject* link = build::Link(build::Node(), build::Node(), model::kRunwayLink, runway);
+    const auto beforeOther = Bytes(other);
+    EXPECT_TRUE(Edit([](RunwayFields& entered) {
+        entered.ends[0].number = 5;
+        entered.ends[0].suffix = 2;
+    }));
+    EXPECT_EQ(Start().number, 5);
+    EXPECT_EQ(Start().designatorAndType, 0x12);
+    EXPECT_EQ(Ils().localizer.runwayNumber, 5);
+    EXPECT_EQ(Ils().localizer.runwayDesignator, 2);
+    EXPECT_STREQ(Ils().name, "ILS/DME 5R");
+    EXPECT_EQ(+As<model::TaxiLinkPayload>(link).designator, runway);
+    EXPECT_EQ(Bytes(other), beforeOther);
+    EXPECT_EQ(Actions(), 1);
+    EXPECT_TRUE(fake.messages.empty());
+    model::Undo();
+    EXPECT_STREQ(Ils().name, "ILS/DME 4L");
+    EXPECT_EQ(Start().number, 4);
+    EXPECT_EQ(Body().primaryNumber, 4);
+}
+
+TEST_F(RunwayWithIls, BothEndsMayExchangeTheirDesignators) {
+    As<model::StartLocationRecord>(other).number = 22;
+    As<model::StartLocationRecord>(other).designatorAndType = 0x12;
+    EXPECT_TRUE(Edit([](RunwayFields& entered) {
+        std::swap(entered.ends[0].number, entered.ends[1].number);
+        std::swap(entered.ends[0].suffix, entered.ends[1].suffix);
+    }));
+    EXPECT_EQ(Start().number, 22);
+    EXPECT_EQ(As<model::StartLocationRecord>(other).number, 4);
+    EXPECT_EQ(As<model::StartLocationRecord>(other).designatorAndType, 0x11);
+}
+
+TEST_F(RunwayWithIls, AStockIlsThatIsRenamedGetsAReplacement) {
+    ils->flags |= model::kStock;
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.ends[0].number = 5; }));
+    ASSERT_NE(ils->related, nullptr);
+    EXPECT_STREQ(As<model::IlsPayload>(ils->related).name, "ILS/DME 5L");
+    model::Undo();
+    EXPECT_EQ(ils->related, nullptr);
+}
+
+TEST_F(RunwayWithIls, OnlyTheLastWordOfAnIlsNameIsRenamed) {
+    EXPECT_EQ(RenamedIls("ILS 4L", "4L", "5L"), "ILS 5L");
+    EXPECT_EQ(RenamedIls("ILS 04L", "4L", "5L"), "ILS 05L");
+    EXPECT_EQ(RenamedIls("ILS 09", "9", "10"), "ILS 10");
+    EXPECT_EQ(RenamedIls("ILS 9", "9", "N"), "ILS N");
+    EXPECT_EQ(RenamedIls("9", "9", "10"), "10");
+    EXPECT_EQ(RenamedIls("ILS 9 DME", "9", "10"), "ILS 9 DME");
+    EXPECT_EQ(RenamedIls("ILS 19", "9", "10"), "ILS 19");
+    EXPECT_EQ(RenamedIls("", "9", "10"), "");
+}
+
+TEST_F(RunwayWithIls, AMovedRunwayAsksAndYesMovesWhatBelongsToIt) {
+    fake.answers = { Answer::Yes };
+    model::EncodedPoint centre = build::Encoded({ 1000, 500 });
+    EXPECT_TRUE(Edit([&](RunwayFields& entered) { entered.position = ShowPoint(centre); }));
+    EXPECT_EQ(LastMessage(),
+              "You have changed the position, length or heading of the runway.\n\n"
+              "Do you want to move its ILS and start locations with it?");
+    ExpectAt(PointOf(ils), 1000, 2300);
+    ExpectAt(GlideSlope(), 1120, -700);
+    ExpectAt(PointOf(start), 1000, -950);
+    ExpectAt(PointOf(other), 0, 1450);
+    EXPECT_EQ(Actions(), 1);
+    model::Undo();
+    ExpectAt(PointOf(ils), 0, 1800);
+}
+
+TEST_F(RunwayWithIls, NoLeavesThemAndCancelKeepsTheDialogOpen) {
+    fake.answers = { Answer::Cancel, Answer::No };
+    const auto turn = [](RunwayFields& entered) { entered.heading = "90"; };
+    const auto before = Bytes(ils);
+    EXPECT_FALSE(Edit(turn));
+    EXPECT_EQ(bad.field, Field::None);
+    EXPECT_EQ(+Body().heading, 0);
+    EXPECT_TRUE(Edit(turn));
+    EXPECT_EQ(+Body().heading, 90);
+    EXPECT_EQ(Bytes(ils), before);
+}
+
+TEST_F(RunwayWithIls, ATurnTurnsThemAboutTheCentre) {
+    fake.answers = { Answer::Yes };
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.heading = "90"; }));
+    ExpectAt(PointOf(ils), 1800, 0);
+    ExpectAt(GlideSlope(), -1200, -120);
+    ExpectAt(PointOf(start), -1450, 0);
+    EXPECT_EQ(+Ils().localizer.heading, 90);
+    EXPECT_EQ(+Start().heading, 90);
+}
+
+TEST_F(RunwayWithIls, ALongerRunwayKeepsTheirDistancesFromItsEnds) {
+    app::settings.metric = true;
+    fake.answers = { Answer::Yes };
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.length = "3400"; }));
+    ExpectAt(PointOf(ils), 0, 2000);
+    ExpectAt(GlideSlope(), 120, -1400);
+    ExpectAt(PointOf(start), 0, -1650);
+}
+
+TEST_F(RunwayWithIls, AClickOnTheMapIsNoMoveUntilOk) {
+    fake.answers = { Answer::Yes };
+    const RunwayFields shown = LoadRunwayFields(runway);
+    RunwayFields entered = shown;
+    entered.position = MoveToClick(runway, build::At({ 0, 1000 }));
+    EXPECT_TRUE(StoreRunwayFields(shown, entered, runway, &bad));
+    ExpectAt(PointOf(runway), 0, 1000);
+    ExpectAt(PointOf(ils), 0, 2800);
+    model::Undo();
+    ExpectAt(PointOf(runway), 0, 0);
+    ExpectAt(PointOf(ils), 0, 1800);
+}
+
+TEST_F(RunwayWithIls, ARunwayWithNothingOfItsOwnAsksNothing) {
+    SceneryObject* alone = build::Runway(7);
+    const RunwayFields shown = LoadRunwayFields(alone);
+    RunwayFields entered = shown;
+    entered.heading = "70";
+    EXPECT_TRUE(StoreRunwayFields(shown, entered, alone, &bad));
+    EXPECT_TRUE(fake.messages.empty());
+}
+
+TEST_F(RunwayDialog, ANewRunwayIsAVisualOneOfAsphaltAndMustBePlacedAndMeasured) {
+    As<model::AirportRecord>(airport).altitude = 5000;
+    SceneryObject* made = InsertRunway();
+    EXPECT_EQ(made->payloadSize, 183u);
+    const RunwayFields shown = LoadRunwayFields(made);
+    EXPECT_EQ(shown.position.latitude, "");
+    EXPECT_EQ(shown.surface, 4);
+    EXPECT_EQ(shown.width, "151");
+    EXPECT_EQ(shown.length, "0");
+    EXPECT_TRUE(shown.centreLine && shown.numbers);
+    EXPECT_FALSE(shown.threshold || shown.precision);
+    EXPECT_EQ(shown.edgeLights, 2);
+    EXPECT_EQ(+As<RunwayPayload>(made).body.altitude, 5000);
+    RunwayFields entered = shown;
+    EXPECT_FALSE(StoreRunwayFields(shown, entered, made, &bad));
+    EXPECT_EQ(bad.field, Field::Latitude);
+    entered.position = MoveToClick(made, build::At({ 500, 0 }));
+    EXPECT_FALSE(StoreRunwayFields(shown, entered, made, &bad));
+    EXPECT_EQ(bad.field, Field::Length);
+    EXPECT_EQ(Actions(), 0);
+    entered.length = "5000";
+    EXPECT_TRUE(StoreRunwayFields(shown, entered, made, &bad));
+    EXPECT_EQ(+As<RunwayPayload>(made).body.width, 46);
+    EXPECT_EQ(Actions(), 1);
+    model::Undo();
+    EXPECT_EQ(model::CountKind(model::kRunway), 1u);
+}
+
+TEST_F(RunwayDialog, CancelTakesANewRunwayAwayWithoutATrace) {
+    SceneryObject* made = InsertRunway();
+    MoveToClick(made, build::kMiddle);
+    CancelDialog();
+    EXPECT_EQ(model::CountKind(model::kRunway), 1u);
+    EXPECT_FALSE(model::state.modified);
+    EXPECT_EQ(model::state.undoHead, nullptr);
+}
+
+}  // namespace

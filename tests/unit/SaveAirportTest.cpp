@@ -1,0 +1,177 @@
+#include "app/SaveAirport.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <random>
+
+#include "app/AppState.h"
+#include "fakes/BuildObjects.h"
+#include "fakes/FakePlatform.h"
+#include "fakes/FakeShell.h"
+#include "platform/Files.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using platform::Answer;
+
+constexpr char kQuestion[] = "Do you want to save changes to the current facility ?";
+constexpr char kFailure[] = "ERROR: Unable to create .bgl file";
+
+class SaveAirportTest : public testing::Test {
+protected:
+    void SetUp() override {
+        ResetProgram();
+        folder = fs::temp_directory_path() / ("tarvo-save-" + std::to_string(std::random_device{}()));
+        fs::create_directories(folder);
+        model::state.airport = build::Airport("KTST");
+        model::state.loaded = true;
+        model::state.modified = true;
+        app::state.sourceFile = In("AP915150.bgl");
+    }
+    void TearDown() override {
+        ResetProgram();
+        std::error_code ignored;
+        fs::remove_all(folder, ignored);
+    }
+    std::string In(const std::string& name) const { return (folder / name).string(); }
+    void Put(const std::string& name, const std::string& text) const {
+        std::ofstream(folder / name, std::ios::binary) << text;
+    }
+    std::string Content(const std::string& name) const {
+        std::ifstream file(folder / name, std::ios::binary);
+        return { std::istreambuf_iterator<char>(file), {} };
+    }
+    fs::path folder;
+};
+
+TEST_F(SaveAirportTest, AFileOfOurOwnIsRewrittenWithoutADialogInAnyMixOfCase) {
+    for (const char* name : { "TV2_KTST.bgl", "tv2_ktst.BGL", "Tv2_x.bgl" }) {
+        app::state.sourceFile = In(name);
+        app::state.savePath.clear();
+        model::state.modified = true;
+        EXPECT_TRUE(app::SaveAirport());
+        EXPECT_TRUE(platform::FileExists(In(name))) << name;
+        EXPECT_FALSE(model::state.modified);
+        EXPECT_EQ(app::state.savePath, In(name));
+    }
+    EXPECT_TRUE(fakeShell.saveQuestions.empty());
+}
+
+TEST_F(SaveAirportTest, AnotherFileIsNeverOverwrittenUnasked) {
+    Put("mine.bgl", "old");
+    app::state.sourceFile = In("mine.bgl");
+    EXPECT_FALSE(app::SaveAirport());  // the user cancels the dialog
+    EXPECT_EQ(fakeShell.saveQuestions.size(), 1u);
+    EXPECT_EQ(Content("mine.bgl"), "old");
+    EXPECT_TRUE(model::state.modified);
+}
+
+TEST_F(SaveAirportTest, TheDialogProposesTheAddOnFolderAndTheIdentifier) {
+    app::state.simulatorFolder = "C:\\FS9";
+    app::SaveAirportAs();
+    ASSERT_EQ(fakeShell.saveQuestions.size(), 1u);
+    EXPECT_EQ(fakeShell.saveQuestions[0].folder, "C:\\FS9\\AddOn Scenery\\Scenery\\");
+    EXPECT_EQ(fakeShell.saveQuestions[0].name, "TV2_KTST.bgl");
+}
+
+TEST_F(SaveAirportTest, TheDialogStartsWhereTheAirportWasSavedLast) {
+    app::state.simulatorFolder = "C:\\FS9";
+    app::state.savePath = "D:\\Mine\\x.bgl";
+    app::SaveAirportAs();
+    ASSERT_EQ(fakeShell.saveQuestions.size(), 1u);
+    EXPECT_EQ(fakeShell.saveQuestions[0].folder, "D:\\Mine");
+}
+
+TEST_F(SaveAirportTest, WithoutASimulatorTheDialogStartsBesideTheSource) {
+    app::SaveAirportAs();
+    ASSERT_EQ(fakeShell.saveQuestions.size(), 1u);
+    EXPECT_EQ(fs::path(fakeShell.saveQuestions[0].folder), folder);
+}
+
+TEST_F(SaveAirportTest, TheChosenPathIsWrittenAndServesLaterSaves) {
+    fakeShell.savePath = In("new.bgl");
+    EXPECT_TRUE(app::SaveAirportAs());
+    EXPECT_FALSE(model::state.modified);
+    EXPECT_EQ(app::state.savePath, In("new.bgl"));
+    EXPECT_EQ(fakeShell.title, "Tarvo    KTST        ( file new.bgl )");
+    const std::string first = Content("new.bgl");
+    EXPECT_FALSE(first.empty());
+    build::Node({ 10, 10 });
+    model::state.modified = true;
+    EXPECT_TRUE(app::SaveAirport());
+    EXPECT_EQ(fakeShell.saveQuestions.size(), 1u) << "a second dialog";
+    EXPECT_GT(Content("new.bgl").size(), first.size());
+}
+
+TEST_F(SaveAirportTest, AFailedWriteKeepsTheFileTheFlagAndThePath) {
+    fs::create_directory(folder / "taken.bgl");
+    fakeShell.savePath = In("taken.bgl");
+    EXPECT_FALSE(app::SaveAirportAs());
+    ASSERT_EQ(fake.messages.size(), 1u);
+    EXPECT_EQ(fake.messages[0].text, kFailure);
+    EXPECT_TRUE(model::state.modified);
+    EXPECT_EQ(app::state.savePath, "");
+    EXPECT_EQ(app::state.sourceFile, In("AP915150.bgl"));
+}
+
+TEST_F(SaveAirportTest, AStockFileIsNotOverwritten) {
+    Put("AP915150.bgl", "hundreds of airports");
+    fakeShell.savePath = In("AP915150.bgl");
+    EXPECT_FALSE(app::SaveAirportAs());
+    EXPECT_EQ(Content("AP915150.bgl"), "hundreds of airports");
+    EXPECT_EQ(fake.messages.size(), 1u);
+    fakeShell.savePath = In("AP999999.bgl");  // a name like a stock file's, but nothing is lost
+    EXPECT_TRUE(app::SaveAirportAs());
+}
+
+TEST_F(SaveAirportTest, WithoutAnAirportNothingIsSaved) {
+    model::state.loaded = false;
+    app::state.savePath = In("x.bgl");
+    EXPECT_FALSE(app::SaveAirport());
+    EXPECT_FALSE(app::SaveAirportAs());
+    EXPECT_FALSE(platform::FileExists(In("x.bgl")));
+    EXPECT_TRUE(fakeShell.saveQuestions.empty());
+}
+
+TEST_F(SaveAirportTest, ThePromptComesOnlyForAModifiedAirport) {
+    model::state.modified = false;
+    EXPECT_TRUE(app::SavePrompt());
+    model::state.modified = true;
+    model::state.loaded = false;
+    EXPECT_TRUE(app::SavePrompt());
+    EXPECT_TRUE(fake.messages.empty());
+}
+
+TEST_F(SaveAirportTest, YesSavesNoDropsAndCancelStops) {
+    app::state.savePath = In("x.bgl");
+    fake.answers = { Answer::Cancel, Answer::No, Answer::Yes };
+    EXPECT_FALSE(app::SavePrompt());
+    EXPECT_FALSE(platform::FileExists(In("x.bgl")));
+    EXPECT_TRUE(app::SavePrompt());
+    EXPECT_FALSE(platform::FileExists(In("x.bgl")));
+    EXPECT_TRUE(model::state.modified);
+    EXPECT_TRUE(app::SavePrompt());
+    EXPECT_TRUE(platform::FileExists(In("x.bgl")));
+    EXPECT_FALSE(model::state.modified);
+    ASSERT_EQ(fake.messages.size(), 3u);
+    EXPECT_EQ(fake.messages[0].text, kQuestion);
+    EXPECT_EQ(fake.messages[0].buttons, platform::Buttons::YesNoCancel);
+    EXPECT_EQ(fake.messages[0].icon, platform::Icon::Exclamation);
+}
+
+TEST_F(SaveAirportTest, YesWithoutASavedFileKeepsTheAirport) {
+    fake.answers = { Answer::Yes };  // and the save dialog is cancelled
+    EXPECT_FALSE(app::SavePrompt());
+    EXPECT_TRUE(model::state.loaded);
+    EXPECT_TRUE(model::state.modified);
+    fs::create_directory(folder / "taken.bgl");
+    app::state.savePath = In("taken.bgl");
+    fake.answers = { Answer::Yes };
+    EXPECT_FALSE(app::SavePrompt());
+    EXPECT_EQ(fake.messages.back().text, kFailure);
+}
+
+}  // namespace
