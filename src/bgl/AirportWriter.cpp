@@ -30,14 +30,24 @@ SectionContent AirportContent() {
     return section;
 }
 
-// The model's own navaids of one or two kinds, in list order.
-std::vector<SceneryObject*> NavaidsToWrite(uint32_t kind, uint32_t secondKind) {
-    std::vector<SceneryObject*> navaids;
+// The model's own navaids by section, in list order.
+struct OwnNavaids {
+    std::vector<SceneryObject*> vors, markers, ndbs;
+};
+
+OwnNavaids NavaidsToWrite() {
+    OwnNavaids own;
     for (SceneryObject* object = model::state.head; object; object = object->next) {
-        const bool fits = KindOf(object) == kind || KindOf(object) == secondKind;
-        if (fits && !IsStock(object)) navaids.push_back(object);
+        if (IsStock(object)) continue;
+        switch (KindOf(object)) {
+        case model::kIls:
+        case model::kVorDme: own.vors.push_back(object); break;
+        case model::kMarkerBeacon: own.markers.push_back(object); break;
+        case model::kNdb: own.ndbs.push_back(object); break;
+        default: break;
+        }
     }
-    return navaids;
+    return own;
 }
 
 SectionContent NavaidContent(uint32_t sectionType, const std::vector<SceneryObject*>& navaids) {
@@ -96,16 +106,14 @@ bool BuildAirportFile(uint64_t fileTime, std::vector<uint8_t>* bytes, std::strin
     if (!model::state.airport) return false;
     *refusal = WhatDoesNotFit();
     if (!refusal->empty()) return false;
-    const auto vors = NavaidsToWrite(model::kIls, model::kVorDme);
-    const auto markers = NavaidsToWrite(model::kMarkerBeacon, model::kMarkerBeacon);
-    const auto ndbs = NavaidsToWrite(model::kNdb, model::kNdb);
+    const OwnNavaids own = NavaidsToWrite();
     const SectionContent sections[] = {
         AirportContent(),
-        NavaidContent(kVorSection, vors),
-        NavaidContent(kMarkerSection, markers),
-        NavaidContent(kNdbSection, ndbs),
-        IndexContent(kVorIndexSection, vors),
-        IndexContent(kNdbIndexSection, ndbs),
+        NavaidContent(kVorSection, own.vors),
+        NavaidContent(kMarkerSection, own.markers),
+        NavaidContent(kNdbSection, own.ndbs),
+        IndexContent(kVorIndexSection, own.vors),
+        IndexContent(kNdbIndexSection, own.ndbs),
         NameListContent(),
     };
     *bytes = AssembleFile(sections, fileTime);

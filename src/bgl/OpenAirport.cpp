@@ -44,6 +44,10 @@ bool OpenAirportBytes(std::span<const uint8_t> bytes, std::string_view ident) {
     if (!ReadStructure(SourceOfBytes(bytes), &file) || !FindAirport(&file, ident, &place)) return false;
     const Bytes rest = bytes.subspan(static_cast<size_t>(place.offset));
     ReadAirportBytes(rest.first(std::min<size_t>(rest.size(), place.size)));
+    if (!model::state.airport) {  // its record is cut short
+        model::ClearModel();
+        return false;
+    }
     ReadPlaceNames(&file);
     AppendOwnNavaids(&file);
     return true;

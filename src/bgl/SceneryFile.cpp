@@ -135,6 +135,23 @@ bool FindAirport(SceneryFile* file, std::string_view ident, AirportPlace* place)
     return false;
 }
 
+std::vector<AirportPlace> FindAllAirports(SceneryFile* file) {
+    std::vector<AirportPlace> places;
+    for (const SectionEntry& section : file->sections) {
+        if (section.type != kAirportSection || section.sectionClass != kByCell) continue;
+        for (const SubsectionEntry& subsection : ReadSubsections(file, section)) {
+            if (!CoverRecords(file, subsection)) return places;
+            uint64_t offset = subsection.offset;
+            const uint64_t end = offset + subsection.size;
+            for (AirportPlace place; FindInRecords(file->source, offset, end, "", &place);) {
+                places.push_back(place);
+                offset = place.offset + place.size;
+            }
+        }
+    }
+    return places;
+}
+
 bool FindAirportInFile(const std::string& path, std::string_view ident, AirportPlace* place) {
     const platform::FileHandle handle = platform::OpenForReading(path);
     SceneryFile file;
@@ -142,6 +159,15 @@ bool FindAirportInFile(const std::string& path, std::string_view ident, AirportP
     if (!FindAirport(&file, ident, place)) return false;
     place->path = path;
     return true;
+}
+
+std::vector<AirportPlace> AirportsInFile(const std::string& path) {
+    const platform::FileHandle handle = platform::OpenForReading(path);
+    SceneryFile file;
+    if (!handle || !ReadStructure(SourceOfFile(handle.get()), &file)) return {};
+    std::vector<AirportPlace> places = FindAllAirports(&file);
+    for (AirportPlace& place : places) place.path = path;
+    return places;
 }
 
 }  // namespace bgl

@@ -28,6 +28,9 @@ bool IsOwnFileName(std::string_view path);
 // be opened, is no scenery file, or does not hold it.
 bool FindAirportInFile(const std::string& path, std::string_view ident, AirportPlace* place);
 
+// All airports, in the order of the file; none when it cannot be opened or is no scenery file.
+std::vector<AirportPlace> AirportsInFile(const std::string& path);
+
 // The bytes of a scenery file: those of an open file, or a block of memory when `file` is null.
 struct ByteSource {
     platform::OpenFile* file = nullptr;
@@ -71,5 +74,6 @@ std::vector<SubsectionEntry> ReadSubsections(SceneryFile* file, const SectionEnt
 bool CoverRecords(SceneryFile* file, const SubsectionEntry& subsection);
 
 bool FindAirport(SceneryFile* file, std::string_view ident, AirportPlace* place);
+std::vector<AirportPlace> FindAllAirports(SceneryFile* file);  // without their paths
 
 }  // namespace bgl

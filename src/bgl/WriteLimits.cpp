@@ -39,34 +39,42 @@ constexpr KindLimit kKindLimits[] = {
     { model::kTaxiDesignator, kMostDesignators, "taxiway designators" },
 };
 
-struct CellLimit {
-    uint32_t kinds[2];
-    const char* name;
-};
-constexpr CellLimit kCellLimits[] = {
-    { { model::kIls, model::kVorDme }, "ILS and VOR/DME navaids" },
-    { { model::kMarkerBeacon, 0 }, "marker beacons" },
-    { { model::kNdb, 0 }, "NDBs" },
+// Navaids by the section that holds them.
+enum NavaidGroup { kVors, kMarkers, kNdbs, kNavaidGroups };
+constexpr const char* kGroupNames[kNavaidGroups] = { "ILS and VOR/DME navaids", "marker beacons", "NDBs" };
+
+NavaidGroup GroupOf(const SceneryObject* navaid) {
+    const uint32_t kind = KindOf(navaid);
+    return kind == model::kMarkerBeacon ? kMarkers : kind == model::kNdb ? kNdbs : kVors;
+}
+
+struct Survey {
+    size_t counts[model::kKindMask + 1] = {};  // without aprons that are being drawn
+    std::set<uint32_t> cells[kNavaidGroups];
+    const SceneryObject* edgeLights = nullptr;
 };
 
-std::string CellsThatDoNotFit(const CellLimit& limit) {
-    std::set<uint32_t> cells;
+Survey SurveyObjects() {
+    Survey survey;
     for (const SceneryObject* object = model::state.head; object; object = object->next) {
         const uint32_t kind = KindOf(object);
-        if ((kind != limit.kinds[0] && kind != limit.kinds[1]) || IsStock(object)) continue;
-        cells.insert(CellOf(KeyOf(object).position));
+        const bool isDrawn = kind == model::kApron && (object->flags & model::kOutlineOpen) != 0;
+        if (!isDrawn) ++survey.counts[kind];
+        if (IsNavaid(object) && !IsStock(object)) survey.cells[GroupOf(object)].insert(CellOf(KeyOf(object).position));
+        if (kind == model::kApronEdgeLights && !survey.edgeLights) survey.edgeLights = object;
     }
-    if (cells.size() <= kMostCells) return {};
+    return survey;
+}
+
+std::string TooManyCells(const char* what, size_t cells) {
     char text[200];
     std::snprintf(text, sizeof text,
                   "ERROR: The %s of the airport lie in %zu grid cells.\nA scenery file can hold no more than %zu.",
-                  limit.name, cells.size(), kMostCells);
+                  what, cells, kMostCells);
     return text;
 }
 
-std::string EdgeLightsThatDoNotFit() {
-    const SceneryObject* edgeLights = model::FirstOfKind(model::state.head, model::kApronEdgeLights);
-    if (!edgeLights) return {};
+std::string EdgeLightsThatDoNotFit(const SceneryObject* edgeLights) {
     const EdgeTables tables = MakeEdgeTables(edgeLights);
     if (tables.edgeCount > kMostEdgeLights)
         return TooMany("strips of apron edge lights", tables.edgeCount, kMostEdgeLights);
@@ -78,19 +86,16 @@ std::string EdgeLightsThatDoNotFit() {
 }  // namespace
 
 std::string WhatDoesNotFit() {
-    size_t counts[model::kKindMask + 1] = {};
-    for (const SceneryObject* object = model::state.head; object; object = object->next) {
-        const bool isDrawn = KindOf(object) == model::kApron && (object->flags & model::kOutlineOpen) != 0;
-        if (!isDrawn) ++counts[KindOf(object)];
-    }
+    const Survey survey = SurveyObjects();
     for (const KindLimit& limit : kKindLimits) {
-        if (counts[limit.kind] > limit.most) return TooMany(limit.name, counts[limit.kind], limit.most);
+        const size_t count = survey.counts[limit.kind];
+        if (count > limit.most) return TooMany(limit.name, count, limit.most);
     }
-    for (const CellLimit& limit : kCellLimits) {
-        const std::string refusal = CellsThatDoNotFit(limit);
-        if (!refusal.empty()) return refusal;
+    for (int group = 0; group < kNavaidGroups; ++group) {
+        const size_t cells = survey.cells[group].size();
+        if (cells > kMostCells) return TooManyCells(kGroupNames[group], cells);
     }
-    return EdgeLightsThatDoNotFit();
+    return survey.edgeLights ? EdgeLightsThatDoNotFit(survey.edgeLights) : std::string();
 }
 
 }  // namespace bgl

@@ -100,8 +100,10 @@ const char* ParseCoordinate(std::string_view text, const CoordinateRules& rules,
     SkipAnyOf(&text, " :'");
     const double seconds = TakeNumber(&text);
     if (seconds >= 60) return rules.tooManyMinutes;
+    const double total = seconds / 3600 + minutes / 60 + degrees;
+    if (total >= rules.degreeLimit) return rules.tooManyDegrees;  // fractions of a degree and minutes besides
     const double sign = letter == rules.positive ? 1 : -1;
-    *radians = (seconds / 3600 + minutes / 60 + degrees) * sign * kRadiansPerDegree;
+    *radians = total * sign * kRadiansPerDegree;
     return nullptr;
 }
 

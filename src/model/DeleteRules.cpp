@@ -90,8 +90,27 @@ void ForgetDesignator(const SceneryObject* designator, Deletion* deletion) {
     }
 }
 
+// Runways no longer name an ILS that goes; where it replaced a stock one they name that one again. A runway
+// that goes with its ILS stays as it is.
+void ForgetIls(const SceneryObject* ils, const SceneryObject* leaving, Deletion* deletion) {
+    const uint32_t ident = ils->related ? PayloadAs<IlsPayload>(ils->related).body.ident >> kIdentShift : 0;
+    for (SceneryObject* runway = FirstOfKind(state.head, kRunway); runway; runway = NextOfKind(runway, kRunway)) {
+        if (runway == leaving) continue;
+        SceneryObject* edited = CopyObject(runway);
+        RunwayRecord& body = PayloadAs<RunwayPayload>(edited).body;
+        if (body.primaryIls != 0 && IlsBelongsTo(ils, runway, RunwayEnd::Primary)) body.primaryIls = ident;
+        if (body.secondaryIls != 0 && IlsBelongsTo(ils, runway, RunwayEnd::Secondary)) body.secondaryIls = ident;
+        if (std::memcmp(edited->payload, runway->payload, sizeof body) != 0)
+            Change(edited, runway, deletion);
+        else
+            FreeObject(edited);
+    }
+}
+
 // The stock object that the replacement stood for is in force again.
-void RemoveNavaid(SceneryObject* navaid, Deletion* deletion) {
+void RemoveNavaid(SceneryObject* navaid, const SceneryObject* leavingRunway, Deletion* deletion) {
+    if (deletion->gone.contains(navaid)) return;
+    if (KindOf(navaid) == kIls) ForgetIls(navaid, leavingRunway, deletion);
     if (SceneryObject* stock = navaid->related) {
         SceneryObject* edited = CopyObject(stock);
         edited->related = nullptr;
@@ -120,7 +139,7 @@ void DeleteRunway(SceneryObject* runway, Deletion* deletion) {
                                          "If you delete the runway the ILS will also be deleted.\n\n"
                                          "Do you want to proceed?"))
         return;
-    for (SceneryObject* ils : installed) RemoveNavaid(ils, deletion);
+    for (SceneryObject* ils : installed) RemoveNavaid(ils, runway, deletion);
     ForgetDesignator(runway, deletion);
     Remove(runway, deletion);
 }
@@ -187,9 +206,26 @@ void DeleteByKind(SceneryObject* object, Deletion* deletion) {
     case kIls:
     case kMarkerBeacon:
     case kNdb:
-    case kVorDme: return RemoveNavaid(object, deletion);
+    case kVorDme: return RemoveNavaid(object, nullptr, deletion);
     default: return Remove(object, deletion);
     }
+}
+
+bool LocalizerNames(const SceneryObject* ils, const RunwayRecord& body, RunwayEnd end) {
+    const LocalizerPart localizer = PayloadAs<IlsPayload>(ils).localizer;
+    const bool primary = end == RunwayEnd::Primary;
+    return localizer.runwayNumber == (primary ? body.primaryNumber : body.secondaryNumber) &&
+           localizer.runwayDesignator == (primary ? body.primaryDesignator : body.secondaryDesignator);
+}
+
+// New ILSs start with one ident: whether the localizer names an end that names the ident.
+bool LocalizerNamesOther(const SceneryObject* ils, uint32_t ident) {
+    for (SceneryObject* runway = FirstOfKind(state.head, kRunway); runway; runway = NextOfKind(runway, kRunway)) {
+        const RunwayRecord& body = PayloadAs<RunwayPayload>(runway).body;
+        if (body.primaryIls == ident && LocalizerNames(ils, body, RunwayEnd::Primary)) return true;
+        if (body.secondaryIls == ident && LocalizerNames(ils, body, RunwayEnd::Secondary)) return true;
+    }
+    return false;
 }
 
 uint32_t AirportIdent() { return state.airport ? PayloadAs<AirportRecord>(state.airport).ident >> kIdentShift : 0; }
@@ -199,13 +235,10 @@ uint32_t AirportIdent() { return state.airport ? PayloadAs<AirportRecord>(state.
 bool IlsBelongsTo(const SceneryObject* ils, const SceneryObject* runway, RunwayEnd end) {
     const IlsPayload& payload = PayloadAs<IlsPayload>(ils);
     const RunwayRecord& body = PayloadAs<RunwayPayload>(runway).body;
-    const bool primary = end == RunwayEnd::Primary;
-    const uint32_t named = primary ? body.primaryIls : body.secondaryIls;
-    if (named != 0) return named == payload.body.ident >> kIdentShift;
-    const uint8_t number = primary ? body.primaryNumber : body.secondaryNumber;
-    const uint8_t designator = primary ? body.primaryDesignator : body.secondaryDesignator;
-    return !IsStock(ils) && state.airport && payload.localizer.runwayNumber == number &&
-           payload.localizer.runwayDesignator == designator &&
+    const uint32_t named = end == RunwayEnd::Primary ? body.primaryIls : body.secondaryIls;
+    const uint32_t ident = payload.body.ident >> kIdentShift;
+    if (named != 0) return named == ident && (LocalizerNames(ils, body, end) || !LocalizerNamesOther(ils, ident));
+    return !IsStock(ils) && state.airport && LocalizerNames(ils, body, end) &&
            payload.body.region >> kRegionAirportShift == AirportIdent();
 }
 

@@ -17,7 +17,8 @@ int DeleteGuidelinesAndMarkers();
 enum class RunwayEnd { Primary, Secondary };
 
 // Whether the ILS serves that end: the runway names its ident or, when the runway names none there and the
-// ILS is no stock object, its localizer names the end and its region word this airport.
+// ILS is no stock object, its localizer names the end and its region word this airport. Where several ends
+// name the ident, the localizer tells which one it is.
 bool IlsBelongsTo(const SceneryObject* ils, const SceneryObject* runway, RunwayEnd end);
 
 }  // namespace model

@@ -1,6 +1,7 @@
 // Links.cpp - see Links.h.
 #include "model/Links.h"
 
+#include <array>
 #include <cstdint>
 #include <unordered_map>
 #include <vector>
@@ -17,10 +18,13 @@ constexpr uint32_t kDesignatorMask = 0xF;  // what a link can hold of a runway's
 constexpr uint32_t kIndexByteMask = 0x0000FF00;
 constexpr int kIndexByteShift = 8;
 
-std::vector<SceneryObject*> AllOfKind(uint32_t kind) {
-    std::vector<SceneryObject*> objects;
-    for (SceneryObject* o = FirstOfKind(state.head, kind); o; o = NextOfKind(o, kind)) objects.push_back(o);
-    return objects;
+// The objects of the list by kind, each kind in list order. One walk: the list is long and scattered in memory.
+using KindLists = std::array<std::vector<SceneryObject*>, kKindMask + 1>;
+
+KindLists SortByKind() {
+    KindLists lists;
+    for (SceneryObject* object = state.head; object; object = object->next) lists[KindOf(object)].push_back(object);
+    return lists;
 }
 
 SceneryObject* At(const std::vector<SceneryObject*>& objects, uint32_t index) {
@@ -37,11 +41,10 @@ SceneryObject* RunwayNamed(const std::vector<SceneryObject*>& runways, uint32_t 
 
 using IndexMap = std::unordered_map<const SceneryObject*, uint32_t>;
 
-IndexMap IndicesOf(uint32_t kind) {
+IndexMap IndicesOf(const std::vector<SceneryObject*>& objects) {
     IndexMap indices;
-    for (SceneryObject* o = FirstOfKind(state.head, kind); o; o = NextOfKind(o, kind)) {
-        indices.emplace(o, static_cast<uint32_t>(indices.size()));
-    }
+    indices.reserve(objects.size());
+    for (const SceneryObject* object : objects) indices.emplace(object, static_cast<uint32_t>(indices.size()));
     return indices;
 }
 
@@ -53,9 +56,10 @@ uint32_t IndexIn(const IndexMap& indices, const SceneryObject* object) {
 }  // namespace
 
 void ResolveLinks() {
-    const auto nodes = AllOfKind(kTaxiNode), spots = AllOfKind(kParkingSpot);
-    const auto designators = AllOfKind(kTaxiDesignator), runways = AllOfKind(kRunway);
-    for (SceneryObject* object : AllOfKind(kTaxiLink)) {
+    const KindLists all = SortByKind();
+    const auto &nodes = all[kTaxiNode], &spots = all[kParkingSpot];
+    const auto &designators = all[kTaxiDesignator], &runways = all[kRunway];
+    for (SceneryObject* object : all[kTaxiLink]) {
         auto& link = PayloadAs<TaxiLinkPayload>(object);
         const uint32_t type = LinkTypeOf(link);
         link.start = At(nodes, link.startIndex);
@@ -70,10 +74,11 @@ void ResolveLinks() {
 }
 
 void UpdateLinkIndices() {
-    const IndexMap nodes = IndicesOf(kTaxiNode), spots = IndicesOf(kParkingSpot);
-    const IndexMap designators = IndicesOf(kTaxiDesignator), runways = IndicesOf(kRunway);
-    for (SceneryObject* o = FirstOfKind(state.head, kTaxiLink); o; o = NextOfKind(o, kTaxiLink)) {
-        auto& link = PayloadAs<TaxiLinkPayload>(o);
+    const KindLists all = SortByKind();
+    const IndexMap nodes = IndicesOf(all[kTaxiNode]), spots = IndicesOf(all[kParkingSpot]);
+    const IndexMap designators = IndicesOf(all[kTaxiDesignator]), runways = IndicesOf(all[kRunway]);
+    for (SceneryObject* object : all[kTaxiLink]) {
+        auto& link = PayloadAs<TaxiLinkPayload>(object);
         const uint32_t type = LinkTypeOf(link);
         uint32_t endField = link.endField & ~uint32_t{ kIndexMask };
         endField |= IndexIn(type == kParkingLink ? spots : nodes, link.end) & kIndexMask;

@@ -15,6 +15,12 @@
 
 namespace model {
 
+// How the lamps of new strips of apron edge lights stand; kept while the airport is open, in no record.
+struct EdgeLightDefaults {
+    bool adjust = false;            // every strip ends at a lamp
+    double optimumSpacing = 60.96;  // metres (200 ft), the stock value
+};
+
 struct ModelState {
     SceneryObject* head = nullptr;
     SceneryObject* tail = nullptr;
@@ -23,6 +29,7 @@ struct ModelState {
     std::string country, state, city;         // Windows-1252, as the file's name list gives them
     std::string icao;                         // the airport's identifier as text, "" when there is none
     uint32_t regionIdent = 0;
+    EdgeLightDefaults edgeLights;
     SceneryObject* undoHead = nullptr;  // newest first
     SceneryObject* redoHead = nullptr;
     std::unordered_map<const SceneryObject*, PlaceTexts> otherTexts;  // of history entries that changed them

@@ -397,7 +397,8 @@ bool RunwayLinks(Finder* finder, bool resume, Report* report) {
         const LatLon middle = model::OffsetByPolar(start, way);
         const SceneryObject* runway = RunwayUnder(start, end, middle);
         const SceneryObject* named = LinkOf(link).designator;
-        if (runway && runway == named) continue;
+        if (runway && named && EndName(runway, 0) == EndName(named, 0) && EndName(runway, 1) == EndName(named, 1))
+            continue;
         char message[1000];
         std::snprintf(message, sizeof message, "%s", kMisplacedLinkText);
         if (runway) {

@@ -300,8 +300,8 @@ TEST_F(DeleteRules, AnIlsWithItsRunwayBothSelectedGoOnce) {
     SceneryObject* runway = Selected(build::Runway(16));
     BodyOf(runway).primaryIls = PackIdent("ISNQ");
     const Objects before = build::List();
-    EXPECT_EQ(DeleteSelected(nullptr), 2);
-    EXPECT_TRUE(fake.messages.empty());  // the ILS went first
+    EXPECT_EQ(DeleteSelected(nullptr), 3);  // the runway forgets the ILS before it goes itself
+    EXPECT_TRUE(fake.messages.empty());     // the ILS went first
     ExpectLeft({ airport }, before);
     EXPECT_FALSE(IsListed(ils));
 }
@@ -430,6 +430,31 @@ SceneryObject* WithSelectedVertices(SceneryObject* apron, std::initializer_list<
 
 bool SamePoints(const std::vector<EncodedPoint>& a, const std::vector<EncodedPoint>& b) {
     return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(EncodedPoint)) == 0;
+}
+
+TEST_F(DeleteRules, ARunwayForgetsADeletedIlsInTheSameAction) {
+    build::Airport("KSEA");
+    SceneryObject* runway = build::Runway(16);
+    PayloadAs<RunwayPayload>(runway).body.primaryIls = PackIdent("ISEA");
+    SceneryObject* ils = build::Ils("ISEA");
+    ils->flags |= kSelected;
+    EXPECT_EQ(DeleteSelected(nullptr), 2);
+    EXPECT_EQ(+PayloadAs<RunwayPayload>(runway).body.primaryIls, 0u);
+    Undo();
+    EXPECT_EQ(+PayloadAs<RunwayPayload>(runway).body.primaryIls, PackIdent("ISEA"));
+    EXPECT_EQ(build::List().back(), ils);
+}
+
+TEST_F(DeleteRules, ARunwayNamesTheStockIlsAgainWhenItsReplacementGoes) {
+    SceneryObject* runway = build::Runway(16);
+    PayloadAs<RunwayPayload>(runway).body.primaryIls = PackIdent("INEW");
+    SceneryObject *stock = build::Ils("IOLD"), *replacement = build::Ils("INEW");
+    stock->flags |= kStock;
+    stock->related = replacement;
+    replacement->related = stock;
+    replacement->flags |= kSelected;
+    DeleteSelected(nullptr);
+    EXPECT_EQ(+PayloadAs<RunwayPayload>(runway).body.primaryIls, PackIdent("IOLD"));
 }
 
 TEST_F(DeleteRules, AWholeApronIsDeleted) {

@@ -83,6 +83,20 @@ TEST(SceneryFile, WithoutIdentifierTheFirstAirportIsTaken) {
     EXPECT_EQ(IdentAt(bytes, found.place), HexOf(U32(0x0262E681)));
 }
 
+TEST(SceneryFile, AllAirportsAreListedInTheOrderOfTheFile) {
+    const ByteList bytes = Assembled(ThreeAirports());
+    SceneryFile file;
+    ASSERT_TRUE(ReadStructure(SourceOfBytes(bytes), &file));
+    const std::vector<AirportPlace> places = FindAllAirports(&file);
+    ASSERT_EQ(places.size(), 3u);
+    for (size_t i = 0; i < 3; ++i) {
+        const char* const idents[] = { "KSEA", "CYVR", "S36" };
+        EXPECT_EQ(places[i].offset, Find(bytes, idents[i]).place.offset);
+        EXPECT_EQ(places[i].size, Find(bytes, idents[i]).place.size);
+    }
+    EXPECT_TRUE(AirportsInFile("/no/such/file.bgl").empty());
+}
+
 TEST(SceneryFile, OnlySectionsOfTypeThreeAndClassOneHoldAirports) {
     for (const auto& [type, sectionClass] :
          std::vector<std::pair<uint32_t, uint32_t>>{ { 3, 2 }, { 3, 0x10001 }, { 4, 1 } }) {

@@ -1,0 +1,54 @@
+// Any bytes as Scenery.cfg, as the airports of the index cache, and as a pair of cache files.
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+
+#include "bgl/AirportIndex.h"
+#include "bgl/IndexCache.h"
+#include "bgl/SceneryAreas.h"
+#include "platform/IniText.h"
+
+namespace {
+
+using bgl::library;
+
+void Require(bool holds) {
+    if (!holds) std::abort();
+}
+
+bgl::CacheTexts Compose() {
+    for (int step = 0; step < bgl::kTreeSteps; ++step) bgl::BuildPlacesStep(step);
+    return bgl::ComposeCaches();
+}
+
+void ReadBack(const bgl::CacheTexts& texts) {
+    bgl::ReleaseLibrary();
+    Require(bgl::ParseFileList(texts, "C:\\FS9"));
+    for (bgl::LibraryFile& file : library.files) file.present = true;
+    bgl::ParseAirportIndex(texts.airportIndex);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    for (const auto& area : bgl::ParseSceneryAreas(platform::DecodeIniText({ data, size }), "C:\\FS9")) {
+        Require(!area.folder.empty());
+    }
+    const std::string text(reinterpret_cast<const char*>(data), size);
+    bgl::ReleaseLibrary();
+    Require(!bgl::ParseFileList({ text, text }, "C:\\FS9"));
+    for (const char* path : { "C:\\a.bgl", "C:\\b.bgl" }) {
+        bgl::LibraryFile& file = library.files[bgl::FileNumberOf(path)];
+        file.kind = bgl::FileKind::AddOn;
+        file.present = true;
+    }
+    bgl::ParseAirportIndex(text);
+    const size_t airports = library.airports.size();
+    const bgl::CacheTexts first = Compose();
+    Require(bgl::AirportsInTreeOrder().size() == airports);
+    ReadBack(first);
+    const bgl::CacheTexts second = Compose();
+    Require(second.fileList == first.fileList && second.airportIndex == first.airportIndex);
+    return 0;
+}
