@@ -48,8 +48,9 @@ void ShowRotation() {
 void ResizeView(int32_t width, int32_t height) {
     view.clientWidth = width;
     view.clientHeight = height;
-    view.screenCentreX = width / 2;
-    view.screenCentreY = height / 2;
+    const int32_t halfWidth = width / 2, halfHeight = height / 2;  // whole pixels
+    view.screenCentreX = halfWidth;
+    view.screenCentreY = halfHeight;
     MeasureScale();
 }
 

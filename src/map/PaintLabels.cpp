@@ -47,7 +47,7 @@ void PaintLabel(const Painter& painter, const SceneryObject* object) {
     run.alignY = platform::AlignY::Middle;
     run.height = kLabelHeight;
     run.colour = InkOf(Ink::ParkingLabel);
-    const Point from = { double(run.at.x), double(run.at.y - kLabelHeight / 2) };
+    const Point from = { double(run.at.x), run.at.y - kLabelHeight / 2.0 };
     if (!Contains(painter.clip, from)) return;
     platform::DrawText(painter.canvas, run);
 }

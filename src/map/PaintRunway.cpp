@@ -15,6 +15,7 @@ constexpr double kShoulder = 7.5;            // metres of edge pavement beside t
 constexpr double kMostMetres = 30'000;       // beyond the length of any runway: a damaged record
 constexpr double kChevronStep = 30.48;       // 100 feet along the blast pad
 constexpr double kChevronStroke = 0.9144;    // 3 feet
+constexpr double kBorderShare = 0.3;         // of the border's colour in the outline
 constexpr uint32_t kSurfaceCodeMask = 0xFF;  // the high byte is no part of the code
 
 double Metres(float value) { return value > 0 && value < kMostMetres ? double{ value } : 0; }
@@ -30,6 +31,11 @@ RunwayEnd MakeEnd(const model::RunwayAreaPart& threshold, const model::RunwayAre
 }
 
 void SelectGround(const Painter& painter, Colour colour) { Fill(painter, colour, colour); }
+
+// Concrete is hardly darker than the background: the outline tells where the runway ends.
+void SelectPavement(const Painter& painter, Colour colour) {
+    Fill(painter, colour, Blend(colour, InkOf(Ink::RunwayBorder), kBorderShare));
+}
 
 // Yellow arms that spread away from the runway, pavement that must not be used.
 void PaintChevrons(const Painter& painter, const RunwayEnd& end, std::span<const Point> pad) {
@@ -55,7 +61,7 @@ void PaintChevrons(const Painter& painter, const RunwayEnd& end, std::span<const
 void PaintEnd(const Painter& painter, const RunwayShape& runway, const RunwayEnd& end, bool selected) {
     const double half = runway.width / 2;
     if (end.displaced > 0 && !selected) {
-        SelectGround(painter, RunwayColour(end.displacedSurface));
+        SelectPavement(painter, RunwayColour(end.displacedSurface));
         FillPolygon(painter.canvas, Rectangle(end.frame, -half, half, 0, end.displaced));
     }
     if (end.blastPad <= 0) return;
@@ -83,7 +89,7 @@ void PaintSurface(const Painter& painter, SceneryObject* object) {
     if (selected)
         Fill(painter, InkOf(Ink::SelectedFill), InkOf(Ink::SelectedOutline));
     else
-        SelectGround(painter, RunwayColour(runway.surface));
+        SelectPavement(painter, RunwayColour(runway.surface));
     FillPolygon(painter.canvas, runway.corners);
     for (const RunwayEnd& end : runway.ends) PaintEnd(painter, runway, end, selected);
 }

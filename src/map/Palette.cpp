@@ -4,6 +4,7 @@
 // shows the first taxiway colour then, a taxiway the first runway colour. That is kept.
 #include "map/Palette.h"
 
+#include <cmath>
 #include <iterator>
 
 #include "map/MapView.h"
@@ -39,6 +40,7 @@ constexpr InkPair kInks[] = {
     { Rgb(206, 199, 170), Rgb(38, 38, 34) },     // GridLine
     { Rgb(112, 104, 74), Rgb(104, 100, 84) },    // GridLabel
     { Rgb(255, 255, 255), Rgb(120, 120, 120) },  // RunwayMarking
+    { Rgb(40, 40, 40), Rgb(120, 120, 120) },     // RunwayBorder
     { Rgb(236, 190, 40), Rgb(92, 74, 16) },      // RunwayYellow
     { Rgb(255, 255, 255), Rgb(120, 120, 120) },  // HelipadMarking
     { Rgb(200, 30, 30), Rgb(110, 20, 20) },      // HelipadMedical
@@ -92,7 +94,8 @@ Colour EachChannel(Colour colour, Change change) {
 Colour SurfaceColour(uint32_t table, uint32_t surface) {
     const Colour day = kSurfaces[table * kTableSize + (surface > kTableSize ? 0 : surface)];
     if (!layers.lights) return day;
-    return EachChannel(day, [](uint32_t channel, int) { return static_cast<uint32_t>(channel * kNightShare + 0.5); });
+    return EachChannel(day,
+                       [](uint32_t channel, int) { return static_cast<uint32_t>(std::lround(channel * kNightShare)); });
 }
 
 }  // namespace
@@ -109,7 +112,7 @@ Colour RunwayColour(uint32_t surface) { return SurfaceColour(2, surface); }
 Colour Blend(Colour a, Colour b, double share) {
     return EachChannel(a, [=](uint32_t channel, int shift) {
         const double other = (b >> shift) & 0xFF;
-        return static_cast<uint32_t>(channel * (1 - share) + other * share + 0.5);
+        return static_cast<uint32_t>(std::lround(channel * (1 - share) + other * share));
     });
 }
 

@@ -30,6 +30,7 @@ enum class Ink {
     GridLine,
     GridLabel,
     RunwayMarking,
+    RunwayBorder,
     RunwayYellow,  // chevrons and closed marks
     HelipadMarking,
     HelipadMedical,

@@ -47,7 +47,7 @@ double Thinned(double spacing) {
 
 // An even spacing near the wanted one that ends exactly at the other end.
 int SpacesAlong(double length, double spacing) {
-    return std::max(1, static_cast<int>(length / Thinned(spacing) + 0.5));
+    return std::max(1, static_cast<int>(std::lround(length / Thinned(spacing))));
 }
 
 void EdgeLights(const Lamps& lamps, const RunwayShape& runway) {

@@ -227,11 +227,14 @@ void CentreLine(const MarkPainter& marks, double primaryStart, double secondaryS
     }
 }
 
+// Seen from so far that they would cover the runway's outline, they move one pixel inward.
 void EdgeLines(const MarkPainter& marks) {
     const RunwayShape& runway = *marks.runway;
     const double width = runway.width >= Feet(100) ? Feet(3) : Feet(1.5);
     const double near = runway.ends[0].displaced, far = runway.length - runway.ends[1].displaced;
-    if (far > near) BarPair(marks, runway.ends[0].frame, runway.width / 2 - width, width, near, far - near);
+    const double inset = width * view.pixelsPerMetre < 1 ? 1 / view.pixelsPerMetre : 0;
+    const double inner = runway.width / 2 - width - inset;
+    if (far > near && inner > 0) BarPair(marks, runway.ends[0].frame, inner, width, near, far - near);
 }
 
 }  // namespace

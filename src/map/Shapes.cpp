@@ -182,7 +182,10 @@ Box Grown(const Box& box, double dx, double dy) {
 }
 
 Box ClientBox() { return { 0, 0, double(view.clientWidth), double(view.clientHeight) }; }
-Box ClipBox() { return Grown(ClientBox(), view.clientWidth / 10, view.clientHeight / 10); }
+Box ClipBox() {
+    const int32_t besides = view.clientWidth / 10, above = view.clientHeight / 10;  // whole pixels
+    return Grown(ClientBox(), besides, above);
+}
 
 void MoveTo(Outline* outline, Point to) {
     outline->steps.push_back(Path::Step::Move);

@@ -1,7 +1,8 @@
 // TaxiwayMarkings.cpp - centre lines and edge lines of taxiways.
 //
-// Centre lines are one foot wide. They turn into each other at a junction, and end at the edge of a runway.
-// Edge lines are a pair of half-foot lines, drawn as one broader line while the map is too small for two.
+// Centre lines are one foot wide. They turn into each other at a junction, and end at the edge of a runway
+// unless a node on the runway leads them on. Edge lines are a pair of half-foot lines, drawn as one broader
+// line while the map is too small for two; they never run across a runway.
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -9,6 +10,7 @@
 #include "map/HoldShort.h"
 #include "map/MapView.h"
 #include "map/Painter.h"
+#include "map/RunwayAreas.h"
 
 namespace map {
 
@@ -22,6 +24,8 @@ constexpr double kSharpestTurn = 0.2;             // cosine between two arms abo
 constexpr uint32_t kMostTurningArms = 8;          // a hub with more is no junction of taxiways
 constexpr double kDash = 4.572, kDashGap = 7.62;  // metres: 15 and 25 feet
 constexpr double kShortestDash = 2;               // pixels; shorter dashes run together
+
+constexpr int kCurvePieces = 12;
 
 constexpr uint32_t kCentreLineBit = 1u << 16;
 constexpr int kLeftEdgeShift = 18, kRightEdgeShift = 21;
@@ -112,21 +116,33 @@ void PaintCentreLines(const Painter& painter) {
     }
 }
 
-// The dashes keep their places on the ground when only a part of the line is on the page.
-void StrokeDashes(const Painter& painter, Point from, Point to) {
-    const double length = Length(to - from), dash = kDash * painter.scale, step = (kDash + kDashGap) * painter.scale;
-    const Point along = (to - from) * (1 / length);
-    Point first = from, last = to;
-    if (!CutToBox(painter.clip, &first, &last)) return;
-    const double end = Length(last - from);
-    for (double number = std::floor(Length(first - from) / step); number * step < end; ++number) {
-        const double begin = number * step;
-        StrokeLine(painter.canvas, from + along * begin, from + along * std::min(begin + dash, length));
+struct EdgePainter {
+    const Painter* painter;
+    const RunwayAreas* runways;
+};
+
+void StrokeEdge(const EdgePainter& edges, Point from, Point to) {
+    for (const auto& [begin, end] : OutsideRunways(*edges.runways, from, to)) {
+        StrokeIfOnPage(*edges.painter, begin, end);
     }
 }
 
-void PaintEdge(const Painter& painter, const TaxiSegment& segment, double inset, bool right) {
-    const TaxiNetwork& network = painter.network;
+// The dashes keep their places on the ground when only a part of the line is on the page.
+void StrokeDashes(const EdgePainter& edges, Point from, Point to) {
+    const double scale = edges.painter->scale, length = Length(to - from);
+    const double dash = kDash * scale, step = (kDash + kDashGap) * scale;
+    const Point along = (to - from) * (1 / length);
+    Point first = from, last = to;
+    if (!CutToBox(edges.painter->clip, &first, &last)) return;
+    const double end = Length(last - from);
+    for (double number = std::floor(Length(first - from) / step); number * step < end; ++number) {
+        const double begin = number * step;
+        StrokeEdge(edges, from + along * begin, from + along * std::min(begin + dash, length));
+    }
+}
+
+void PaintEdge(const EdgePainter& edges, const TaxiSegment& segment, double inset, bool right) {
+    const TaxiNetwork& network = edges.painter->network;
     const TaxiArm &start = network.arms[segment.startArm], &end = network.arms[segment.endArm];
     const uint32_t style = EdgeStyleOf(network, start, right);
     if (style == kNoEdge || start.half <= inset) return;
@@ -137,55 +153,75 @@ void PaintEdge(const Painter& painter, const TaxiSegment& segment, double inset,
     const Point side = TurnedRight(start.along) * ((start.half - inset) * (right ? 1 : -1));
     const Point from = network.hubs[segment.startHub].at + side + start.along * startCut;
     const Point to = network.hubs[segment.endHub].at + side + end.along * endCut;
-    if (style == kDashedEdge && kDash * painter.scale >= kShortestDash)
-        StrokeDashes(painter, from, to);
+    const std::array ends = { from, to };
+    if (!Meets(BoundsOf(ends), edges.painter->clip)) return;
+    if (style == kDashedEdge && kDash * edges.painter->scale >= kShortestDash)
+        StrokeDashes(edges, from, to);
     else
-        StrokeIfOnPage(painter, from, to);
+        StrokeEdge(edges, from, to);
+}
+
+// A curve that touches a runway is drawn piece by piece, so that it can end at the runway's edge.
+void PaintCornerCurve(const EdgePainter& edges, Point from, Point control, Point to) {
+    const std::array curve = { from, control, to };
+    if (!Meets(BoundsOf(curve), edges.painter->clip)) return;
+    if (!MeetsRunway(*edges.runways, curve)) {
+        Outline outline;
+        MoveTo(&outline, from);
+        QuadTo(&outline, control, to);
+        FillOutline(edges.painter->canvas, outline);
+        return;
+    }
+    Point before = from;
+    for (int i = 1; i <= kCurvePieces; ++i) {
+        const double t = static_cast<double>(i) / kCurvePieces;
+        const Point at = from * ((1 - t) * (1 - t)) + control * (2 * t * (1 - t)) + to * (t * t);
+        StrokeEdge(edges, before, at);
+        before = at;
+    }
 }
 
 // Around the corners between arms that both have the line, or one of which is a runway.
-void PaintEdgeCorners(const Painter& painter, const TaxiHub& hub) {
-    const TaxiNetwork& network = painter.network;
+void PaintEdgeCorners(const EdgePainter& edges, const TaxiHub& hub) {
+    const TaxiNetwork& network = edges.painter->network;
     for (uint32_t i = 0; i < hub.edgeArms; ++i) {
         const TaxiArm& arm = network.arms[hub.firstArm + i];
         const TaxiArm& next = network.arms[hub.firstArm + (i + 1) % hub.edgeArms];
         const Corner& corner = arm.right;
-        if (corner.kind == Corner::Kind::None) continue;
         const bool lined = EdgeStyleOf(network, arm, true) || IsAlongRunway(network.segments[arm.link]);
         const bool nextLined = EdgeStyleOf(network, next, false) || IsAlongRunway(network.segments[next.link]);
-        if (!lined || !nextLined) continue;
-        Outline curve;
-        MoveTo(&curve, corner.from);
+        if (corner.kind == Corner::Kind::None || !lined || !nextLined) continue;
         if (corner.kind == Corner::Kind::Cap) {
-            QuadTo(&curve, corner.control[0], corner.middle);
-            QuadTo(&curve, corner.control[1], corner.to);
+            PaintCornerCurve(edges, corner.from, corner.control[0], corner.middle);
+            PaintCornerCurve(edges, corner.middle, corner.control[1], corner.to);
         } else {
-            QuadTo(&curve, corner.control[0], corner.to);
+            PaintCornerCurve(edges, corner.from, corner.control[0], corner.to);
         }
-        if (Meets(BoundsOf(curve.points), painter.clip)) FillOutline(painter.canvas, curve);
     }
 }
 
-void PaintEdgeLines(Painter* painter, double width, double inset) {
+void PaintEdgeLines(Painter* painter, const RunwayAreas& runways, double width, double inset) {
     const double insetPixels = inset * painter->scale;
     LayCorners(&painter->network, insetPixels);
     Stroke(*painter, ScaledPixels(width), InkOf(Ink::TaxiwayLine));
+    const EdgePainter edges = { painter, &runways };
     for (const TaxiSegment& segment : painter->network.segments) {
-        PaintEdge(*painter, segment, insetPixels, true);
-        PaintEdge(*painter, segment, insetPixels, false);
+        PaintEdge(edges, segment, insetPixels, true);
+        PaintEdge(edges, segment, insetPixels, false);
     }
-    for (const TaxiHub& hub : painter->network.hubs) PaintEdgeCorners(*painter, hub);
+    for (const TaxiHub& hub : painter->network.hubs) PaintEdgeCorners(edges, hub);
 }
 
 }  // namespace
 
 void PaintTaxiwayMarkings(Painter* painter) {
+    const RunwayAreas runways = CollectRunwayAreas();
     PaintCentreLines(*painter);
     if (painter->scale >= kTwoLineScale) {
-        PaintEdgeLines(painter, kThinEdgeLine, kThinEdgeLine / 2);
-        PaintEdgeLines(painter, kThinEdgeLine, kThinEdgeLine * 2.5);
+        PaintEdgeLines(painter, runways, kThinEdgeLine, kThinEdgeLine / 2);
+        PaintEdgeLines(painter, runways, kThinEdgeLine, kThinEdgeLine * 2.5);
     } else {
-        PaintEdgeLines(painter, kBroadEdgeLine, kBroadEdgeLine / 2);
+        PaintEdgeLines(painter, runways, kBroadEdgeLine, kBroadEdgeLine / 2);
     }
     PaintHoldShortMarkings(*painter);
 }

@@ -4,6 +4,7 @@
 // that a line one pixel wide covers exactly one row. Pens have round ends and joins.
 #include "platform/CanvasSvg.h"
 
+#include <cmath>
 #include <cstdio>
 #include <string_view>
 
@@ -128,7 +129,7 @@ Pixel SvgTextSize(void*, const TextRun& run) {
     int32_t characters = 0;
     for (const char c : run.text) characters += (c & 0xC0) != 0x80;  // continuation bytes add none
     const double width = (run.bold ? kBoldGlyphWidth : kGlyphWidth) * run.height * characters;
-    return { static_cast<int32_t>(width + 0.5), run.height };
+    return { static_cast<int32_t>(std::lround(width)), run.height };
 }
 
 void SvgText(void* target, const TextRun& run) {
