@@ -19,7 +19,7 @@ std::string WithoutLastSlash(std::string folder) {
 std::string FindSimulatorFolder() {
     if (!settings.overrideFsFolder.empty()) return settings.overrideFsFolder;
     for (const std::string& registered : RegisteredSimulatorFolders()) {
-        const std::string folder = WithoutLastSlash(registered);
+        std::string folder = WithoutLastSlash(registered);
         if (!folder.empty() && platform::FileExists(folder + "\\FS9.exe")) return folder;
     }
     return {};

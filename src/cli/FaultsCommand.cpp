@@ -8,6 +8,8 @@
 #include <unordered_map>
 #include <utility>
 
+#include "bgl/OpenAirport.h"
+#include "bgl/SceneryFile.h"
 #include "cli/Verbs.h"
 #include "faults/FaultSearch.h"
 #include "model/Names.h"
@@ -26,11 +28,6 @@ using Reports = std::vector<FaultReport>;
 
 constexpr size_t kColumns = 78;
 constexpr int kDegreeDecimals = 6;
-
-struct FileResult {
-    std::string file, airport;  // no airport: the file holds none
-    Reports reports;            // point into the model, which the next file replaces
-};
 
 // As many words a line as fit.
 std::string Wrapped(std::string_view text, const std::string& indent) {
@@ -120,64 +117,68 @@ std::string MessageText(std::string_view message) {
     return text;
 }
 
-// Reads the airport and finds its faults. False, with *error, when the file holds no such airport.
-bool ExamineFile(const std::string& path, const std::string& shownName, const Arguments& arguments, FileResult* result,
-                 std::string* error) {
-    result->file = shownName;
-    if (!OpenNamedAirport(path, arguments, "", error)) return false;
-    result->airport = model::state.icao.empty() ? "airport without identifier" : model::state.icao;
-    result->reports = ListFaults();
-    return true;
-}
+std::string AirportIdent() { return model::state.icao.empty() ? "airport" : model::state.icao; }
 
-void WriteFile(JsonWriter* json, const FileResult& result) {
+void WriteAirport(JsonWriter* json, const std::string& file, const Reports& reports) {
     OpenObject(json);
     Key(json, "file");
-    WriteText(json, result.file);
+    WriteText(json, file);
     Key(json, "airport");
-    if (result.airport.empty())
-        WriteNull(json);
-    else
-        WriteText(json, result.airport);
+    WriteText(json, AirportIdent());
     Key(json, "faults");
-    WriteFaults(json, result.reports);
+    WriteFaults(json, reports);
     CloseObject(json);
 }
 
-ToolResult ExamineOne(const std::string& path, const Arguments& arguments) {
-    FileResult result;
+ToolResult ExamineFile(const std::string& path, const Arguments& arguments) {
     std::string error;
-    if (!ExamineFile(path, path, arguments, &result, &error)) return Failure(error);
-    const int status = result.reports.empty() ? 0 : kHasFaults;
-    if (HasOption(arguments, "--json")) {
-        JsonWriter json;
-        WriteFile(&json, result);
-        return { status, json.text + '\n', "" };
-    }
-    std::string text = result.airport + ": " + SummarizeFaults(result.reports) + '\n';
-    return { status, text + DescribeFaults(result.reports), "" };
+    if (!OpenNamedAirport(path, arguments, "", &error)) return Failure(error);
+    const Reports reports = ListFaults();
+    const int status = reports.empty() ? 0 : kHasFaults;
+    if (!HasOption(arguments, "--json"))
+        return { status, AirportIdent() + ": " + SummarizeFaults(reports) + '\n' + DescribeFaults(reports), "" };
+    JsonWriter json;
+    WriteAirport(&json, path, reports);
+    return { status, json.text + '\n', "" };
+}
+
+// The airports to examine: all of the file, or the one that --ident names.
+std::vector<bgl::AirportPlace> WantedAirports(const std::string& path, const Arguments& arguments) {
+    if (!HasOption(arguments, "--ident")) return bgl::AirportsInFile(path);
+    bgl::AirportPlace place;
+    if (!bgl::FindAirportInFile(path, OptionOr(arguments, "--ident", ""), &place)) return {};
+    return { place };
+}
+
+// "KSEA: 2 faults: ..." of one airport, "31 airports: ..." of more.
+std::string SummaryLine(const std::vector<std::string>& idents, const Reports& reports) {
+    if (idents.empty()) return "no airport";
+    const size_t count = idents.size();
+    return (count == 1 ? idents[0] : std::to_string(count) + " airports") + ": " + SummarizeFaults(reports);
 }
 
 ToolResult ExamineFolder(const std::string& folder, const Arguments& arguments) {
     const std::vector<platform::FileEntry> entries = platform::ListFiles(folder, ".bgl");
     if (entries.empty()) return Failure("no scenery files in '" + folder + "'");
-    const bool asJson = HasOption(arguments, "--json");
     ToolResult answer;
     JsonWriter json;
     OpenArray(&json);
     for (const platform::FileEntry& entry : entries) {
-        FileResult result;
-        std::string error;
-        const bool hasAirport = ExamineFile(folder + '/' + entry.name, entry.name, arguments, &result, &error);
-        if (!result.reports.empty()) answer.status = kHasFaults;
-        LineBreak(&json);
-        WriteFile(&json, result);
-        answer.output += entry.name + ": ";
-        answer.output += hasAirport ? result.airport + ": " + SummarizeFaults(result.reports) : "no such airport";
-        answer.output += '\n';
+        std::vector<std::string> idents;
+        Reports ofFile;  // for the summary alone: their objects go with each airport
+        for (const bgl::AirportPlace& place : WantedAirports(folder + '/' + entry.name, arguments)) {
+            if (!bgl::OpenAirport(place, "")) continue;
+            const Reports reports = ListFaults();
+            LineBreak(&json);
+            WriteAirport(&json, entry.name, reports);
+            idents.push_back(AirportIdent());
+            ofFile.insert(ofFile.end(), reports.begin(), reports.end());
+        }
+        if (!ofFile.empty()) answer.status = kHasFaults;
+        answer.output += entry.name + ": " + SummaryLine(idents, ofFile) + '\n';
     }
     CloseArray(&json);
-    if (asJson) answer.output = json.text + '\n';
+    if (HasOption(arguments, "--json")) answer.output = json.text + '\n';
     return answer;
 }
 
@@ -265,7 +266,7 @@ void WriteFaults(JsonWriter* json, const Reports& reports) {
 
 ToolResult RunFaults(const Arguments& arguments) {
     const std::string& path = arguments.operands[0];
-    return platform::FolderExists(path) ? ExamineFolder(path, arguments) : ExamineOne(path, arguments);
+    return platform::FolderExists(path) ? ExamineFolder(path, arguments) : ExamineFile(path, arguments);
 }
 
 }  // namespace cli

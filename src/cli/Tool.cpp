@@ -52,7 +52,7 @@ constexpr Option kPictureOptions[] = {
 
 constexpr Option kFaultsOptions[] = {
     kIdentOption,
-    { "--json", nullptr, "Print JSON: of a folder an array with every report of every file." },
+    { "--json", nullptr, "Print JSON; of a folder an array of all airports with their reports." },
     kHelpOption,
 };
 
@@ -101,7 +101,8 @@ constexpr Verb kVerbs[] = {
     { "faults", "FILE|DIR", 1, "find faults in the ground network of airports",
       "Runs all checks of Tarvo's fault finder on one airport of a scenery file and prints each report with its "
       "message, the position in degrees and the objects by their place in the list, counted from 0, and their name. "
-      "Of a folder every scenery file in it gets one line. The exit status is 3 when there are faults.",
+      "Of a folder every scenery file in it gets one line about all of its airports, or about the one named. The exit "
+      "status is 3 when there are faults.",
       kFaultsOptions, RunFaults },
     { "index", "SIMFOLDER", 1, "list the airports of a scenery library",
       "Collects the airports of all scenery files that Scenery.cfg of the simulator's folder leads to and prints a "

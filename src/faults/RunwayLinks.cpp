@@ -32,10 +32,11 @@ bool JudgeLink(const Network& network, const Link& link, LatLon start, LatLon en
         return true;
     }
     const SceneryObject* named = DesignatedRunway(network, link);
-    if (named == under->runway) return false;
+    const std::string linkName = named ? BothEndNames(named) : "(blank)", runwayName = BothEndNames(under->runway);
+    // By name: a file knows the designator by it, so that of two runways of one name a link means either.
+    if (linkName == runwayName) return false;
     char text[1000];
-    std::snprintf(text, sizeof text, kLinkDesignatorMessage, named ? BothEndNames(named).c_str() : "(blank)",
-                  BothEndNames(under->runway).c_str());
+    std::snprintf(text, sizeof text, kLinkDesignatorMessage, linkName.c_str(), runwayName.c_str());
     *message = text;
     return true;
 }

@@ -165,7 +165,7 @@ TEST_F(Cli, HelpListsTheVerbs) {
 }
 
 TEST_F(Cli, EveryVerbExplainsItselfInLinesThatFitATerminal) {
-    for (const std::string verb : { "dump", "rewrite", "sample", "picture", "faults" }) {
+    for (const std::string verb : { "dump", "rewrite", "sample", "picture", "faults", "index", "find" }) {
         const ToolResult result = Tool({ "help", verb });
         EXPECT_EQ(result.status, 0);
         EXPECT_PRED_FORMAT2(IsSubstring, "NAME\n    tarvo-tool " + verb + " - ", result.output);
@@ -182,7 +182,7 @@ TEST_F(Cli, TheManualPageNamesEveryVerbAndOption) {
     const Bytes bytes = Read((fs::path(TARVO_TEST_DATA) / "../../help/tarvo-tool.1").lexically_normal().string());
     std::string page(bytes.begin(), bytes.end());
     std::erase(page, '\\');  // the page writes "\-" for "-"
-    for (const std::string verb : { "dump", "rewrite", "sample", "picture", "faults" }) {
+    for (const std::string verb : { "dump", "rewrite", "sample", "picture", "faults", "index", "find" }) {
         EXPECT_PRED_FORMAT2(IsSubstring, "tarvo-tool " + verb, page);
         std::istringstream words(Tool({ "help", verb }).output);
         for (std::string word; words >> word;) {

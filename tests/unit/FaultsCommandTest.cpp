@@ -5,8 +5,11 @@
 #include <random>
 
 #include "bgl/AirportWriter.h"
+#include "bgl/FileBuilder.h"
+#include "bgl/RecordIds.h"
 #include "cli/Tool.h"
 #include "fakes/FaultAirport.h"
+#include "fakes/SceneryBytes.h"
 #include "platform/Files.h"
 
 namespace {
@@ -101,7 +104,7 @@ TEST_F(FaultsCommand, AFolderGetsALineAFile) {
     EXPECT_EQ(result.output,
               "a.bgl: TEST: no faults\n"
               "B.BGL: TEST: 3 faults: 1 Hold Short Limits, 2 Isolated Segments\n"
-              "c.bgl: no such airport\n");
+              "c.bgl: no airport\n");
 }
 
 TEST_F(FaultsCommand, AFolderWithoutFaultsIsStatusZero) {
@@ -117,6 +120,20 @@ TEST_F(FaultsCommand, AFolderAsJsonIsAnArrayOfFiles) {
     EXPECT_TRUE(
         result.output.starts_with("[\n{\"file\": \"a.bgl\", \"airport\": \"TEST\", \"faults\": []},\n{\"file\": "));
     EXPECT_TRUE(result.output.ends_with("]}]\n"));
+}
+
+TEST_F(FaultsCommand, OfAFolderEveryAirportOfAFileIsExamined) {
+    const ByteList airports = Join({ AirportRecordWith({}, "KSEA"), AirportRecordWith({}, "CYVR") });
+    const bgl::SubsectionContent content = { 0x80001, 2, { airports } };
+    const std::vector<bgl::SectionContent> sections = { { bgl::kAirportSection, bgl::kByCell, { content } } };
+    const ByteList bytes = bgl::AssembleFile(sections, kTestTime);
+    platform::WriteFileWhole((folder / "two.bgl").string(), bytes);
+    EXPECT_EQ(Faults({ folder.string() }).output, "two.bgl: 2 airports: no faults\n");
+    EXPECT_EQ(Faults({ folder.string(), "--ident", "cyvr" }).output, "two.bgl: CYVR: no faults\n");
+    EXPECT_EQ(Faults({ folder.string(), "--ident", "KBFI" }).output, "two.bgl: no airport\n");
+    EXPECT_EQ(Faults({ folder.string(), "--json" }).output,
+              "[\n{\"file\": \"two.bgl\", \"airport\": \"KSEA\", \"faults\": []},\n"
+              "{\"file\": \"two.bgl\", \"airport\": \"CYVR\", \"faults\": []}]\n");
 }
 
 TEST_F(FaultsCommand, WhatCannotBeReadIsStatusOne) {

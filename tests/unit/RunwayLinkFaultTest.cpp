@@ -130,6 +130,13 @@ TEST_F(RunwayLinkFault, OnEqualAnglesTheEarlierRunwayCounts) {
     EXPECT_EQ(Reports()[0].message, NameMessage("27/9", "9/27"));
 }
 
+TEST_F(RunwayLinkFault, OfTwoRunwaysOfOneNameALinkMeansEither) {
+    SceneryObject* parallel = HeadedRunway(9, 90, { 0, 1000 });
+    HeadedRunway(9, 90);
+    Link(Node({ -500, 0 }), Node({ 500, 0 }), kRunwayLink, parallel);
+    EXPECT_TRUE(Reports().empty());
+}
+
 TEST_F(RunwayLinkFault, LinksAreReportedInListOrder) {
     SceneryObject* first = Link(Node({ 0, 0 }), Node({ 100, 0 }), kRunwayLink);
     SceneryObject* second = Link(Node({ 0, 50 }), Node({ 100, 50 }), kRunwayLink);
