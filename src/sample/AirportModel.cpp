@@ -142,7 +142,7 @@ SceneryObject* MakeSpot(const AirportPlan& plan, const SpotPlan& spot) {
                                                     at.latitude };
     uint8_t* place = object->payload + sizeof(model::ParkingSpotRecord);
     for (const std::string& code : codes) {
-        std::memcpy(place, code.data(), std::min(code.size(), kCodeSize));
+        std::copy_n(code.begin(), std::min(code.size(), kCodeSize), place);
         place += kCodeSize;
     }
     return object;
@@ -298,8 +298,7 @@ float WestVariation(double eastVariation) { return static_cast<float>(Wrapped(-e
 void StoreText(const std::string& utf8, char* field, size_t size) {
     const std::string text = platform::Windows1252FromUtf8(utf8);
     const size_t length = std::min(text.size(), size - 1);
-    std::memcpy(field, text.data(), length);
-    std::memset(field + length, 0, size - length);
+    std::fill(std::copy_n(text.begin(), length, field), field + size, '\0');
 }
 
 }  // namespace sample

@@ -72,12 +72,8 @@ void AddApron(AirportPlan* plan, Surface surface, std::vector<Local> outline) {
     plan->aprons.push_back({ surface, std::move(outline) });
 }
 
-void AddLights(AirportPlan* plan, std::initializer_list<Local> points) {
-    const Local* before = nullptr;
-    for (const Local& point : points) {
-        if (before) plan->lights.push_back({ *before, point });
-        before = &point;
-    }
+void AddLights(AirportPlan* plan, const std::vector<Local>& points) {
+    for (size_t i = 1; i < points.size(); ++i) plan->lights.push_back({ points[i - 1], points[i] });
 }
 
 RunwayPlan* FindRunway(AirportPlan* plan, uint8_t number, uint8_t designator) {

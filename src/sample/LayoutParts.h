@@ -1,7 +1,6 @@
 // LayoutParts.h - the pieces that layouts are put together from: rows of spots, piers, exits, lit edges.
 #pragma once
 
-#include <initializer_list>
 #include <span>
 
 #include "sample/AirportPlan.h"
@@ -43,7 +42,7 @@ std::vector<Local> PierCorners(const Pier& pier);
 
 void AddApron(AirportPlan* plan, Surface surface, std::vector<Local> outline);
 // Blue lights along the chain of points.
-void AddLights(AirportPlan* plan, std::initializer_list<Local> points);
+void AddLights(AirportPlan* plan, const std::vector<Local>& points);
 
 RunwayPlan* FindRunway(AirportPlan* plan, uint8_t number, uint8_t designator);  // by its primary end
 

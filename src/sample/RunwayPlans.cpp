@@ -102,7 +102,7 @@ void AddComms(std::span<const FrequencyRow> rows, AirportPlan* plan) {
     for (const FrequencyRow& row : rows) {
         const uint16_t type = CommTypeFromWord(row.type);
         if (type == 0 || row.megahertz < kLowest || row.megahertz >= kHighest) continue;
-        const auto kilohertz = static_cast<uint32_t>(row.megahertz * 1000 + 0.5);
+        const auto kilohertz = static_cast<uint32_t>(std::lround(row.megahertz * 1000));
         plan->comms.push_back({ type, kilohertz * 1000, row.name.empty() ? row.type : row.name });
     }
 }

@@ -60,7 +60,7 @@ constexpr uint8_t kLastNumber = 36;
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 std::string_view FirstMaterial(std::string_view word) {
-    const size_t start = word.find_first_not_of(" ");
+    const size_t start = word.find_first_not_of(' ');
     if (start == std::string_view::npos) return {};
     word = word.substr(start);
     return word.substr(0, word.find_first_of("-/ ,(+;"));
@@ -97,7 +97,7 @@ uint16_t CommTypeFromWord(std::string_view word) {
 
 EndNumber EndFromWord(std::string_view word) {
     const std::string upper = platform::UpperCased(word);
-    for (uint8_t i = 0; i < std::size(kLettered); ++i) {
+    for (size_t i = 0; i < std::size(kLettered); ++i) {
         if (upper == kLettered[i]) return { static_cast<uint8_t>(kFirstLettered + i), 0 };
     }
     size_t at = 0;

@@ -161,7 +161,9 @@ bool LoadTable(const std::string& folder, const char* file, TableReader read, Wo
 
 template <class Row>
 std::span<const Row> RowsOf(const std::vector<Row>& rows, const std::string& airport) {
-    const auto [first, last] = std::ranges::equal_range(rows, airport, {}, &Row::airport);
+    // Iterators instead of ranges: not every compiler of ours takes what the ranges' forms return.
+    const auto first = std::ranges::lower_bound(rows, airport, {}, &Row::airport);
+    const auto last = std::ranges::upper_bound(rows, airport, {}, &Row::airport);
     return { first, last };
 }
 
@@ -177,8 +179,9 @@ bool LoadWorld(const std::string& folder, World* world, std::string* error) {
     std::ranges::stable_sort(world->runways, {}, &RunwayRow::airport);
     std::ranges::stable_sort(world->navaids, {}, &NavaidRow::ident);
     std::ranges::stable_sort(world->frequencies, {}, &FrequencyRow::airport);
-    const auto [first, last] = std::ranges::unique(world->airports, {}, &AirportRow::ident);
-    world->airports.erase(first, last);
+    const auto sameIdent = [](const AirportRow& a, const AirportRow& b) { return a.ident == b.ident; };
+    world->airports.erase(std::unique(world->airports.begin(), world->airports.end(), sameIdent),
+                          world->airports.end());
     return true;
 }
 
