@@ -133,20 +133,48 @@ void SetFlag(uint8_t flag, bool was, bool is, uint8_t* flags) {
     if (was != is) *flags = static_cast<uint8_t>(is ? *flags | flag : *flags & ~flag);
 }
 
+constexpr std::string IlsFields::*kSlopeTexts[] = { &IlsFields::slopeElevation, &IlsFields::slopeRange,
+                                                    &IlsFields::slopePitch };
+constexpr std::string IlsFields::*kDmeTexts[] = { &IlsFields::dmeElevation, &IlsFields::dmeRange };
+
+// The fields of a part that has just got its usual place: what the user did not touch is as in `usual`.
+template <size_t N>
+void TakeUsual(const IlsFields& usual, CoordinateTexts IlsFields::*position, std::string IlsFields::*const (&texts)[N],
+               IlsFields* shown, IlsFields* entered) {
+    if ((entered->*position).latitude == (shown->*position).latitude &&
+        (entered->*position).longitude == (shown->*position).longitude)
+        entered->*position = usual.*position;
+    shown->*position = usual.*position;
+    for (const auto text : texts) {
+        if (entered->*text == shown->*text) entered->*text = usual.*text;
+        shown->*text = usual.*text;
+    }
+}
+
 // The glide slope and DME. The texts of a part that is off are not read.
-bool StoreSlopeAndDme(const IlsFields& shown, const IlsFields& entered, const SceneryObject* live, SceneryObject* draft,
+bool StoreSlopeAndDme(IlsFields shown, IlsFields entered, const SceneryObject* live, SceneryObject* draft,
                       BadField* bad) {
     auto& payload = model::PayloadAs<IlsPayload>(draft);
     SetFlag(model::kHasGlideSlope, shown.glideSlope, entered.glideSlope, &payload.body.flags);
     SetFlag(model::kHasDme, shown.dme, entered.dme, &payload.body.flags);
     if (entered.glideSlope) {
-        if (!shown.glideSlope) PlaceSlope(live, draft);
+        if (!shown.glideSlope) {
+            PlaceSlope(live, draft);
+            IlsFields usual;
+            LoadSlope(draft, &usual);
+            TakeUsual(usual, &IlsFields::slopePosition, kSlopeTexts, &shown, &entered);
+        }
         if (!ReadPart(shown.slopePosition, entered.slopePosition, kGlideSlopeFields, draft, bad) ||
             !StoreNumbers<IlsFields>(kSlopeRows, shown, entered, draft, bad))
             return false;
     }
     if (!entered.dme) return true;
-    if (!shown.dme) PlaceDme(draft);
+    if (!shown.dme) {
+        PlaceDme(draft);
+        IlsFields usual;
+        LoadDme(draft, &usual);
+        TakeUsual(usual, &IlsFields::dmePosition, kDmeTexts, &shown, &entered);
+    }
     return ReadPart(shown.dmePosition, entered.dmePosition, kDmeFields, draft, bad) &&
            StoreNumbers<IlsFields>(kDmeRows, shown, entered, draft, bad);
 }
@@ -168,7 +196,7 @@ void UpdateRunways(const SceneryObject* ils, const SceneryObject* draft, bool ot
                             ref.runway->payload[kEndPlaces[ref.end].designator] == is.localizer.runwayDesignator;
         if (otherEnd && serves)
             SetRunwayIdent(ref, newIdent, edits);
-        else if (named != 0 && named == oldIdent)
+        else if (named != 0 && named == oldIdent && ServesEnd(ils, ref.runway, ref.end))
             SetRunwayIdent(ref, otherEnd ? 0 : newIdent, edits);
     }
 }

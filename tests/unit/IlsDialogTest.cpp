@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "dialogs/Choices.h"
+#include "dialogs/ListRows.h"
 #include "dialogs/NewIls.h"
 #include "dialogs/Subject.h"
 #include "fakes/DialogFixture.h"
@@ -305,6 +306,21 @@ TEST_F(IlsDialog, TheNameGoesToTheRunwayEndThatIsChosen) {
     EXPECT_EQ(+Runway().primaryIls, 0u);
     EXPECT_EQ(+Runway().secondaryIls, model::PackIdent("IABC"));
     EXPECT_EQ(Ils(ils).localizer.runwayNumber, 18);
+}
+
+TEST_F(IlsDialog, TwoNewIlsOfOneIdentAreToldApartByTheirRunwayEnds) {
+    SceneryObject *base = Create(kBaseEnd), *other = Create(kReciprocalEnd);
+    EXPECT_EQ(RowText(base).substr(0, 4), "36L\t");
+    EXPECT_EQ(RowText(other).substr(0, 4), "18R\t");
+    EXPECT_TRUE(Edit(other, [](IlsFields& entered) { entered.ident = "INEW"; }));
+    EXPECT_EQ(+Runway().primaryIls, model::PackIdent("IABC"));
+    EXPECT_EQ(+Runway().secondaryIls, model::PackIdent("INEW"));
+    model::Undo();
+    EXPECT_TRUE(DeleteEntry(other));
+    EXPECT_EQ(+Runway().primaryIls, model::PackIdent("IABC"));
+    EXPECT_EQ(+Runway().secondaryIls, 0u);
+    model::Undo();
+    EXPECT_EQ(+Runway().secondaryIls, model::PackIdent("IABC"));
 }
 
 TEST_F(IlsDialog, AStockIlsIsReplaced) {

@@ -3,52 +3,15 @@
 #include <cstring>
 
 #include "dialogs/Choices.h"
-#include "dialogs/RunwayFollow.h"
 #include "dialogs/Subject.h"
-#include "fakes/DialogFixture.h"
+#include "fakes/RunwayFixture.h"
 
 namespace {
 
 using namespace dialogs;
 using model::RunwayPayload;
-using platform::Answer;
 
-class RunwayDialog : public DialogFixture {
-protected:
-    void SetUp() override {
-        DialogFixture::SetUp();
-        airport = build::Airport("KSEA");
-        As<model::AirportRecord>(airport).magneticVariation = 340;
-        runway = build::Runway(16, 1);
-        Body().heading = 164;
-        Body().surface = 4;
-        Body().patternAltitude = 300;
-        Body().altitude = 131978;
-        Body().length = 3000;
-        Body().width = 45.72F;
-    }
-
-    model::RunwayRecord& Body() { return As<RunwayPayload>(runway).body; }
-    RunwayPayload& Parts() { return As<RunwayPayload>(runway); }
-
-    template <class Change>
-    bool Edit(Change change) {
-        const RunwayFields shown = LoadRunwayFields(runway);
-        RunwayFields entered = shown;
-        change(entered);
-        return StoreRunwayFields(shown, entered, runway, &bad);
-    }
-    // The payload bytes that differ from `before`.
-    std::vector<size_t> Changed(const std::vector<uint8_t>& before) {
-        std::vector<size_t> offsets;
-        for (size_t i = 0; i < before.size(); ++i) {
-            if (before[i] != runway->payload[i]) offsets.push_back(i);
-        }
-        return offsets;
-    }
-
-    SceneryObject *airport = nullptr, *runway = nullptr;
-};
+class RunwayDialog : public RunwayFixture {};
 
 TEST_F(RunwayDialog, NumbersAndSuffixesAreListedWithTheirTexts) {
     const auto numbers = RunwayNumberChoices();
@@ -393,162 +356,6 @@ TEST_F(RunwayDialog, AVasiKeepsItsDistanceWhenTheLengthChanges) {
         entered.ends[0].left.distance = "400";
     }));
     EXPECT_FLOAT_EQ(+Parts().primaryLeftVasi.biasZ, 1100);
-}
-
-class RunwayWithIls : public RunwayDialog {
-protected:
-    void SetUp() override {
-        RunwayDialog::SetUp();
-        Body().heading = 0;
-        Body().primaryNumber = 4, Body().secondaryNumber = 22;
-        Body().primaryIls = model::PackIdent("IABC");
-        ils = build::Ils("IABC", { 0, 1800 });
-        Ils().localizer = { 4, 1, 0, 4 };
-        Ils().body.flags = model::kHasGlideSlope | model::kHasDme;
-        const model::EncodedPoint beside = build::Encoded({ 120, -1200 });
-        Ils().glideSlope.longitude = beside.longitude, Ils().glideSlope.latitude = beside.latitude;
-        Ils().dme.longitude = beside.longitude, Ils().dme.latitude = beside.latitude;
-        std::strcpy(Ils().name, "ILS/DME 4L");
-        start = build::Placed<model::StartLocationRecord>(model::kStartLocation, { 0, -1450 });
-        Start() = { 4, 0x11, Start().longitude, Start().latitude, 0, 0 };
-        other = build::Placed<model::StartLocationRecord>(model::kStartLocation, { 0, 1450 });
-        As<model::StartLocationRecord>(other).number = 5;
-        As<model::StartLocationRecord>(other).designatorAndType = 0x11;
-    }
-    model::IlsPayload& Ils() { return As<model::IlsPayload>(ils); }
-    model::StartLocationRecord& Start() { return As<model::StartLocationRecord>(start); }
-    static void ExpectAt(model::EncodedPoint point, double east, double north) {
-        const model::Local at =
-            model::LatLonToLocal(build::kMiddle, model::BglToLatLon({ point.latitude, point.longitude }));
-        EXPECT_NEAR(at.east, east, 0.5);
-        EXPECT_NEAR(at.north, north, 0.5);
-    }
-    model::EncodedPoint GlideSlope() { return { Ils().glideSlope.longitude, Ils().glideSlope.latitude }; }
-
-    SceneryObject *ils = nullptr, *start = nullptr, *other = nullptr;
-};
-
-TEST_F(RunwayWithIls, ADesignatorIsRenamedWhereverItIsUsedInOneAction) {
-    SceneryObject* link = build::Link(build::Node(), build::Node(), model::kRunwayLink, runway);
-    const auto beforeOther = Bytes(other);
-    EXPECT_TRUE(Edit([](RunwayFields& entered) {
-        entered.ends[0].number = 5;
-        entered.ends[0].suffix = 2;
-    }));
-    EXPECT_EQ(Start().number, 5);
-    EXPECT_EQ(Start().designatorAndType, 0x12);
-    EXPECT_EQ(Ils().localizer.runwayNumber, 5);
-    EXPECT_EQ(Ils().localizer.runwayDesignator, 2);
-    EXPECT_STREQ(Ils().name, "ILS/DME 5R");
-    EXPECT_EQ(+As<model::TaxiLinkPayload>(link).designator, runway);
-    EXPECT_EQ(Bytes(other), beforeOther);
-    EXPECT_EQ(Actions(), 1);
-    EXPECT_TRUE(fake.messages.empty());
-    model::Undo();
-    EXPECT_STREQ(Ils().name, "ILS/DME 4L");
-    EXPECT_EQ(Start().number, 4);
-    EXPECT_EQ(Body().primaryNumber, 4);
-}
-
-TEST_F(RunwayWithIls, BothEndsMayExchangeTheirDesignators) {
-    As<model::StartLocationRecord>(other).number = 22;
-    As<model::StartLocationRecord>(other).designatorAndType = 0x12;
-    EXPECT_TRUE(Edit([](RunwayFields& entered) {
-        std::swap(entered.ends[0].number, entered.ends[1].number);
-        std::swap(entered.ends[0].suffix, entered.ends[1].suffix);
-    }));
-    EXPECT_EQ(Start().number, 22);
-    EXPECT_EQ(As<model::StartLocationRecord>(other).number, 4);
-    EXPECT_EQ(As<model::StartLocationRecord>(other).designatorAndType, 0x11);
-}
-
-TEST_F(RunwayWithIls, AStockIlsThatIsRenamedGetsAReplacement) {
-    ils->flags |= model::kStock;
-    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.ends[0].number = 5; }));
-    ASSERT_NE(ils->related, nullptr);
-    EXPECT_STREQ(As<model::IlsPayload>(ils->related).name, "ILS/DME 5L");
-    model::Undo();
-    EXPECT_EQ(ils->related, nullptr);
-}
-
-TEST_F(RunwayWithIls, OnlyTheLastWordOfAnIlsNameIsRenamed) {
-    EXPECT_EQ(RenamedIls("ILS 4L", "4L", "5L"), "ILS 5L");
-    EXPECT_EQ(RenamedIls("ILS 04L", "4L", "5L"), "ILS 05L");
-    EXPECT_EQ(RenamedIls("ILS 09", "9", "10"), "ILS 10");
-    EXPECT_EQ(RenamedIls("ILS 9", "9", "N"), "ILS N");
-    EXPECT_EQ(RenamedIls("9", "9", "10"), "10");
-    EXPECT_EQ(RenamedIls("ILS 9 DME", "9", "10"), "ILS 9 DME");
-    EXPECT_EQ(RenamedIls("ILS 19", "9", "10"), "ILS 19");
-    EXPECT_EQ(RenamedIls("", "9", "10"), "");
-}
-
-TEST_F(RunwayWithIls, AMovedRunwayAsksAndYesMovesWhatBelongsToIt) {
-    fake.answers = { Answer::Yes };
-    model::EncodedPoint centre = build::Encoded({ 1000, 500 });
-    EXPECT_TRUE(Edit([&](RunwayFields& entered) { entered.position = ShowPoint(centre); }));
-    EXPECT_EQ(LastMessage(),
-              "You have changed the position, length or heading of the runway.\n\n"
-              "Do you want to move its ILS and start locations with it?");
-    ExpectAt(PointOf(ils), 1000, 2300);
-    ExpectAt(GlideSlope(), 1120, -700);
-    ExpectAt(PointOf(start), 1000, -950);
-    ExpectAt(PointOf(other), 0, 1450);
-    EXPECT_EQ(Actions(), 1);
-    model::Undo();
-    ExpectAt(PointOf(ils), 0, 1800);
-}
-
-TEST_F(RunwayWithIls, NoLeavesThemAndCancelKeepsTheDialogOpen) {
-    fake.answers = { Answer::Cancel, Answer::No };
-    const auto turn = [](RunwayFields& entered) { entered.heading = "90"; };
-    const auto before = Bytes(ils);
-    EXPECT_FALSE(Edit(turn));
-    EXPECT_EQ(bad.field, Field::None);
-    EXPECT_EQ(+Body().heading, 0);
-    EXPECT_TRUE(Edit(turn));
-    EXPECT_EQ(+Body().heading, 90);
-    EXPECT_EQ(Bytes(ils), before);
-}
-
-TEST_F(RunwayWithIls, ATurnTurnsThemAboutTheCentre) {
-    fake.answers = { Answer::Yes };
-    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.heading = "90"; }));
-    ExpectAt(PointOf(ils), 1800, 0);
-    ExpectAt(GlideSlope(), -1200, -120);
-    ExpectAt(PointOf(start), -1450, 0);
-    EXPECT_EQ(+Ils().localizer.heading, 90);
-    EXPECT_EQ(+Start().heading, 90);
-}
-
-TEST_F(RunwayWithIls, ALongerRunwayKeepsTheirDistancesFromItsEnds) {
-    app::settings.metric = true;
-    fake.answers = { Answer::Yes };
-    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.length = "3400"; }));
-    ExpectAt(PointOf(ils), 0, 2000);
-    ExpectAt(GlideSlope(), 120, -1400);
-    ExpectAt(PointOf(start), 0, -1650);
-}
-
-TEST_F(RunwayWithIls, AClickOnTheMapIsNoMoveUntilOk) {
-    fake.answers = { Answer::Yes };
-    const RunwayFields shown = LoadRunwayFields(runway);
-    RunwayFields entered = shown;
-    entered.position = MoveToClick(runway, build::At({ 0, 1000 }));
-    EXPECT_TRUE(StoreRunwayFields(shown, entered, runway, &bad));
-    ExpectAt(PointOf(runway), 0, 1000);
-    ExpectAt(PointOf(ils), 0, 2800);
-    model::Undo();
-    ExpectAt(PointOf(runway), 0, 0);
-    ExpectAt(PointOf(ils), 0, 1800);
-}
-
-TEST_F(RunwayWithIls, ARunwayWithNothingOfItsOwnAsksNothing) {
-    SceneryObject* alone = build::Runway(7);
-    const RunwayFields shown = LoadRunwayFields(alone);
-    RunwayFields entered = shown;
-    entered.heading = "70";
-    EXPECT_TRUE(StoreRunwayFields(shown, entered, alone, &bad));
-    EXPECT_TRUE(fake.messages.empty());
 }
 
 TEST_F(RunwayDialog, ANewRunwayIsAVisualOneOfAsphaltAndMustBePlacedAndMeasured) {

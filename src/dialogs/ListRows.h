@@ -1,0 +1,42 @@
+// ListRows.h - the six list windows: rows, order, and what "Delete" does.
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "model/SceneryObject.h"
+
+namespace dialogs {
+
+using model::SceneryObject;
+
+enum class ListKind { Navaids, Runways, Parking, Starts, Designators, Comms };
+
+struct ListRow {
+    std::string text;  // columns parted by tabs
+    SceneryObject* object = nullptr;
+};
+
+// The header row; that of the parking list has a column header control for each text.
+const char* ListHeader(ListKind kind);
+
+// In the order of the object list. Stock navaids that are replaced have no row.
+std::vector<ListRow> ListRows(ListKind kind);
+std::string RowText(const SceneryObject* object);
+
+// The object that a row shows from now on: a stock navaid that an edit has replaced gives way.
+SceneryObject* ObjectOfRow(SceneryObject* object);
+
+// Whether a row is selected; without one the message is shown.
+bool IsEntrySelected(const SceneryObject* object);
+
+// A selected row selects its object on the map, which centres it when it cannot be seen.
+void ShowEntry(SceneryObject* object);
+
+// "Delete": asks and refuses by message boxes. Whether the entry is gone.
+bool DeleteEntry(SceneryObject* object);
+
+uint32_t LinksUsing(const SceneryObject* designator);
+
+}  // namespace dialogs

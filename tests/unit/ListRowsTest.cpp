@@ -1,0 +1,291 @@
+#include "dialogs/ListRows.h"
+
+#include <cstring>
+
+#include "dialogs/NdbDialog.h"
+#include "dialogs/ParkingOrder.h"
+#include "dialogs/Subject.h"
+#include "fakes/DialogFixture.h"
+#include "map/MapView.h"
+
+namespace {
+
+using namespace dialogs;
+
+class ListRowsTest : public DialogFixture {
+protected:
+    static std::string Row(SceneryObject* object) { return RowText(object); }
+
+    static SceneryObject* Comm(uint16_t type, uint32_t hertz, const char* name) {
+        SceneryObject* object = build::Append(model::kCommFrequency, sizeof(model::CommFrequencyRecord));
+        auto& comm = As<model::CommFrequencyRecord>(object);
+        comm.type = type;
+        comm.frequency = hertz;
+        std::strcpy(comm.name, name);
+        return object;
+    }
+    static SceneryObject* Start(uint8_t number, uint8_t nibbles, float heading) {
+        SceneryObject* object = build::Placed<model::StartLocationRecord>(model::kStartLocation, {});
+        auto& start = As<model::StartLocationRecord>(object);
+        start.number = number;
+        start.designatorAndType = nibbles;
+        start.heading = heading;
+        return object;
+    }
+};
+
+TEST_F(ListRowsTest, AnIlsRowTellsItsRunwayEndPartsIdentFrequencyHeadingAndName) {
+    SceneryObject* object = build::Ils("ISNQ");
+    auto& ils = As<model::IlsPayload>(object);
+    ils.body.frequency = 110300000;
+    ils.localizer = { 16, 1, 64.04F, 4 };
+    std::strcpy(ils.name, "ILS/DME 16L");
+    EXPECT_EQ(Row(object), "16L\tLOC\tISNQ\t110.30\t064.0\tILS/DME 16L");
+    ils.body.flags = model::kHasGlideSlope | model::kHasDme;
+    EXPECT_EQ(Row(object), "16L\tLOC+GP+DME\tISNQ\t110.30\t064.0\tILS/DME 16L");
+    ils.localizer.runwayNumber = 0;
+    EXPECT_EQ(Row(object).substr(0, 4), "\tLOC");
+    SceneryObject* runway = build::Runway(34, 2);
+    As<model::RunwayPayload>(runway).body.primaryIls = model::PackIdent("ISNQ");
+    EXPECT_EQ(Row(object).substr(0, 4), "34R\t");
+}
+
+TEST_F(ListRowsTest, TheOtherNavaidsHaveTheirFormats) {
+    SceneryObject* marker = build::Placed<model::MarkerBeaconPayload>(model::kMarkerBeacon, {});
+    As<model::MarkerBeaconPayload>(marker).heading = 64;
+    As<model::MarkerBeaconPayload>(marker).type = 1;
+    As<model::MarkerBeaconPayload>(marker).ident = model::PackIdent("MM") << 5;
+    EXPECT_EQ(Row(marker), "\tMKR\tMM\t75.0\t090.0\tMiddle");
+    SceneryObject* ndb = build::Ndb();
+    As<model::NdbPayload>(ndb).frequency = 224500;
+    As<model::NdbPayload>(ndb).ident = model::PackIdent("BF") << 5;
+    std::strcpy(As<model::NdbPayload>(ndb).name, "Boeing");
+    EXPECT_EQ(Row(ndb), "\tNDB\tBF\t224.5\t\tBoeing");
+    SceneryObject* vor = build::Vor();
+    As<model::VorDmePayload>(vor).body.frequency = 116800000;
+    As<model::VorDmePayload>(vor).body.ident = model::PackIdent("SEA") << 5;
+    std::strcpy(As<model::VorDmePayload>(vor).name, "Seattle");
+    const std::pair<int, const char*> types[] = { { 0x31, "VOR+DME" }, { 0x10, "DME" }, { 0x21, "VOR" }, { 0, "VOR" } };
+    for (const auto& [flags, type] : types) {
+        As<model::VorDmePayload>(vor).body.flags = static_cast<uint8_t>(flags);
+        EXPECT_EQ(Row(vor), std::string("\t") + type + "\tSEA\t116.80\t\tSeattle");
+    }
+}
+
+TEST_F(ListRowsTest, ARunwayOf3048MetresIs10000Feet) {
+    SceneryObject* runway = build::Runway(16, 1);
+    As<model::RunwayPayload>(runway).body.length = 3048;
+    EXPECT_EQ(Row(runway), "16L/34R\t10000 ft\t148 ft");
+    app::settings.metric = true;
+    EXPECT_EQ(Row(runway), "16L/34R\t3048.0 m\t45.0 m");
+}
+
+TEST_F(ListRowsTest, ASpotRowTellsNameTypeRadiusAndCodes) {
+    SceneryObject* spot = build::Spot({}, { "JAL", "KLM" });
+    As<model::ParkingSpotRecord>(spot).packed = 2u << 24 | 7u << 12 | 8u << 8 | 12;
+    As<model::ParkingSpotRecord>(spot).radius = 31;
+    EXPECT_EQ(Row(spot), "Gate A  7\tGate Small\t101.7 ft\tJAL,KLM");
+    app::settings.metric = true;
+    EXPECT_EQ(Row(spot), "Gate A  7\tGate Small\t101.7 ft\tJAL,KLM");
+    app::settings.metricParkingRadius = true;
+    EXPECT_EQ(Row(spot), "Gate A  7\tGate Small\t31.0 m\tJAL,KLM");
+}
+
+TEST_F(ListRowsTest, StartsAndFrequencies) {
+    EXPECT_EQ(Row(Start(16, 0x11, 64)), "Rwy 16L\t064.0");
+    EXPECT_EQ(Row(Start(2, 0x30, 359.96F)), "Helipad 2\t360.0");
+    EXPECT_EQ(Row(Comm(6, 119900000, "Seattle")), "119.900\tTower\tSeattle");
+    EXPECT_EQ(Row(Comm(99, 119900000, "x")), "119.900\t\tx");
+}
+
+TEST_F(ListRowsTest, DesignatorsTellHowManyLinksUseThem) {
+    SceneryObject *blank = build::Designator(""), *alpha = build::Designator("A"), *beta = build::Designator("B");
+    SceneryObject *a = build::Node(), *b = build::Node();
+    build::Link(a, b, model::kTaxiwayLink, alpha);
+    build::Link(a, b, model::kTaxiwayLink, alpha);
+    build::Link(a, b, model::kTaxiwayLink, blank);
+    build::Link(a, b);
+    EXPECT_EQ(Row(blank), "\" \" (blank)\t1");
+    EXPECT_EQ(Row(alpha), "A\t2");
+    EXPECT_EQ(Row(beta), "B\t0");
+}
+
+TEST_F(ListRowsTest, EachListHasItsHeaderAndItsKindInListOrder) {
+    build::Airport("KSEA");
+    SceneryObject* vor = build::Vor();
+    SceneryObject* first = build::Runway(16);
+    SceneryObject* ils = build::Ils("IABC");
+    SceneryObject* second = build::Runway(7);
+    const auto rows = ListRows(ListKind::Runways);
+    ASSERT_EQ(rows.size(), 2u);
+    EXPECT_EQ(rows[0].object, first);
+    EXPECT_EQ(rows[1].object, second);
+    const auto navaids = ListRows(ListKind::Navaids);
+    ASSERT_EQ(navaids.size(), 2u);
+    EXPECT_EQ(navaids[0].object, vor);
+    EXPECT_EQ(navaids[1].object, ils);
+    EXPECT_STREQ(ListHeader(ListKind::Navaids), "Rwy\tType\tIdent\tFreq\tHdg\tName or Type");
+    EXPECT_STREQ(ListHeader(ListKind::Runways), "Designator\tLength\tWidth");
+    EXPECT_STREQ(ListHeader(ListKind::Parking), "Name\tType\tRadius\tCodes");
+    EXPECT_STREQ(ListHeader(ListKind::Starts), "Designator\tHeading");
+    EXPECT_STREQ(ListHeader(ListKind::Designators), "Designator\tUsage Count");
+    EXPECT_STREQ(ListHeader(ListKind::Comms), "Freq\tType\tName");
+}
+
+TEST_F(ListRowsTest, AReplacedStockNavaidGivesItsRowToTheReplacement) {
+    SceneryObject* stock = build::Ndb();
+    stock->flags |= model::kStock;
+    As<model::NdbPayload>(stock).frequency = 350000;
+    const NdbFields shown = LoadNdbFields(stock);
+    NdbFields entered = shown;
+    entered.name = "New";
+    EXPECT_TRUE(StoreNdbFields(shown, entered, stock, &bad));
+    EXPECT_EQ(ObjectOfRow(stock), stock->related);
+    ASSERT_EQ(ListRows(ListKind::Navaids).size(), 1u);
+    EXPECT_EQ(ListRows(ListKind::Navaids)[0].object, stock->related);
+    EXPECT_TRUE(DeleteEntry(ObjectOfRow(stock)));
+    EXPECT_EQ(ListRows(ListKind::Navaids)[0].object, stock);
+}
+
+TEST_F(ListRowsTest, WithoutASelectedRowAMessageSaysSo) {
+    EXPECT_FALSE(DeleteEntry(nullptr));
+    EXPECT_EQ(LastMessage(), "You must select an entry in the list first");
+    EXPECT_FALSE(IsEntrySelected(nullptr));
+}
+
+TEST_F(ListRowsTest, AStockIlsAndTheBlankDesignatorCannotBeDeleted) {
+    SceneryObject* ils = build::Ils("ISNQ");
+    ils->flags |= model::kStock;
+    EXPECT_FALSE(DeleteEntry(ils));
+    EXPECT_EQ(LastMessage(),
+              "Flight Simulator does not allow stock ILS to be deleted,\nthey can only be moved or modified.\n\n"
+              "This operation has been cancelled.");
+    EXPECT_FALSE(DeleteEntry(build::Designator("")));
+    EXPECT_EQ(LastMessage(),
+              "ERROR: You can't delete this blank designator.\n"
+              "There must always be a blank designator in the list");
+    EXPECT_EQ(Actions(), 0);
+}
+
+TEST_F(ListRowsTest, DeletingADesignatorInUseSaysHowManyLinksLoseIt) {
+    SceneryObject* alpha = build::Designator("A");
+    SceneryObject* link = build::Link(build::Node(), build::Node(), model::kTaxiwayLink, alpha);
+    fake.answers = { platform::Answer::Cancel };
+    EXPECT_FALSE(DeleteEntry(alpha));
+    EXPECT_EQ(LastMessage(),
+              "1 taxi link uses the designator \"A\".\n\nIf you delete it this link will have no designator.\n\n"
+              "Do you want to proceed?");
+    build::Link(build::Node(), build::Node(), model::kTaxiwayLink, alpha);
+    EXPECT_TRUE(DeleteEntry(alpha));
+    EXPECT_EQ(LastMessage(),
+              "2 taxi links use the designator \"A\".\n\nIf you delete it these links will have no designator.\n\n"
+              "Do you want to proceed?");
+    EXPECT_EQ(+As<model::TaxiLinkPayload>(link).designator, nullptr);
+    EXPECT_EQ(Actions(), 1);
+    const size_t messages = fake.messages.size();
+    EXPECT_TRUE(DeleteEntry(build::Designator("B")));
+    EXPECT_EQ(fake.messages.size(), messages);
+}
+
+TEST_F(ListRowsTest, OnlyTheEntryIsDeletedWhateverElseIsSelected) {
+    SceneryObject *a = build::Spot(), *b = build::Spot();
+    b->flags |= model::kSelected;
+    EXPECT_TRUE(DeleteEntry(a));
+    EXPECT_EQ(build::List(), (std::vector<SceneryObject*>{ b }));
+}
+
+TEST_F(ListRowsTest, ASelectedRowSelectsItsObjectAndShowsItWhenItIsOutside) {
+    map::ResizeView(800, 600);
+    map::ResetView(build::kMiddle);
+    SceneryObject *near = build::Spot({ 10, 10 }), *far = build::Spot({ 50000, 0 });
+    near->flags |= model::kSelected;
+    ShowEntry(far);
+    EXPECT_TRUE(model::IsSelected(far));
+    EXPECT_FALSE(model::IsSelected(near));
+    EXPECT_EQ(map::view.centre.lon, model::PositionOf(far).lon);
+    ShowEntry(build::Designator("A"));
+    EXPECT_EQ(map::view.centre.lon, model::PositionOf(far).lon);
+    map::view = {};
+}
+
+class ParkingOrderTest : public DialogFixture {
+protected:
+    // Name code, number and type of a spot; its radius is its place in the airport.
+    SceneryObject* Spot(uint32_t name, uint32_t number, uint32_t type,
+                        std::initializer_list<std::string_view> codes = {}) {
+        SceneryObject* spot = build::Spot({}, codes);
+        As<model::ParkingSpotRecord>(spot).packed =
+            static_cast<uint32_t>(codes.size()) << 24 | number << 12 | type << 8 | name;
+        As<model::ParkingSpotRecord>(spot).radius = static_cast<float>(model::CountKind(model::kParkingSpot));
+        return spot;
+    }
+    static std::vector<SceneryObject*> Sorted(ParkingKey key) {
+        std::vector<ListRow> rows = ListRows(ListKind::Parking);
+        SortParking(key, &rows);
+        return Objects(rows);
+    }
+    static std::vector<SceneryObject*> Objects(const std::vector<ListRow>& rows) {
+        std::vector<SceneryObject*> objects;
+        for (const ListRow& row : rows) objects.push_back(row.object);
+        return objects;
+    }
+    using Order = std::vector<SceneryObject*>;
+};
+
+TEST_F(ParkingOrderTest, NamesGoGateGateAToZParkingItsCompassPointsDockBlankThenByNumber) {
+    SceneryObject *blank = Spot(0, 1, 1), *odd = Spot(63, 0, 1), *dock = Spot(11, 1, 1), *nw = Spot(9, 1, 1),
+                  *north = Spot(2, 1, 1), *parking = Spot(1, 1, 1), *z = Spot(37, 1, 1), *a10 = Spot(12, 10, 1),
+                  *a9 = Spot(12, 9, 1), *gate = Spot(10, 99, 1);
+    EXPECT_EQ(Sorted(ParkingKey::Name), (Order{ gate, a9, a10, z, parking, north, nw, dock, odd, blank }));
+}
+
+TEST_F(ParkingOrderTest, TypesGoGatesGaCargoMilitaryUnknownThenByName) {
+    SceneryObject *unknown = Spot(1, 1, 1), *combat = Spot(1, 1, 7), *milCargo = Spot(1, 2, 6), *cargo = Spot(1, 1, 5),
+                  *dock = Spot(11, 1, 11), *ga = Spot(1, 1, 2), *gateB = Spot(13, 1, 8), *gateA = Spot(12, 1, 10),
+                  *strange = Spot(1, 1, 15);
+    EXPECT_EQ(Sorted(ParkingKey::Type), (Order{ gateA, gateB, ga, dock, cargo, combat, milCargo, unknown, strange }));
+}
+
+TEST_F(ParkingOrderTest, RadiiGrow) {
+    SceneryObject *a = Spot(1, 1, 1), *b = Spot(1, 1, 1), *c = Spot(1, 1, 1);
+    As<model::ParkingSpotRecord>(a).radius = 20;
+    As<model::ParkingSpotRecord>(b).radius = 10;
+    As<model::ParkingSpotRecord>(c).radius = 20;
+    EXPECT_EQ(Sorted(ParkingKey::Radius), (Order{ b, a, c }));
+}
+
+TEST_F(ParkingOrderTest, CodesAreComparedOneByOneWithoutCaseThenFewerThenNone) {
+    SceneryObject *none = Spot(10, 1, 1), *klm = Spot(10, 2, 1, { "KLM" }), *jalUal = Spot(10, 3, 1, { "jal", "UAL" }),
+                  *jalTwo = Spot(10, 9, 1, { "JAL" }), *jalOne = Spot(10, 5, 1, { "JAL" });
+    EXPECT_EQ(Sorted(ParkingKey::Codes), (Order{ jalOne, jalTwo, jalUal, klm, none }));
+}
+
+TEST_F(ParkingOrderTest, SortingMovesRowsOnlyAndTheOriginalOrderComesBack) {
+    Spot(11, 1, 1);
+    Spot(10, 1, 1);
+    const auto list = build::List();
+    std::vector<ListRow> rows = ListRows(ListKind::Parking);
+    SortParking(ParkingKey::Name, &rows);
+    EXPECT_EQ(build::List(), list);
+    EXPECT_NE(Objects(rows), list);
+    OriginalParkingOrder(&rows);
+    EXPECT_EQ(Objects(rows), list);
+}
+
+TEST_F(ParkingOrderTest, RandomizeShufflesWithinTheTypeRanks) {
+    SceneryObject *ga = Spot(1, 1, 2), *gate1 = Spot(10, 1, 8), *gate2 = Spot(10, 2, 9), *gate3 = Spot(10, 3, 10);
+    std::vector<ListRow> rows = ListRows(ListKind::Parking);
+    // Rows 0..3 are swapped with rows 3, 2, 1 and 0: ga-gate3, gate1-gate2, and both back again.
+    uint32_t next = 3;
+    RandomizeParking([&] { return next--; }, &rows);
+    EXPECT_EQ(Objects(rows), (Order{ gate1, gate2, gate3, ga }));
+    RandomizeParking([] { return 7u; }, &rows);  // 7 modulo 4: each with the last row in turn
+    EXPECT_EQ(Objects(rows), (Order{ gate1, gate2, gate3, ga }));
+    RandomizeParking([] { return 1u; }, &rows);
+    EXPECT_EQ(Objects(rows), (Order{ gate2, gate1, gate3, ga }));
+    rows.clear();
+    RandomizeParking([] { return 0u; }, &rows);
+    EXPECT_TRUE(rows.empty());
+}
+
+}  // namespace
