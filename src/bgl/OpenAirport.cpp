@@ -1,6 +1,8 @@
 // OpenAirport.cpp - see OpenAirport.h.
 #include "bgl/OpenAirport.h"
 
+#include <algorithm>
+
 #include "bgl/NameList.h"
 #include "bgl/Navaids.h"
 #include "bgl/SceneryFile.h"

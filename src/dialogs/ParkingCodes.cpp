@@ -2,7 +2,6 @@
 #include "dialogs/ParkingCodes.h"
 
 #include <algorithm>
-#include <cstring>
 #include <string_view>
 
 #include "dialogs/NumberField.h"
@@ -91,7 +90,7 @@ void SetCodes(model::SceneryObject* draft, const std::vector<std::string>& codes
     record.packed = (record.packed & ~kCountMask) | static_cast<uint32_t>(codes.size()) << kCountShift;
     uint8_t* out = draft->payload + sizeof(ParkingSpotRecord);
     for (const std::string& code : codes) {
-        std::memcpy(out, code.data(), std::min(code.size(), kCodeLimit));
+        std::copy_n(code.data(), std::min(code.size(), kCodeLimit), out);
         out += kCodeLimit;
     }
 }

@@ -51,6 +51,11 @@ bool ReadOne(const Quantity& quantity, const std::string& shown, const std::stri
     return false;
 }
 
+bool IsChanged(const VasiFields& shown, const VasiFields& entered) {
+    return (entered.system >= 0 && entered.system != shown.system) || entered.distance != shown.distance ||
+           entered.offset != shown.offset || entered.spacing != shown.spacing || entered.slope != shown.slope;
+}
+
 bool StoreUnit(const VasiFields& shown, const VasiFields& entered, size_t offset, SceneryObject* draft, BadField* bad) {
     VasiPart unit = UnitAt(draft, offset);
     const VasiPart before = unit;
@@ -67,7 +72,7 @@ bool StoreUnit(const VasiFields& shown, const VasiFields& entered, size_t offset
     if (entered.offset != shown.offset) unit.biasX = static_cast<float>(sideways);
     if (entered.spacing != shown.spacing) unit.spacing = static_cast<float>(spacing);
     if (entered.slope != shown.slope) unit.pitch = static_cast<float>(slope);
-    if (unit.type == 0 && std::memcmp(&unit, &before, sizeof unit) != 0) unit = {};
+    if (unit.type == 0 && IsChanged(shown, entered)) unit = {};
     std::memcpy(draft->payload + offset, &unit, sizeof unit);
     return true;
 }

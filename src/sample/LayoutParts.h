@@ -1,7 +1,7 @@
 // LayoutParts.h - the pieces that layouts are put together from: rows of spots, piers, exits, lit edges.
 #pragma once
 
-#include <span>
+#include <vector>
 
 #include "sample/AirportPlan.h"
 

@@ -185,6 +185,7 @@ TEST_F(CoordinateText, OnlyThirtyCharactersAreRead) {
 }
 
 TEST_F(CoordinateText, NinetyDegreesNorthAreRefused) {
+    ExpectRefused("N89.9:7", "W1", CoordinateField::Latitude, kLatitudeDegrees);  // past 90 with its minutes
     ExpectRefused("N90", "W1", CoordinateField::Latitude, kLatitudeDegrees);
     ExpectRefused("S90.0", "W1", CoordinateField::Latitude, kLatitudeDegrees);
     ExpectRefused("N1234567890123456789012345", "W1", CoordinateField::Latitude, kLatitudeDegrees);

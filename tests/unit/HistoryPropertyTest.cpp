@@ -255,9 +255,8 @@ protected:
         if (number == kNothing) return;
         SceneryObject* edited = CopyObject(ObjectNumbered(number));
         AddOne();
-        if (const int other = RandomNumberOfKind({ kHelipad, kCommFrequency, kNdb });
-            other != number && other != kNothing)
-            DeleteBoth(other);
+        // Of a kind that nothing points to: a pointer left to a freed object means nothing.
+        if (const int other = RandomNumberOfKind({ kHelipad, kCommFrequency }); other != kNothing) DeleteBoth(other);
         ScribbleBytes(edited);
         ModifyBoth(edited, number);
     }

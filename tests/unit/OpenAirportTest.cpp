@@ -94,6 +94,15 @@ TEST_F(OpenAirport, ReadAirportReadsOnlyTheStretch) {
     EXPECT_EQ(CountKind(kTaxiNode), 1u);
 }
 
+TEST_F(OpenAirport, AirportRecordShorterThanItsBodyIsRefused) {
+    ByteList file = BuildFile();
+    const size_t sizeField = static_cast<size_t>(place.offset) + 2;
+    file[sizeField] = 40;
+    file[sizeField + 1] = 0;
+    EXPECT_FALSE(bgl::OpenAirportBytes(file, ""));
+    EXPECT_EQ(state.head, nullptr);
+}
+
 TEST_F(OpenAirport, FileInMemoryWithoutAirportIsRefused) {
     EXPECT_FALSE(bgl::OpenAirportBytes({}, ""));
     EXPECT_EQ(state.head, nullptr);

@@ -137,6 +137,22 @@ TEST_F(OwnNavaids, ComeBackAllAndAreNotStock) {
     }
 }
 
+TEST_F(OwnNavaids, HeaderNamesTheCellsOfAllSectionsOrTheirParents) {
+    SetEncodedPosition(state.airport, { 0, 0 });
+    const auto put = [](SceneryObject* navaid, uint32_t column) { SetEncodedPosition(navaid, { 0, column << 21 }); };
+    const auto cells = [] {
+        const ByteList file = BuildFile();
+        return HexOf(std::span(file).subspan(24, 32));
+    };
+    for (uint32_t column = 1; column < 4; ++column) put(build::Vor(), column);
+    for (uint32_t column = 3; column < 8; ++column) put(build::Ndb(), column);
+    EXPECT_EQ(cells(), HexOf(Hex("00 00 08 00 01 00 08 00 04 00 08 00 05 00 08 00"
+                                 "10 00 08 00 11 00 08 00 14 00 08 00 15 00 08 00")));
+    put(build::Append(kMarkerBeacon, sizeof(MarkerBeaconPayload)), 8);  // the ninth
+    EXPECT_EQ(cells(), HexOf(Hex("00 00 02 00 01 00 02 00 04 00 02 00 05 00 02 00 10 00 02 00"
+                                 "00 00 00 00 00 00 00 00 00 00 00 00")));
+}
+
 TEST_F(OwnNavaids, DamagedIndexLosesNoNavaid) {
     for (int i = 0; i < 5; ++i) Vor("SEA", static_cast<uint32_t>(9 - i), static_cast<uint32_t>(i));
     const ByteList file = BuildFile();

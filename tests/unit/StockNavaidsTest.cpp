@@ -220,7 +220,11 @@ TEST_F(StockNavaids, FoldersAreListedOnceASession) {
     EXPECT_TRUE(bgl::StockFilesAt(Simulator(), { &here, 1 }).empty());
     Put("Namw", BlockFile(here), StockFile({}));
     EXPECT_TRUE(bgl::StockFilesAt(Simulator(), { &here, 1 }).empty());
-    EXPECT_EQ(bgl::StockFilesAt(Simulator() + "/../" + folder.filename().string(), { &here, 1 }).size(), 1u);
+    const fs::path other = folder / "other";
+    fs::create_directories(other);
+    fs::rename(folder / "Scenery", other / "Scenery");
+    EXPECT_EQ(bgl::StockFilesAt(other.string(), { &here, 1 }).size(), 1u);
+    fs::rename(other / "Scenery", folder / "Scenery");
     bgl::ForgetStockFiles();
     EXPECT_EQ(bgl::StockFilesAt(Simulator(), { &here, 1 }).size(), 1u);
 }
