@@ -46,9 +46,9 @@ bool AskSavePath(const SaveQuestion& question, std::string* path) {
     dialog.lpstrInitialDir = folder.empty() ? nullptr : folder.c_str();
     dialog.lpstrTitle = L"Save Airport File";
     dialog.lpstrDefExt = L"bgl";
-    // Not OFN_FILEMUSTEXIST: it belongs to open dialogs only, and here it could refuse every new file.
-    dialog.Flags =
-        OFN_EXPLORER | OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_PATHMUSTEXIST | OFN_LONGNAMES;
+    // OFN_FILEMUSTEXIST speaks to open dialogs; a save dialog takes new names all the same.
+    dialog.Flags = OFN_EXPLORER | OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_PATHMUSTEXIST |
+                   OFN_FILEMUSTEXIST | OFN_LONGNAMES;
     if (!GetSaveFileNameW(&dialog)) return false;
     *path = platform::Utf8FromWide(file.c_str());
     return true;

@@ -139,6 +139,7 @@ void OnLeftDown(WPARAM wParam, LPARAM lParam) {
     SetCapture(window.handle);
     map::OnButtonDown(MapPixelOf(lParam), KeysOf(wParam));
     AfterMouse();
+    UpdateWindow(window.handle);  // the next press must find what this one made
 }
 
 void OnLeftUp(WPARAM wParam, LPARAM lParam) {

@@ -9,7 +9,6 @@
 #include "bgl/AirportWriter.h"
 #include "bgl/SceneryFile.h"
 #include "model/ObjectList.h"
-#include "platform/Files.h"
 #include "platform/Platform.h"
 
 namespace app {
@@ -17,31 +16,27 @@ namespace app {
 namespace {
 
 std::string FirstSaveFolder() {
-    if (!state.savePath.empty()) return std::string(FolderOf(state.savePath));
+    if (!state.savePath.empty()) return std::string(FolderOf(state.savePath)) + "\\";  // "D:" alone is no folder
     if (!state.simulatorFolder.empty()) return state.simulatorFolder + "\\AddOn Scenery\\Scenery\\";
     return std::string(FolderOf(state.sourceFile));
 }
 
-// The airport is from now on that of the written file; a failed write changes nothing.
-bool WriteTo(const std::string& path) {
-    if (bgl::WriteAirportFile(path) != 1) return false;
+// The airport is from then on that of the written file.
+bool WriteToSavePath() {
+    if (bgl::WriteAirportFile(state.savePath) != 1) return false;
     model::state.modified = false;
-    state.savePath = path;
-    state.sourceFile = path;
+    state.sourceFile = state.savePath;
     SetWindowTitle(TitleText());
     ShowCommandStates();
     return true;
 }
-
-// A stock file holds hundreds of airports; it would be replaced by this one.
-bool IsStockFile(const std::string& path) { return bgl::IsStockFileName(path) && platform::FileExists(path); }
 
 }  // namespace
 
 bool SaveAirport() {
     if (!model::state.loaded) return false;
     if (bgl::IsOwnFileName(state.sourceFile)) state.savePath = state.sourceFile;
-    return state.savePath.empty() ? SaveAirportAs() : WriteTo(state.savePath);
+    return state.savePath.empty() ? SaveAirportAs() : WriteToSavePath();
 }
 
 bool SaveAirportAs() {
@@ -49,13 +44,15 @@ bool SaveAirportAs() {
     const SaveQuestion question = { FirstSaveFolder(), "TV2_" + model::state.icao + ".bgl" };
     std::string path;
     if (!AskSavePath(question, &path)) return false;
-    if (IsStockFile(path)) {
+    // A stock file holds hundreds of airports; and what is read from a file of such a name is taken for stock.
+    if (bgl::IsStockFileName(path)) {
         platform::ShowMessage(
-            "ERROR: A stock scenery file cannot be overwritten.\nPlease save the airport under another name.",
+            "ERROR: The name of a stock scenery file cannot be used.\nPlease save the airport under another name.",
             platform::Buttons::Ok, platform::Icon::Exclamation);
         return false;
     }
-    return WriteTo(path);
+    state.savePath = path;
+    return WriteToSavePath();
 }
 
 bool SavePrompt() {

@@ -1,6 +1,7 @@
 // StatusText.cpp - see StatusText.h.
 #include "app/StatusText.h"
 
+#include <cmath>
 #include <cstdio>
 
 #include "app/Settings.h"
@@ -23,13 +24,22 @@ model::LatLon PositionAt(platform::Pixel cursor) {
     return map::ScreenToWorld({ static_cast<double>(cursor.x), static_cast<double>(cursor.y) });
 }
 
+// A hair below a full turn shows as 0, never as 360.
+double ShownDegrees(double radians) {
+    const double degrees = radians * model::kDegreesPerRadian;
+    return degrees < 359.95 ? degrees : 0;
+}
+
 bool HasOrigin() { return model::state.loaded && map::tools.hasClick; }
 
 }  // namespace
 
 std::string PositionText(platform::Pixel cursor) {
     if (!model::state.loaded) return {};
-    const model::CoordinateTexts texts = model::FormatLatLon(PositionAt(cursor));
+    model::LatLon position = PositionAt(cursor);
+    if (!(std::fabs(position.lat) <= model::kPi / 2 && std::fabs(position.lon) <= 2 * model::kTwoPi)) return {};
+    position.lon = std::remainder(position.lon, model::kTwoPi);
+    const model::CoordinateTexts texts = model::FormatLatLon(position);
     return texts.latitude + "   " + texts.longitude;
 }
 
@@ -43,9 +53,9 @@ std::string DistanceText(platform::Pixel cursor) {
 std::string AngleText(platform::Pixel cursor) {
     if (!HasOrigin()) return {};
     const double bearing = model::RangeAndBearing(map::tools.lastClick, PositionAt(cursor)).bearing;
-    return Formatted("Angle: %3.1lf*", bearing * model::kDegreesPerRadian);
+    return Formatted("Angle: %3.1lf*", ShownDegrees(bearing));
 }
 
-std::string RotationText() { return Formatted("%5.1lf*", map::view.rotation * model::kDegreesPerRadian); }
+std::string RotationText() { return Formatted("%5.1lf*", ShownDegrees(map::view.rotation)); }
 
 }  // namespace app

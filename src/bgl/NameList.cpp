@@ -7,6 +7,7 @@
 
 #include "bgl/Cells.h"
 #include "bgl/RecordIds.h"
+#include "model/Ident.h"
 
 namespace bgl {
 
@@ -132,22 +133,27 @@ NamedAirport NameListEntry(const NameListView& list, uint32_t index) {
     return airport;
 }
 
+// The low bits of an ident word tell the kind of object; some compilers leave them out of the list.
 bool FindNames(SceneryFile* file, uint32_t ident, NamedAirport* names) {
+    bool found = false;
     for (const SectionEntry& section : file->sections) {
-        if (section.type != kNameListSection || section.sectionClass != kNameList) continue;
+        if (section.type != kNameListSection || (section.sectionClass & 0xFFFF) != kNameList) continue;
         for (const SubsectionEntry& subsection : ReadSubsections(file, section)) {
-            if (!CoverRecords(file, subsection)) return false;
+            if (!CoverRecords(file, subsection)) return found;
             const std::vector<uint8_t> bytes = ReadStretch(file->source, subsection.offset, subsection.size);
             NameListView list;
             if (!OpenNameList(bytes, &list)) continue;
             for (uint32_t i = 0; i < list.airportCount; ++i) {
-                if (EntryAt(list, i).ident != ident) continue;
+                const uint32_t entry = EntryAt(list, i).ident;
+                const bool isSame = entry == ident;
+                if (!isSame && (found || entry >> model::kIdentShift != ident >> model::kIdentShift)) continue;
                 *names = NameListEntry(list, i);
-                return true;
+                if (isSame) return true;
+                found = true;
             }
         }
     }
-    return false;
+    return found;
 }
 
 }  // namespace bgl

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 
 #include "bgl/Cells.h"
 #include "bgl/RecordIds.h"
@@ -19,6 +20,7 @@ namespace {
 
 constexpr const char* kRegions[] = { "Afri", "Asia", "Aust", "Eure", "Eurw", "Namc", "Name", "Namw", "Ocen", "Same" };
 constexpr int kBlockShift = 23;  // 96 columns and 64 rows
+constexpr size_t kAllBlocks = 96 * 64;
 constexpr uint32_t kColumnWeight = 100;
 
 using FilesOfBlock = std::map<uint32_t, std::vector<std::string>>;
@@ -48,7 +50,8 @@ void AddNavaidFile(const std::string& path, FilesOfBlock* files) {
     const platform::FileHandle handle = platform::OpenForReading(path);
     SceneryFile file;
     if (!handle || !ReadStructure(SourceOfFile(handle.get()), &file)) return;
-    std::vector<uint32_t> cells, blocks;
+    std::vector<uint32_t> cells;
+    std::set<uint32_t> blocks;
     for (const SectionEntry& section : file.sections) {
         if (section.type != kVorSection && section.type != kNdbSection && section.type != kMarkerSection) continue;
         for (const SubsectionEntry& subsection : ReadSubsections(&file, section)) cells.push_back(subsection.id);
@@ -56,16 +59,15 @@ void AddNavaidFile(const std::string& path, FilesOfBlock* files) {
     std::sort(cells.begin(), cells.end());
     cells.erase(std::unique(cells.begin(), cells.end()), cells.end());
     for (uint32_t cell : cells) {
+        if (blocks.size() == kAllBlocks) break;  // a damaged table names the whole world, and may do so often
         const CodeRect rect = RectOfCell(cell);
         const int64_t lastColumn = (std::min(rect.west + rect.width, kTurn - 1)) >> kBlockShift;
         const int64_t lastRow = (std::min(rect.south, kPoleToPole - 1)) >> kBlockShift;
         for (int64_t column = rect.west >> kBlockShift; column <= lastColumn; ++column) {
             for (int64_t row = rect.north >> kBlockShift; row <= lastRow; ++row)
-                blocks.push_back(BlockNumber(column, row));
+                blocks.insert(BlockNumber(column, row));
         }
     }
-    std::sort(blocks.begin(), blocks.end());
-    blocks.erase(std::unique(blocks.begin(), blocks.end()), blocks.end());
     for (uint32_t block : blocks) (*files)[block].push_back(path);
 }
 
@@ -76,7 +78,7 @@ const StockTables& TablesFor(const std::string& simulatorFolder) {
         const std::string folder = simulatorFolder + "\\Scenery\\" + region + "\\Scenery\\";
         for (const platform::FileEntry& entry : platform::ListFiles(folder, ".bgl")) {
             AddAirportFile(folder, entry.name, &place->second.airports);
-            if (platform::EqualNoCase(entry.name.substr(0, 3), "nv9"))
+            if (platform::EqualNoCase(entry.name, std::string("nv9") + region + "0.bgl"))
                 AddNavaidFile(folder + entry.name, &place->second.navaids);
         }
     }

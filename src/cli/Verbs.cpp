@@ -56,6 +56,8 @@ ToolResult RunRewrite(const Arguments& arguments) {
     std::string refusal;
     if (!bgl::BuildAirportFile(fileTime, &bytes, &refusal)) return Failure(refusal);
     const std::string& target = arguments.operands[1];
+    if (bgl::IsStockFileName(target) && platform::FileExists(target))
+        return Failure("'" + target + "' is a stock scenery file with more than this airport; it is not replaced");
     if (!platform::WriteFileWhole(target, bytes)) return Failure("cannot write '" + target + "'");
     return {};
 }

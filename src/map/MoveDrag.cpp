@@ -1,6 +1,7 @@
 // MoveDrag.cpp - see MoveDrag.h.
 #include "map/MoveDrag.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <unordered_set>
@@ -26,7 +27,8 @@ struct MovedObject {
 
 struct MoveState {
     bool armed = false, moving = false;
-    Pixel press, pointer;
+    bool wasMoved = false;  // the pointer is over another place of the ground than at the press
+    Pixel press;
     LatLon from;  // the place under the press
     std::vector<MovedObject> objects;
 };
@@ -51,13 +53,22 @@ void StoreCode(SceneryObject* object, model::BglPoint code) {
     }
 }
 
+// A selection moves as a whole or not at all.
+bool IsSelectionMovable() {
+    for (const SceneryObject* o = model::state.head; o; o = o->next) {
+        if (model::IsSelected(o) && !IsMovable(o)) return false;
+    }
+    return true;
+}
+
 void Begin() {
+    move.armed = false;
+    if (!IsSelectionMovable()) return;
     for (SceneryObject* o = model::state.head; o; o = o->next) {
         if (!model::IsSelected(o) || !IsMovable(o)) continue;
         move.objects.push_back({ o, model::EncodedPositionOf(o), model::PositionOf(o) });
     }
     move.moving = !move.objects.empty();
-    move.armed = false;
     model::state.busy = move.moving;
 }
 
@@ -81,7 +92,7 @@ LatLon UnderPixel(Pixel at) { return ScreenToWorld({ double(at.x), double(at.y) 
 void ArmMove(Pixel press) {
     move = {};
     move.armed = true;
-    move.press = move.pointer = press;
+    move.press = press;
     move.from = UnderPixel(press);
 }
 
@@ -90,11 +101,16 @@ bool FollowMove(Pixel pointer) {
         std::abs(pointer.x - move.press.x) >= kDragThreshold || std::abs(pointer.y - move.press.y) >= kDragThreshold;
     if (move.armed && left) Begin();
     if (!move.moving) return false;
-    move.pointer = pointer;
     const model::Local offset = model::LatLonToLocal(move.from, UnderPixel(pointer));
     if (!std::isfinite(offset.east) || !std::isfinite(offset.north)) return true;
+    const auto to = [&](const MovedObject& moved) {
+        return model::LocalToLatLon(model::BglToLatLon(moved.home), offset);
+    };
+    const auto isPastAPole = [&](const MovedObject& moved) { return std::fabs(to(moved).lat) >= model::kPi / 2; };
+    if (std::any_of(move.objects.begin(), move.objects.end(), isPastAPole)) return true;  // stays where it was
+    move.wasMoved = offset.east != 0 || offset.north != 0;
     for (MovedObject& moved : move.objects) {
-        moved.position = model::LocalToLatLon(model::BglToLatLon(moved.home), offset);
+        moved.position = to(moved);
         model::SetPosition(moved.object, moved.position);
     }
     platform::RequestRepaint();
@@ -105,7 +121,7 @@ void FinishMove() {
     move.armed = false;
     if (!move.moving) return;
     PutBack();
-    if (move.pointer == move.press) move.objects.clear();  // back where it began: nothing to record
+    if (!move.wasMoved) move.objects.clear();  // back where it began: nothing to record
     model::BeginAction();
     for (const MovedObject& moved : move.objects) {
         SceneryObject* edited = model::CopyObject(moved.object);

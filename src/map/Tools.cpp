@@ -50,6 +50,10 @@ void PressPointer(Pixel at, KeyState keys) {
 
 void PressNodes(Pixel at) {
     LatLon position = UnderPixel(at);
+    if (!layers.network) {  // no node may be made unseen, perhaps on top of another
+        layers.network = true;
+        return platform::RequestRepaint();
+    }
     if (HitsLinkEnd(at) || !IsPlaceable(&position)) return;
     DeselectAll();  // what is selected afterwards is what was made
     SceneryObject* node = model::CreateObject(model::kTaxiNode, sizeof(model::TaxiNodeRecord));

@@ -2,6 +2,7 @@
 // that both directions use the same formulas.
 #include "model/Geodesy.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace model {
@@ -20,6 +21,9 @@ double ClampedAcos(double cosine) {
 }
 
 double Square(double x) { return x * x; }
+
+// What is no number is 0.
+uint32_t Code(double units, double most) { return units > 0 ? static_cast<uint32_t>(std::min(units, most)) : 0; }
 
 }  // namespace
 
@@ -86,8 +90,12 @@ LatLon BglToLatLon(BglPoint code) {
 
 BglPoint LatLonToBgl(LatLon position) {
     const double lat = (kPi / 2 - position.lat) * (2 / kPi) * kLatUnitsPerQuarter;
-    const double lon = (kPi - position.lon) * (1 / kPi) * kLonUnitsPerHalf;
-    return { static_cast<uint32_t>(static_cast<int64_t>(lat)), static_cast<uint32_t>(static_cast<int64_t>(lon)) };
+    double lon = (kPi - position.lon) * (1 / kPi) * kLonUnitsPerHalf;
+    if (lon < 0)
+        lon += 2 * kLonUnitsPerHalf;
+    else if (lon > 2 * kLonUnitsPerHalf)
+        lon -= 2 * kLonUnitsPerHalf;
+    return { Code(lat, 2 * kLatUnitsPerQuarter), Code(lon, 2 * kLonUnitsPerHalf) };
 }
 
 }  // namespace model

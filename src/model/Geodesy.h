@@ -57,6 +57,8 @@ LatLon OffsetByPolar(LatLon origin, Polar polar);
 // The scenery file's fixed-point angles: latitude code 0 is the north pole and grows southward over
 // 2^29 units, longitude code 0 is 180 degrees west and grows eastward over 3 x 2^28 units a turn.
 LatLon BglToLatLon(BglPoint code);
-BglPoint LatLonToBgl(LatLon position);  // truncates toward zero
+// Truncates toward zero. A longitude beyond half a turn is taken once around the earth first, and a latitude
+// beyond a pole lies at it: the codes have no places for them.
+BglPoint LatLonToBgl(LatLon position);
 
 }  // namespace model

@@ -28,7 +28,8 @@ char CharacterOf(uint32_t code) {
 
 uint32_t PackIdent(std::string_view text) {
     uint32_t packed = 0;
-    for (char c : text.substr(0, kMaxCharacters)) packed = packed * kBase + CodeOf(c);
+    if (text.size() > kMaxCharacters) text.remove_prefix(text.size() - kMaxCharacters);
+    for (char c : text) packed = packed * kBase + CodeOf(c);
     return packed;
 }
 

@@ -13,7 +13,7 @@ namespace model {
 constexpr int kIdentShift = 5;
 constexpr uint32_t kIdentLowBits = 0x1F;
 
-// At most the first five characters count; letters without regard to case, digits, and every other
+// At most the last five characters count; letters without regard to case, digits, and every other
 // character as a blank.
 uint32_t PackIdent(std::string_view text);
 

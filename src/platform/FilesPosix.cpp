@@ -108,7 +108,8 @@ bool WriteFileWhole(const std::string& path, std::span<const uint8_t> bytes) {
     const bool exists = ::stat(target.c_str(), &info) == 0;
     if (exists && !S_ISREG(info.st_mode)) return false;  // renaming would replace a device
     const mode_t mode = exists ? info.st_mode & 07777 : 0644;
-    std::string sibling = target + ".XXXXXX";
+    // A short name of its own: the target's may fill the file system's limit.
+    std::string sibling = target.substr(0, target.rfind('/') + 1) + "tarvo.XXXXXX";
     const int descriptor = ::mkstemp(sibling.data());
     if (descriptor < 0) return false;
     bool ok = ::fchmod(descriptor, mode) == 0 && WriteAll(descriptor, bytes) && ::fsync(descriptor) == 0;

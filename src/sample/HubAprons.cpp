@@ -71,7 +71,7 @@ constexpr Satellite kSatellites[] = {
 
 void AddSatellite(AirportPlan* plan, const Satellite& satellite) {
     constexpr double kStandOff = 36, kRadius = 30, kSpan = 93;
-    const double aside = kSatelliteHalf + kStandOff, end = kSatelliteLength / 2 + kStandOff;
+    const double aside = kSatelliteHalf + kStandOff, end = kSatelliteLength / 2 + kRadius + 1;
     const uint8_t name = GateOf(satellite.letter);
     const double middle = satellite.middle;
     AddSpotRow(plan, { { kSatelliteEast - aside, middle + kSpan },

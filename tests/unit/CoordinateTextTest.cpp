@@ -181,7 +181,7 @@ TEST_F(CoordinateText, MinusSignsEndTheNumbersAndAreNotRead) {
 TEST_F(CoordinateText, OnlyThirtyCharactersAreRead) {
     ASSERT_EQ(Parse("N1.0000000000000000000000000009:30", "W1"), ParseResult::Changed);
     EXPECT_NEAR(North(), 1, 1e-12);
-    ExpectRefused(std::string(30, ' ') + "N1", "W1", CoordinateField::Latitude, kBadLatitude);
+    ExpectRefused("                              N1", "W1", CoordinateField::Latitude, kBadLatitude);
 }
 
 TEST_F(CoordinateText, NinetyDegreesNorthAreRefused) {

@@ -224,4 +224,20 @@ TEST(LatLonToBgl, NeighbouringAirportsOfTheWorldDecodeWithinAnEncodedUnit) {
     EXPECT_NEAR(back.lon, seattle.lon, 8e-9);
 }
 
+TEST(Geodesy, AMoveAcrossTheHundredAndEightiethMeridianStaysWhereItIs) {
+    for (const double east : { -100.0, 100.0 }) {
+        const LatLon start = { 0.3, east < 0 ? kPi - 1e-6 : -kPi + 1e-6 };
+        const LatLon moved = LocalToLatLon(start, { east, 0 });
+        const BglPoint code = LatLonToBgl(moved);
+        EXPECT_LE(code.lonCode, 0x30000000u);
+        EXPECT_NEAR(DistanceBetween(start, BglToLatLon(code)), 100, 0.2);
+    }
+}
+
+TEST(Geodesy, PlacesBeyondAPoleAreEncodedAsThePole) {
+    EXPECT_EQ(LatLonToBgl({ kPi / 2 + 0.1, 0 }).latCode, 0u);
+    EXPECT_EQ(LatLonToBgl({ -kPi / 2 - 0.1, 0 }).latCode, 0x20000000u);
+    EXPECT_EQ(LatLonToBgl({ std::nan(""), 0 }).latCode, 0u);
+}
+
 }  // namespace

@@ -32,7 +32,7 @@ TEST(Ident, ABlankAndAnyOtherCharacterCountOne) {
 }
 
 TEST(Ident, AtMostFiveCharactersCount) {
-    EXPECT_EQ(PackIdent("ABCDEF"), PackIdent("ABCDE"));
+    EXPECT_EQ(PackIdent("ABCDEF"), PackIdent("BCDEF")) << "packed from the last character backwards";
     EXPECT_EQ(UnpackIdent(UINT32_MAX).size(), 5u);
 }
 

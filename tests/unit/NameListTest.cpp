@@ -179,10 +179,17 @@ TEST_F(NamesOfAnAirport, IdentIsThatOfTheAirportRecord) {
 TEST_F(NamesOfAnAirport, EntryOfAnotherIdentGivesNoNames) {
     ByteList file = BuildFile();
     const std::vector<FoundSection> sections = SectionsOf(file);
-    file[file.size() - 12] ^= 1;  // low bit of the last entry's ident
+    file[file.size() - 12] ^= 0x20;  // the lowest bit of the last entry's identifier
     ASSERT_TRUE(OpenAirportBytes(file, "KSEA"));
     EXPECT_EQ(model::state.country, "");
     EXPECT_EQ(model::state.city, "");
+}
+
+TEST_F(NamesOfAnAirport, EntryOfTheSameIdentWithOtherLowBitsGivesTheNames) {
+    ByteList file = BuildFile();
+    file[file.size() - 12] ^= 1;
+    ASSERT_TRUE(OpenAirportBytes(file, "KSEA"));
+    EXPECT_EQ(model::state.city, "Inns");
 }
 
 }  // namespace

@@ -82,7 +82,7 @@ TEST_F(SaveAirportTest, TheDialogStartsWhereTheAirportWasSavedLast) {
     app::state.savePath = "D:\\Mine\\x.bgl";
     app::SaveAirportAs();
     ASSERT_EQ(fakeShell.saveQuestions.size(), 1u);
-    EXPECT_EQ(fakeShell.saveQuestions[0].folder, "D:\\Mine");
+    EXPECT_EQ(fakeShell.saveQuestions[0].folder, "D:\\Mine\\");
 }
 
 TEST_F(SaveAirportTest, WithoutASimulatorTheDialogStartsBesideTheSource) {
@@ -106,25 +106,26 @@ TEST_F(SaveAirportTest, TheChosenPathIsWrittenAndServesLaterSaves) {
     EXPECT_GT(Content("new.bgl").size(), first.size());
 }
 
-TEST_F(SaveAirportTest, AFailedWriteKeepsTheFileTheFlagAndThePath) {
+TEST_F(SaveAirportTest, AFailedWriteKeepsTheFlagAndTheSource) {
     fs::create_directory(folder / "taken.bgl");
     fakeShell.savePath = In("taken.bgl");
     EXPECT_FALSE(app::SaveAirportAs());
     ASSERT_EQ(fake.messages.size(), 1u);
     EXPECT_EQ(fake.messages[0].text, kFailure);
     EXPECT_TRUE(model::state.modified);
-    EXPECT_EQ(app::state.savePath, "");
+    EXPECT_EQ(app::state.savePath, In("taken.bgl")) << "the chosen path, for the next try";
     EXPECT_EQ(app::state.sourceFile, In("AP915150.bgl"));
 }
 
-TEST_F(SaveAirportTest, AStockFileIsNotOverwritten) {
+TEST_F(SaveAirportTest, TheNameOfAStockFileIsRefused) {
     Put("AP915150.bgl", "hundreds of airports");
     fakeShell.savePath = In("AP915150.bgl");
     EXPECT_FALSE(app::SaveAirportAs());
     EXPECT_EQ(Content("AP915150.bgl"), "hundreds of airports");
     EXPECT_EQ(fake.messages.size(), 1u);
-    fakeShell.savePath = In("AP999999.bgl");  // a name like a stock file's, but nothing is lost
-    EXPECT_TRUE(app::SaveAirportAs());
+    fakeShell.savePath = In("AP999999.bgl");  // its navaids would not be read back
+    EXPECT_FALSE(app::SaveAirportAs());
+    EXPECT_FALSE(platform::FileExists(In("AP999999.bgl")));
 }
 
 TEST_F(SaveAirportTest, WithoutAnAirportNothingIsSaved) {
