@@ -4,7 +4,7 @@
 # else on the machine is touched.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-wine_home=$root/build/wine
+wine_home=${TARVO_WINE_HOME:-$root/build/wine}
 drive_c=$wine_home/prefix/drive_c
 
 fail() {

@@ -30,6 +30,16 @@ void ShowText(std::string_view title, std::string_view text, platform::Icon icon
 // Opens a document with the program that the system has for it. Nothing is reported when there is none.
 void OpenDocument(const std::string& path);
 
+// Opens ReadMe.htm of the program folder at a topic such as "#Options". Nothing is reported when that fails.
+void OpenHelp(std::string_view topic);
+
+// The dialogs, which run until the user has closed them.
+void ShowOpenAirportDialog();
+void ShowOptionsDialog();
+
+// The File menu lists the recent airports again.
+void ShowRecentAirports();
+
 // Asks the main window to close, as its close box does.
 void CloseMainWindow();
 

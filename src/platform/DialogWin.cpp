@@ -1,0 +1,154 @@
+// DialogWin.cpp - see DialogWin.h.
+#include "platform/DialogWin.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <iterator>
+
+#include "platform/PlatformWin.h"
+#include "platform/WideTextWin.h"
+
+namespace platform {
+
+namespace {
+
+std::vector<HWND> modeless;  // some may be destroyed by now
+
+HINSTANCE Program() { return GetModuleHandleW(nullptr); }
+
+// A dialog that was started from a dialog lies over that one.
+HWND OwnerOfDialogs() {
+    const HWND owner = MainWindow();
+    const HWND active = owner ? GetLastActivePopup(owner) : nullptr;
+    return active && IsWindowVisible(active) ? active : owner;
+}
+
+void ForgetClosed() {
+    std::erase_if(modeless, [](HWND dialog) { return !IsWindow(dialog); });
+}
+
+void AddChoice(HWND dialog, int control, UINT add, std::string_view text) {
+    SendDlgItemMessageW(dialog, control, add, 0, reinterpret_cast<LPARAM>(WideFromUtf8(text).c_str()));
+}
+
+bool IsListBox(HWND dialog, int control) {
+    wchar_t name[16] = {};
+    GetClassNameW(GetDlgItem(dialog, control), name, static_cast<int>(std::size(name)));
+    return lstrcmpiW(name, L"ListBox") == 0;
+}
+
+template <typename Texts>
+void Fill(HWND dialog, int control, const Texts& texts) {
+    const bool listBox = IsListBox(dialog, control);
+    SendDlgItemMessageW(dialog, control, listBox ? LB_RESETCONTENT : CB_RESETCONTENT, 0, 0);
+    for (const auto& text : texts) AddChoice(dialog, control, listBox ? LB_ADDSTRING : CB_ADDSTRING, text);
+}
+
+}  // namespace
+
+INT_PTR RunDialog(int resource, DLGPROC procedure, void* data) {
+    return DialogBoxParamW(Program(), MAKEINTRESOURCEW(resource), OwnerOfDialogs(), procedure,
+                           reinterpret_cast<LPARAM>(data));
+}
+
+HWND OpenDialog(int resource, DLGPROC procedure, void* data) {
+    const HWND dialog = CreateDialogParamW(Program(), MAKEINTRESOURCEW(resource), MainWindow(), procedure,
+                                           reinterpret_cast<LPARAM>(data));
+    ForgetClosed();
+    if (dialog) modeless.push_back(dialog);
+    return dialog;
+}
+
+bool DialogTookMessage(MSG* message) {
+    for (size_t i = 0; i < modeless.size(); ++i) {
+        if (IsWindow(modeless[i]) && IsDialogMessageW(modeless[i], message)) return true;
+    }
+    return false;
+}
+
+void StartDialog(HWND dialog, LPARAM data) {
+    SetWindowLongPtrW(dialog, DWLP_USER, data);
+    HWND owner = GetWindow(dialog, GW_OWNER);
+    if (!owner || IsIconic(owner)) owner = GetDesktopWindow();
+    RECT over{}, own{};
+    GetWindowRect(owner, &over);
+    GetWindowRect(dialog, &own);
+    MONITORINFO screen{};
+    screen.cbSize = sizeof screen;
+    GetMonitorInfoW(MonitorFromWindow(owner, MONITOR_DEFAULTTONEAREST), &screen);
+    const LONG width = own.right - own.left, height = own.bottom - own.top;
+    LONG x = (over.left + over.right - width) / 2, y = (over.top + over.bottom - height) / 2;
+    x = std::max(screen.rcWork.left, std::min(x, screen.rcWork.right - width));
+    y = std::max(screen.rcWork.top, std::min(y, screen.rcWork.bottom - height));
+    SetWindowPos(dialog, nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void* DialogData(HWND dialog) { return reinterpret_cast<void*>(GetWindowLongPtrW(dialog, DWLP_USER)); }
+
+std::string FieldText(HWND dialog, int control) {
+    const HWND field = GetDlgItem(dialog, control);
+    std::wstring text(static_cast<size_t>(GetWindowTextLengthW(field)) + 1, L'\0');
+    text.resize(static_cast<size_t>(GetWindowTextW(field, text.data(), static_cast<int>(text.size()))));
+    return Utf8FromWide(text);
+}
+
+void SetFieldText(HWND dialog, int control, std::string_view text) {
+    SetDlgItemTextW(dialog, control, WideFromUtf8(text).c_str());
+}
+
+void LimitField(HWND dialog, int control, size_t characters) {
+    SendDlgItemMessageW(dialog, control, EM_SETLIMITTEXT, characters, 0);
+}
+
+void FocusField(HWND dialog, int control) {
+    const HWND field = GetDlgItem(dialog, control);
+    SendMessageW(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(field), TRUE);
+    SendMessageW(field, EM_SETSEL, 0, -1);
+}
+
+bool IsFieldChecked(HWND dialog, int control) { return IsDlgButtonChecked(dialog, control) == BST_CHECKED; }
+
+void CheckField(HWND dialog, int control, bool checked) {
+    CheckDlgButton(dialog, control, checked ? BST_CHECKED : BST_UNCHECKED);
+}
+
+void EnableField(HWND dialog, int control, bool enabled) { EnableWindow(GetDlgItem(dialog, control), enabled); }
+
+void ShowField(HWND dialog, int control, bool shown) {
+    ShowWindow(GetDlgItem(dialog, control), shown ? SW_SHOWNA : SW_HIDE);
+}
+
+void FillChoices(HWND dialog, int control, const std::vector<std::string>& texts) { Fill(dialog, control, texts); }
+
+void FillChoices(HWND dialog, int control, std::span<const char* const> texts) { Fill(dialog, control, texts); }
+
+int ChoiceOf(HWND dialog, int control) {
+    const UINT ask = IsListBox(dialog, control) ? LB_GETCURSEL : CB_GETCURSEL;
+    return static_cast<int>(SendDlgItemMessageW(dialog, control, ask, 0, 0));
+}
+
+void SetChoice(HWND dialog, int control, int choice) {
+    const UINT set = IsListBox(dialog, control) ? LB_SETCURSEL : CB_SETCURSEL;
+    SendDlgItemMessageW(dialog, control, set, static_cast<WPARAM>(choice), 0);
+}
+
+void SetColumns(HWND list, std::span<const Column> columns) {
+    RECT area{};
+    GetClientRect(list, &area);
+    const int whole = area.right - GetSystemMetrics(SM_CXVSCROLL);
+    int left = whole;
+    for (size_t i = 0; i < columns.size(); ++i) {
+        const bool last = i + 1 == columns.size();
+        std::wstring title = WideFromUtf8(columns[i].title);
+        LVCOLUMNW column{};
+        column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_SUBITEM;
+        column.pszText = title.data();
+        column.iSubItem = static_cast<int>(i);
+        column.cx = last ? left : whole * columns[i].share / 100;
+        left -= column.cx;
+        SendMessageW(list, LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
+    }
+}
+
+}  // namespace platform
