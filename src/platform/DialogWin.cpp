@@ -15,6 +15,12 @@ namespace {
 
 std::vector<HWND> modeless;  // some may be destroyed by now
 
+struct OverMap {
+    HWND dialog = nullptr;
+    INT_PTR result = 0;
+};
+OverMap overMap;
+
 HINSTANCE Program() { return GetModuleHandleW(nullptr); }
 
 // A dialog that was started from a dialog lies over that one.
@@ -59,6 +65,36 @@ HWND OpenDialog(int resource, DLGPROC procedure, void* data) {
     if (dialog) modeless.push_back(dialog);
     return dialog;
 }
+
+INT_PTR RunDialogOverMap(int resource, DLGPROC procedure, void* data) {
+    if (overMap.dialog) return -1;
+    const HWND dialog = OpenDialog(resource, procedure, data);
+    if (!dialog) return -1;
+    overMap = { dialog, 0 };
+    ShowWindow(dialog, SW_SHOW);
+    MSG message;
+    while (IsWindow(dialog)) {
+        if (GetMessageW(&message, nullptr, 0, 0) <= 0) {  // the program is to end: so do the loops around this one
+            DestroyWindow(dialog);
+            PostQuitMessage(static_cast<int>(message.wParam));
+            break;
+        }
+        if (DialogTookMessage(&message)) continue;
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+    const INT_PTR result = overMap.result;
+    overMap = {};
+    return result;
+}
+
+void EndDialogOverMap(HWND dialog, INT_PTR result) {
+    overMap.result = result;
+    if (MainWindow()) SetActiveWindow(MainWindow());
+    DestroyWindow(dialog);
+}
+
+HWND DialogOverMap() { return overMap.dialog; }
 
 bool DialogTookMessage(MSG* message) {
     for (size_t i = 0; i < modeless.size(); ++i) {

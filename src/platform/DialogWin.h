@@ -21,6 +21,12 @@ INT_PTR RunDialog(int resource, DLGPROC procedure, void* data);
 // DestroyWindow.
 HWND OpenDialog(int resource, DLGPROC procedure, void* data);
 
+// Runs the dialog over the main window, which stays alive so that the map can be moved and clicked; what must not happen
+// meanwhile the main window itself refuses. Such a dialog ends with EndDialogOverMap.
+INT_PTR RunDialogOverMap(int resource, DLGPROC procedure, void* data);
+void EndDialogOverMap(HWND dialog, INT_PTR result);
+HWND DialogOverMap();  // null when there is none
+
 // The message loop asks first: whether the message was one for an open modeless dialog, which now has it.
 bool DialogTookMessage(MSG* message);
 
