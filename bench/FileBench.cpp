@@ -1,7 +1,7 @@
 // Reading and writing a large airport, beside a plain copy of the same bytes in the same run.
 //
 // The counter times_copy says how many such copies the work takes; times_objects compares reading with
-// making as many empty objects, of which each costs two allocations.
+// making as many empty objects, of which each takes two blocks of memory.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -82,7 +82,7 @@ void ReadLargeAirport(benchmark::State& state) {
     for (auto _ : state) {
         model::ClearModel();
         const Clock::time_point start = Clock::now();
-        bgl::ReadAirportBytes(record);
+        bgl::ReadAirport(record);
         const double seconds = SecondsSince(start);
         state.SetIterationTime(seconds);
         best = std::min(best, seconds);

@@ -6,7 +6,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     model::ClearModel();
-    bgl::ReadAirportBytes({ data, size });
+    bgl::ReadAirport({ data, size });
     RequireThatTheOpenAirportSurvives();
     return 0;
 }

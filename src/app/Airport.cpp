@@ -6,8 +6,10 @@
 
 #include "app/AppHost.h"
 #include "app/AppState.h"
+#include "app/AutoBackup.h"
 #include "bgl/OpenAirport.h"
 #include "bgl/SceneryFile.h"
+#include "faults/FaultFinder.h"
 #include "map/MapView.h"
 #include "map/Tools.h"
 #include "model/ObjectList.h"
@@ -49,6 +51,9 @@ bool Refuse(const std::string& message) {
     return false;
 }
 
+// The backup in the root of the current drive goes with the airport; the program's own one stays.
+void DeleteRootBackup() { platform::DeleteOneFile(AutoBackupPath("")); }
+
 void ShowAirport() {
     SetWindowTitle(TitleText());
     ShowCommandStates();
@@ -60,23 +65,37 @@ void ShowAirport() {
 bool OpenAirportFile(const std::string& path, std::string_view ident) {
     bgl::AirportPlace place;
     if (!bgl::FindAirportInFile(path, ident, &place)) return Refuse(Explanation(path, ident));
-    const bool opened = bgl::OpenAirport(place, state.simulatorFolder);
-    state.sourceFile = opened ? path : "";
+    return OpenAirportAt(place) || Refuse("Unable to open file \"" + path + "\"");
+}
+
+bool OpenAirportAt(const bgl::AirportPlace& place) {
+    const bool replaces = model::state.loaded;
+    bgl::OpenWarnings warnings;
+    if (!bgl::OpenAirport(place, state.simulatorFolder, &warnings)) return false;
+    if (replaces) DeleteRootBackup();
+    state.sourceFile = place.path;
     state.savePath.clear();  // the path of the airport before must not be written over
     model::state.modified = false;
     map::ResetTools();
+    faults::ForgetAirport();
     map::layers.navaids = false;
-    if (opened) map::ResetView(model::PositionOf(model::state.airport));
+    map::ResetView(model::PositionOf(model::state.airport));
     ShowAirport();
-    return opened || Refuse("Unable to open file \"" + path + "\"");
+    OnAirportOpened();
+    const std::string warning = bgl::TextOf(warnings);
+    if (!warning.empty()) platform::ShowMessage(warning, platform::Buttons::Ok, platform::Icon::Exclamation);
+    return true;
 }
 
 void CloseAirport() {
     if (!model::state.loaded) return;
+    DeleteRootBackup();
     map::ResetTools();
+    faults::ForgetAirport();
     model::ClearModel();
     state.sourceFile.clear();
     state.savePath.clear();
+    OnAirportDropped();
     ShowAirport();
 }
 

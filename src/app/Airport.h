@@ -4,12 +4,16 @@
 #include <string>
 #include <string_view>
 
+#include "bgl/AirportReader.h"
+
 namespace app {
 
 // Opens the airport with that identifier from the file, or the file's first one when `ident` is empty. False, with the
-// message shown, when there is none; an airport that was open before then stays open, unless the file could not be
-// read after all.
+// message shown, when there is none; an airport that was open before then stays open.
 bool OpenAirportFile(const std::string& path, std::string_view ident);
+
+// The same for an airport that was found in a file. Nothing is said when it cannot be opened.
+bool OpenAirportAt(const bgl::AirportPlace& place);
 
 void CloseAirport();  // without asking
 

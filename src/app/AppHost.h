@@ -2,6 +2,7 @@
 // tests/fakes/FakeShell.cpp the tests. All texts are UTF-8.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -36,14 +37,35 @@ void OpenHelp(std::string_view topic);
 // The dialogs, which run until the user has closed them.
 void ShowOpenAirportDialog();
 void ShowOptionsDialog();
+void ShowPageSetup();
+
+// Asks for a printer and prints what the map shows on one page.
+void PrintAirportMap();
 
 // The File menu lists the recent airports again.
 void ShowRecentAirports();
+
+// The last part of the status bar shows the text.
+void ShowNoticeText(std::string_view text);
+
+// The hourglass, until it is called again with false.
+void ShowWaitCursor(bool shown);
+
+bool IsMainWindowMaximized();  // also while it is minimised from that
+
+// A FILETIME as the user's clock showed it, "2004-10-31 23:59".
+std::string LocalTimeText(uint64_t fileTime);
 
 // Asks the main window to close, as its close box does.
 void CloseMainWindow();
 
 // The simulator's folder as its setup wrote it to the registry, in the order in which to believe it; may be empty.
 std::vector<std::string> RegisteredSimulatorFolders();
+
+// Writes the folder there, in the view of the registry that the simulator itself reads. False when that is refused.
+bool WriteRegisteredSimulatorFolder(const std::string& folder);
+
+// The folder browser. False when the user cancelled it.
+bool AskSimulatorFolder(std::string* folder);
 
 }  // namespace app

@@ -4,6 +4,8 @@
 // greyed command stays dead by each of them. An id without a row has nothing behind it yet and is always greyed.
 #pragma once
 
+#include <vector>
+
 namespace app {
 
 // Runs the command when it is enabled; tells whether it was.
@@ -11,5 +13,7 @@ bool RunCommand(int id);
 
 bool IsCommandEnabled(int id);
 bool IsCommandChecked(int id);
+
+std::vector<int> CommandIds();  // of all rows
 
 }  // namespace app

@@ -2,10 +2,12 @@
 #include <windows.h>
 
 #include <commdlg.h>
+#include <cstdio>
 #include <shellapi.h>
 
 #include "app/AppHost.h"
 #include "app/Commands.h"
+#include "app/MenuStatesWin.h"
 #include "app/ToolbarWin.h"
 #include "platform/PlatformWin.h"
 #include "platform/WideTextWin.h"
@@ -16,7 +18,8 @@ namespace {
 
 constexpr DWORD kPathLimit = 32768;  // the longest path that Windows knows
 
-// Greys and checks every entry of the menu and of the menus in it.
+}  // namespace
+
 void ShowMenuStates(HMENU menu) {
     for (int position = 0; position < GetMenuItemCount(menu); ++position) {
         if (const HMENU inner = GetSubMenu(menu, position)) {
@@ -30,8 +33,6 @@ void ShowMenuStates(HMENU menu) {
         CheckMenuItem(menu, place, MF_BYPOSITION | (IsCommandChecked(id) ? MF_CHECKED : MF_UNCHECKED));
     }
 }
-
-}  // namespace
 
 bool AskSavePath(const SaveQuestion& question, std::string* path) {
     std::wstring file = platform::WideFromUtf8(question.name);
@@ -75,21 +76,30 @@ void OpenDocument(const std::string& path) {
 
 void CloseMainWindow() { SendMessageW(platform::MainWindow(), WM_CLOSE, 0, 0); }
 
-// The simulator is a 32-bit program, so what its setup wrote lies in that view of the registry.
-std::vector<std::string> RegisteredSimulatorFolders() {
-    std::vector<std::string> folders;
-    for (const REGSAM view : { REGSAM{ KEY_WOW64_32KEY }, REGSAM{ KEY_WOW64_64KEY } }) {
-        HKEY key;
-        if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Microsoft Games\\Flight Simulator\\9.0", 0,
-                          KEY_READ | view, &key) != ERROR_SUCCESS)
-            continue;
-        std::wstring value(kPathLimit, L'\0');
-        auto bytes = static_cast<DWORD>(value.size() * sizeof(wchar_t));
-        if (RegGetValueW(key, nullptr, L"EXE Path", RRF_RT_REG_SZ, nullptr, value.data(), &bytes) == ERROR_SUCCESS)
-            folders.push_back(platform::Utf8FromWide(value.c_str()));
-        RegCloseKey(key);
-    }
-    return folders;
+bool IsMainWindowMaximized() {
+    WINDOWPLACEMENT place{};
+    place.length = sizeof place;
+    if (!GetWindowPlacement(platform::MainWindow(), &place)) return false;
+    return place.showCmd == SW_SHOWMAXIMIZED ||
+           (place.showCmd == SW_SHOWMINIMIZED && (place.flags & WPF_RESTORETOMAXIMIZED));
+}
+
+void ShowWaitCursor(bool shown) {
+    static HCURSOR before;
+    if (shown)
+        before = SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+    else
+        SetCursor(before);
+}
+
+std::string LocalTimeText(uint64_t fileTime) {
+    const FILETIME time = { static_cast<DWORD>(fileTime), static_cast<DWORD>(fileTime >> 32) };
+    SYSTEMTIME utc{}, local{};
+    if (!FileTimeToSystemTime(&time, &utc) || !SystemTimeToTzSpecificLocalTime(nullptr, &utc, &local)) return "?";
+    char text[64];
+    snprintf(text, sizeof text, "%04u-%02u-%02u %02u:%02u", unsigned{ local.wYear }, unsigned{ local.wMonth },
+             unsigned{ local.wDay }, unsigned{ local.wHour }, unsigned{ local.wMinute });
+    return text;
 }
 
 }  // namespace app

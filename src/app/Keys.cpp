@@ -9,14 +9,19 @@ namespace {
 
 // Virtual-key codes; letters have the code of their capital.
 enum Key : int {
-    kEnd = 35,
+    kBackspace = 8,
+    kClear = 12,
+    kEnter = 13,
+    kEscape = 27,
     kPageDown = 34,
+    kEnd = 35,
     kHome = 36,
     kLeft = 37,
     kUp = 38,
     kRight = 39,
     kDown = 40,
     kDelete = 46,
+    kNumpad5 = 101,
     kNumpadAdd = 107,
     kNumpadSubtract = 109,
     kPlus = 187,
@@ -33,6 +38,9 @@ struct KeyRow {
 };
 
 constexpr KeyRow kKeys[] = {
+    { kEscape, Held::Either, Held::Either, IDK_CLOSE_POLYGON },
+    { kClear, Held::Either, Held::Either, IDK_SLEW_STOP },
+    { kNumpad5, Held::Either, Held::Either, IDK_SLEW_STOP },
     { kPageDown, Held::Either, Held::No, IDK_ROTATE_DOWN },
     { kPageDown, Held::Either, Held::Yes, IDK_ROTATE_DOWN_FINE },
     { kEnd, Held::Either, Held::No, IDK_ROTATE_UP },
@@ -52,6 +60,8 @@ constexpr KeyRow kKeys[] = {
     { 'N', Held::Either, Held::Either, IDM_NETWORK },
     { 'P', Held::Either, Held::Either, IDK_CYCLE_LABELS },
     { 'S', Held::Either, Held::Either, IDM_STARTS },
+    { 'T', Held::Either, Held::No, IDK_CYCLE_DESIGNATOR },
+    { 'T', Held::Either, Held::Yes, IDK_CYCLE_DESIGNATOR_BACK },
     { 'Y', Held::Yes, Held::Either, IDM_REDO },
     { 'Z', Held::Yes, Held::Either, IDM_UNDO },
     { kNumpadAdd, Held::Either, Held::Either, IDT_ZOOM_IN },
@@ -70,6 +80,14 @@ int CommandForKey(int key, KeyModifiers held) {
         if (row.key == key && Fits(row.ctrl, held.ctrl) && Fits(row.shift, held.shift)) return row.command;
     }
     return 0;
+}
+
+int CommandForOutlineKey(int key) {
+    switch (key) {
+    case kBackspace: return IDK_TAKE_BACK_CORNER;
+    case kEnter: return IDK_FINISH_POLYGON;
+    default: return 0;
+    }
 }
 
 }  // namespace app

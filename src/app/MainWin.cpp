@@ -7,11 +7,11 @@
 #include <string>
 #include <vector>
 
-#include "app/Airport.h"
 #include "app/AppState.h"
 #include "app/MainWindowWin.h"
+#include "app/Program.h"
 #include "app/Settings.h"
-#include "app/SimulatorFolder.h"
+#include "platform/DialogWin.h"
 #include "platform/WideTextWin.h"
 
 namespace app {
@@ -49,6 +49,7 @@ std::wstring ProgramFolder() {
 int RunMessageLoop() {
     MSG message;
     while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+        if (platform::DialogTookMessage(&message)) continue;
         TranslateMessage(&message);
         DispatchMessageW(&message);
     }
@@ -58,18 +59,16 @@ int RunMessageLoop() {
 int Run(HINSTANCE instance, int show) {
     const std::vector<std::string> arguments = ReadArguments();
     const std::wstring folder = ProgramFolder();
-    SetCurrentDirectoryW(folder.c_str());
+    SetCurrentDirectoryW((folder + L"\\").c_str());  // "D:" alone is whatever folder is current on that drive
     state.programFolder = platform::Utf8FromWide(folder);
-    state.simulatorFolder = FindSimulatorFolder();
+    if (!RegisterMainWindow(instance)) return 1;
     INITCOMMONCONTROLSEX controls = { sizeof controls, 0xFF };
     InitCommonControlsEx(&controls);
-    if (!RegisterMainWindow(instance)) return 1;
     const HWND window = CreateMainWindow(instance);
     if (!window) return 1;
     ShowWindow(window, settings.windowMaximized ? SW_SHOWMAXIMIZED : show);
     UpdateWindow(window);
-    if (!arguments.empty() && !arguments[0].empty())
-        OpenAirportFile(arguments[0], arguments.size() > 1 ? arguments[1] : "");
+    BeginSession(arguments.empty() ? "" : arguments[0], arguments.size() > 1 ? arguments[1] : "");
     return RunMessageLoop();
 }
 

@@ -1,7 +1,6 @@
 // MainWindowWin.cpp - the main window: layout, painting, and input passed on to the map and the command table.
 //
-// The map is the part of the client area between the toolbars and the status bar. Pixels of the map count from its
-// upper left corner.
+// The map has the whole client area; the toolbars and the status bar lie over it. What they leave of it takes the mouse.
 #include "app/MainWindowWin.h"
 
 #include <windowsx.h>
@@ -11,14 +10,22 @@
 #include "app/Airport.h"
 #include "app/AppHost.h"
 #include "app/Commands.h"
+#include "app/CursorsWin.h"
 #include "app/Keys.h"
+#include "app/MapMenuWin.h"
+#include "app/MapMouseWin.h"
 #include "app/MapSurfaceWin.h"
-#include "app/SaveAirport.h"
+#include "app/PointerText.h"
+#include "app/Program.h"
+#include "app/SessionWin.h"
 #include "app/StatusBarWin.h"
 #include "app/Toolbar.h"
 #include "app/ToolbarWin.h"
+#include "app/ToolCombosWin.h"
+#include "dialogs/ListWin.h"
+#include "dialogs/OverMap.h"
+#include "map/ApronTool.h"
 #include "map/MapHost.h"
-#include "map/MapView.h"
 #include "map/Tools.h"
 #include "model/ObjectList.h"
 #include "platform/CanvasGdiWin.h"
@@ -45,34 +52,12 @@ int HeightOf(HWND child) {
     return rect.bottom - rect.top;
 }
 
-RECT MapArea() {
-    RECT area{};
-    GetClientRect(window.handle, &area);
-    area.top += HeightOf(window.rebar);
-    area.bottom -= HeightOf(window.statusBar);
-    return area;
-}
-
-platform::Pixel ToMap(POINT client) {
-    const RECT area = MapArea();
-    return { client.x - area.left, client.y - area.top };
-}
-
-platform::Pixel MapPixelOf(LPARAM lParam) { return ToMap({ GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam) }); }
-
-bool IsOnMap(LPARAM lParam) {
-    const RECT area = MapArea();
-    return PtInRect(&area, { GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam) });
-}
-
-map::KeyState KeysOf(WPARAM wParam) { return { (wParam & MK_SHIFT) != 0, (wParam & MK_CONTROL) != 0 }; }
-
 void LayOut() {
-    SendMessageW(window.rebar, WM_SIZE, 0, 0);
+    RECT client{};
+    GetClientRect(window.handle, &client);
+    FitToolbars(client.right);
     SendMessageW(window.statusBar, WM_SIZE, 0, 0);
-    const RECT area = MapArea();
-    if (area.right > area.left && area.bottom > area.top)
-        map::ResizeView(area.right - area.left, area.bottom - area.top);
+    MeasureMap(client, MapArea());
     platform::RequestRepaint();
 }
 
@@ -80,21 +65,29 @@ bool OnCreate(HWND handle) {
     window.handle = handle;
     window.dpi = platform::DpiOf(handle);
     platform::UseMainWindow(handle);
+    LoadProgramFiles();
     window.rebar = CreateToolbars(handle, window.dpi);
     window.statusBar = CreateStatusBar(handle, window.dpi);
     if (!window.rebar || !window.statusBar) return false;
     SetWindowTitle(TitleText());
+    ShowRecentAirports();
     ShowCommandStates();
     LayOut();
+    OpenSession(handle);
     return true;
 }
 
 void OnPaint() {
     PAINTSTRUCT paint;
     const HDC dc = BeginPaint(window.handle, &paint);
-    PaintMapArea(dc, MapArea(), window.dpi / 96.0);
+    RECT client{};
+    GetClientRect(window.handle, &client);
+    PaintMapArea(dc, client, MapArea(), window.dpi / 96.0);
     EndPaint(window.handle, &paint);
+    ShowPointerText();              // something else may lie under the pointer
     ShowStatus(map::tools.cursor);  // the map may have moved under the pointer
+    ShowRotation();
+    dialogs::RefreshLists();
 }
 
 void OnDpiChanged(int dpi, const RECT& proposed) {
@@ -107,75 +100,16 @@ void OnDpiChanged(int dpi, const RECT& proposed) {
     LayOut();
 }
 
-LPCWSTR CursorOfMap() {
-    if (map::tools.panning) return IDC_HAND;
-    return map::tools.tool == map::Tool::Pointer ? IDC_ARROW : IDC_CROSS;
-}
-
-void ShowMapCursor() { SetCursor(LoadCursorW(nullptr, CursorOfMap())); }
-
-bool OnSetCursor() {
-    POINT point;
-    GetCursorPos(&point);
-    ScreenToClient(window.handle, &point);
-    const RECT area = MapArea();
-    if (!PtInRect(&area, point) && !map::tools.panning) return false;
-    ShowMapCursor();
-    return true;
-}
-
-// While a button is held the map gets the mouse wherever it is.
-void ReleaseWhenIdle() {
-    if (!map::tools.pressed && !map::tools.panning && GetCapture() == window.handle) ReleaseCapture();
-}
-
-void AfterMouse() {
-    ShowCommandStates();
-    ShowStatus(map::tools.cursor);
-}
-
-void OnLeftDown(WPARAM wParam, LPARAM lParam) {
-    if (!model::state.loaded || !IsOnMap(lParam)) return;
-    SetCapture(window.handle);
-    map::OnButtonDown(MapPixelOf(lParam), KeysOf(wParam));
-    AfterMouse();
-    UpdateWindow(window.handle);  // the next press must find what this one made
-}
-
-void OnLeftUp(WPARAM wParam, LPARAM lParam) {
-    map::OnButtonUp(MapPixelOf(lParam), KeysOf(wParam));
-    ReleaseWhenIdle();
-    AfterMouse();
-}
-
-void OnMiddleDown(LPARAM lParam) {
-    if (!IsOnMap(lParam)) return;
-    SetCapture(window.handle);
-    map::OnMiddleDown(MapPixelOf(lParam));
-    ShowMapCursor();
-}
-
-void OnMiddleUp() {
-    map::OnMiddleUp();
-    ReleaseWhenIdle();
-    ShowMapCursor();
-}
-
-void OnMove(WPARAM wParam, LPARAM lParam) {
-    map::OnMouseMove(MapPixelOf(lParam), KeysOf(wParam));
-    ShowStatus(map::tools.cursor);
-}
-
-// Something else took the mouse; the release of the button will not be seen here.
-void OnCaptureLost() {
-    if (map::tools.panning) map::OnMiddleUp();
-    if (map::tools.pressed) map::OnButtonUp(map::tools.cursor, {});
-    AfterMouse();
-}
-
 void OnKey(WPARAM key) {
     const KeyModifiers held = { GetKeyState(VK_CONTROL) < 0, GetKeyState(VK_SHIFT) < 0 };
-    if (const int command = CommandForKey(static_cast<int>(key), held)) RunCommand(command);
+    const int drawing = map::HasOutline() ? CommandForOutlineKey(static_cast<int>(key)) : 0;
+    if (const int command = drawing ? drawing : CommandForKey(static_cast<int>(key), held)) RunCommand(command);
+}
+
+// From a menu, a toolbar, or a box in a toolbar.
+void OnCommand(WPARAM wParam, LPARAM lParam) {
+    if (lParam != 0 && OnComboNotice(LOWORD(wParam), HIWORD(wParam))) return;
+    RunCommand(LOWORD(wParam));
 }
 
 void AnswerTooltip(NMTTDISPINFOW* question) {
@@ -192,40 +126,34 @@ LRESULT OnNotify(NMHDR* notice) {
     return 0;
 }
 
-// A dialog in front of the window must be answered first. A drag ends here, so that it counts as a change.
-bool MayClose() {
-    if (!IsWindowEnabled(window.handle)) return false;
-    if (GetCapture() == window.handle) ReleaseCapture();
-    return SavePrompt();
+// By the right button at the pointer, by the keyboard in the middle of the map.
+bool OnContextMenu(HWND clicked, LPARAM lParam) {
+    if (clicked != window.handle || model::state.busy || dialogs::overMap.open) return false;
+    const RECT area = MapArea();
+    POINT client = { (area.left + area.right) / 2, (area.top + area.bottom) / 2 };
+    if (lParam != -1) {
+        client = { GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam) };
+        ScreenToClient(window.handle, &client);
+    }
+    if (!PtInRect(&area, client)) return false;
+    UpdateWindow(window.handle);  // the menu is about what can be seen
+    POINT screen = client;
+    ClientToScreen(window.handle, &screen);
+    ShowMapMenu(window.handle, screen, { client.x, client.y });
+    return true;
 }
 
 void OnDestroy() {
     platform::UseMainWindow(nullptr);
     FreeMapSurface();
+    FreeCursors();
     platform::FreeGdiFonts();
     model::ClearModel();
     PostQuitMessage(0);
 }
 
-bool HandleMouse(UINT message, WPARAM wParam, LPARAM lParam) {
-    switch (message) {
-    case WM_MOUSEMOVE: OnMove(wParam, lParam); return true;
-    case WM_LBUTTONDOWN:
-    case WM_LBUTTONDBLCLK: OnLeftDown(wParam, lParam); return true;
-    case WM_LBUTTONUP: OnLeftUp(wParam, lParam); return true;
-    case WM_MBUTTONDOWN:
-    case WM_MBUTTONDBLCLK: OnMiddleDown(lParam); return true;
-    case WM_MBUTTONUP: OnMiddleUp(); return true;
-    case WM_MOUSEWHEEL:
-        map::OnWheel(GET_WHEEL_DELTA_WPARAM(wParam), KeysOf(wParam).ctrl, KeysOf(wParam).shift);
-        return true;
-    case WM_CAPTURECHANGED: OnCaptureLost(); return true;
-    default: return false;
-    }
-}
-
 LRESULT CALLBACK MainWindowProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (handle == window.handle && HandleMouse(message, wParam, lParam)) return 0;
+    if (handle == window.handle && OnMapMouse(message, wParam, lParam)) return 0;
     switch (message) {
     case WM_CREATE: return OnCreate(handle) ? 0 : -1;
     case WM_SIZE:
@@ -234,21 +162,30 @@ LRESULT CALLBACK MainWindowProc(HWND handle, UINT message, WPARAM wParam, LPARAM
     case WM_ERASEBKGND: return 1;  // the paint covers everything
     case WM_PAINT: OnPaint(); return 0;
     case WM_KEYDOWN: OnKey(wParam); return 0;
-    case WM_COMMAND: RunCommand(LOWORD(wParam)); return 0;
+    case WM_COMMAND: OnCommand(wParam, lParam); return 0;
+    case WM_USER: CommitTypedDesignator(); return 0;
     case WM_NOTIFY: return OnNotify(reinterpret_cast<NMHDR*>(lParam));
     case WM_INITMENUPOPUP: ShowCommandStates(); return 0;
     case WM_SETCURSOR:
-        if (LOWORD(lParam) == HTCLIENT && reinterpret_cast<HWND>(wParam) == handle && OnSetCursor()) return TRUE;
+        if (LOWORD(lParam) == HTCLIENT && reinterpret_cast<HWND>(wParam) == handle && OnMapCursor()) return TRUE;
         break;
     case WM_SYSCOLORCHANGE:
         SendMessageW(window.rebar, message, wParam, lParam);
         SendMessageW(window.statusBar, message, wParam, lParam);
         return 0;
     case kDpiChanged: OnDpiChanged(LOWORD(wParam), *reinterpret_cast<const RECT*>(lParam)); return 0;
-    case WM_QUERYENDSESSION: return MayClose();
-    case WM_CLOSE:
-        if (MayClose()) DestroyWindow(handle);
+    case WM_CONTEXTMENU:
+        if (OnContextMenu(reinterpret_cast<HWND>(wParam), lParam)) return 0;
+        break;
+    case WM_TIMER:
+        if (wParam == kComboTimer) OnComboTimer();
+        if (wParam == map::kDragTimer) map::OnDragTimer();
+        OnTimer(wParam);
         return 0;
+    case WM_DROPFILES: OnDroppedFiles(handle, reinterpret_cast<HDROP>(wParam)); return 0;
+    case WM_QUERYENDSESSION: return OnQueryEndSession(handle, lParam);
+    case WM_ENDSESSION: OnEndSession(wParam != 0, lParam); return 0;
+    case WM_CLOSE: OnClose(handle); return 0;
     case WM_DESTROY: OnDestroy(); return 0;
     default: break;
     }
@@ -256,6 +193,14 @@ LRESULT CALLBACK MainWindowProc(HWND handle, UINT message, WPARAM wParam, LPARAM
 }
 
 }  // namespace
+
+RECT MapArea() {
+    RECT area{};
+    GetClientRect(window.handle, &area);
+    area.top += HeightOf(window.rebar);
+    area.bottom -= HeightOf(window.statusBar);
+    return area;
+}
 
 bool RegisterMainWindow(HINSTANCE instance) {
     WNDCLASSEXW shape{};
@@ -283,9 +228,6 @@ HWND CreateMainWindow(HINSTANCE instance) {
 
 namespace map {
 
-void RotationChanged() { app::ShowStatus(tools.cursor); }
-
-// Nothing to place while there is no link to the simulator.
-void PlaceSimAircraft(model::LatLon, double) {}
+void RotationChanged() { app::ShowRotation(); }
 
 }  // namespace map

@@ -8,4 +8,7 @@ namespace app {
 bool RegisterMainWindow(HINSTANCE instance);
 HWND CreateMainWindow(HINSTANCE instance);  // null when that fails
 
+// Where the map lies in the window, in client pixels.
+RECT MapArea();
+
 }  // namespace app

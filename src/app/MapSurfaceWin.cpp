@@ -7,6 +7,7 @@
 #include "map/MapView.h"
 #include "map/PaintMap.h"
 #include "platform/CanvasGdiWin.h"
+#include "platform/PlatformWin.h"
 
 namespace app {
 
@@ -17,6 +18,7 @@ struct Surface {
     HBITMAP bitmap = nullptr;
     HGDIOBJ firstBitmap = nullptr;
     int width = 0, height = 0;
+    bool drawn = false;  // holds the map as it was when last asked for
 };
 Surface surface;
 
@@ -40,13 +42,11 @@ void DrawOffScreen(double textScale) {
     platform::GdiCanvas gdi = platform::OpenGdiCanvas(surface.dc, textScale);
     map::PaintMap(&gdi.canvas);
     platform::CloseGdiCanvas(&gdi);
+    surface.drawn = true;
 }
 
-// On the window, but in pixels of the map and nowhere outside it.
-void DrawFeedback(HDC window, const RECT& area, double textScale) {
+void DrawFeedback(HDC window, double textScale) {
     const int state = SaveDC(window);
-    IntersectClipRect(window, area.left, area.top, area.right, area.bottom);
-    SetViewportOrgEx(window, area.left, area.top, nullptr);
     platform::GdiCanvas gdi = platform::OpenGdiCanvas(window, textScale);
     map::PaintFeedback(&gdi.canvas);
     platform::CloseGdiCanvas(&gdi);
@@ -55,13 +55,22 @@ void DrawFeedback(HDC window, const RECT& area, double textScale) {
 
 }  // namespace
 
-void PaintMapArea(HDC window, const RECT& area, double textScale) {
-    const int width = area.right - area.left, height = area.bottom - area.top;
-    if (width <= 0 || height <= 0 || !PrepareSurface(window, width, height)) return;
-    map::ResizeView(width, height);
-    DrawOffScreen(textScale);
-    BitBlt(window, area.left, area.top, width, height, surface.dc, 0, 0, SRCCOPY);
-    DrawFeedback(window, area, textScale);
+void MeasureMap(const RECT& client, const RECT& visible) {
+    if (client.right <= 0 || client.bottom <= 0) return;
+    map::ResizeView(client.right, client.bottom);
+    map::SetVisible({ visible.left, visible.top, visible.right, visible.bottom });
+}
+
+void PaintMapArea(HDC window, const RECT& client, const RECT& visible, double textScale) {
+    if (client.right <= 0 || client.bottom <= 0 || !PrepareSurface(window, client.right, client.bottom)) return;
+    MeasureMap(client, visible);
+    if (platform::TakeRepaintRequest() || !surface.drawn) DrawOffScreen(textScale);
+    BitBlt(window, 0, 0, client.right, client.bottom, surface.dc, 0, 0, SRCCOPY);
+    DrawFeedback(window, textScale);
+}
+
+void RepaintFeedback() {
+    if (platform::MainWindow()) InvalidateRect(platform::MainWindow(), nullptr, FALSE);
 }
 
 void FreeMapSurface() {

@@ -3,7 +3,9 @@
 
 #include <algorithm>
 #include <unordered_map>
+#include <utility>
 
+#include "app/Notices.h"
 #include "bgl/AirportIndex.h"
 #include "bgl/LibraryScan.h"
 #include "platform/Platform.h"
@@ -15,13 +17,15 @@ AirportSource airportSource;
 
 namespace {
 
-constexpr size_t kIdentLength = 4;
+constexpr const char* kCachesNotKept = "Tarvo may not write in its folder: the list of airports is made anew each time";
 
 struct Candidate {
     const bgl::AirportIndexEntry* entry;
     const bgl::LibraryFile* file;
-    std::string ident;             // upper case
-    std::string_view leadingName;  // of the highest airport with the identifier
+    std::string ident;  // upper case
+    // Of the highest airport with the identifier:
+    std::string_view leadingName;
+    uint32_t highestLayer = 0;
 };
 
 const char* TypeText(bgl::FileKind kind) {
@@ -62,14 +66,13 @@ std::vector<AirportRow> RowsOf(const std::vector<uint32_t>& airports) {
     std::vector<Candidate> candidates;
     for (const uint32_t airport : airports) {
         const bgl::AirportIndexEntry& entry = bgl::library.airports[airport];
-        candidates.push_back({ &entry, &bgl::library.files[entry.file], platform::UpperCased(entry.ident), {} });
+        candidates.push_back({ &entry, &bgl::library.files[entry.file], platform::UpperCased(entry.ident), {}, 0 });
     }
-    std::unordered_map<std::string, uint32_t> highest;  // layer by identifier
     const Leaders leaders = LeadersOf(candidates);
     for (Candidate& candidate : candidates) {
         const Candidate* leader = leaders.at(candidate.ident);
         candidate.leadingName = leader->entry->name;
-        highest[candidate.ident] = leader->file->layer;
+        candidate.highestLayer = leader->file->layer;
     }
     std::stable_sort(candidates.begin(), candidates.end(), IsBefore);
     std::vector<AirportRow> rows;
@@ -77,15 +80,9 @@ std::vector<AirportRow> RowsOf(const std::vector<uint32_t>& airports) {
     for (const Candidate& candidate : candidates) {
         rows.push_back({ platform::Utf8FromWindows1252(candidate.entry->ident), TypeText(candidate.file->kind),
                          std::to_string(candidate.file->layer), platform::Utf8FromWindows1252(candidate.entry->name),
-                         candidate.file->path, candidate.file->layer < highest.at(candidate.ident) });
+                         candidate.file->path, candidate.file->layer < candidate.highestLayer });
     }
     return rows;
-}
-
-std::string_view Trimmed(std::string_view text) {
-    while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
-    while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
-    return text;
 }
 
 }  // namespace
@@ -93,6 +90,7 @@ std::string_view Trimmed(std::string_view text) {
 bool CollectAirports(const std::string& simulatorFolder, const std::string& programFolder) {
     if (!airportSource.fromFile) {
         bgl::CollectAllAirports(simulatorFolder, programFolder);
+        if (!bgl::library.report.cachesKept) SetNotice(Notice::Remark, kCachesNotKept);
         return true;
     }
     bgl::ReleaseLibrary();
@@ -107,8 +105,24 @@ std::vector<AirportRow> RowsOfPlace(uint32_t place) {
     return RowsOf(airports);
 }
 
+bool ListPlace(uint32_t place, bool byUser, std::string_view identText, std::vector<AirportRow>* rows) {
+    if (!byUser && !identText.empty()) return false;
+    std::vector<AirportRow> own = RowsOfPlace(place);
+    if (own.empty()) return false;
+    *rows = std::move(own);
+    return true;
+}
+
+size_t LevelsToOpen() {
+    const std::vector<bgl::Place>& places = bgl::library.places;
+    if (!airportSource.fromFile || places.empty()) return 0;
+    size_t levels = 0;
+    for (uint32_t place = 0; places[place].children.size() == 1; ++levels) place = places[place].children[0];
+    return levels;
+}
+
 std::vector<AirportRow> SearchRows(std::string_view identText) {
-    const std::string_view prefix = Trimmed(identText).substr(0, kIdentLength);
+    const std::string_view prefix = bgl::Trimmed(identText).substr(0, bgl::kIdentLength);
     std::vector<uint32_t> found;
     if (prefix.empty()) return {};
     for (const uint32_t airport : bgl::AirportsInTreeOrder()) {
@@ -121,8 +135,9 @@ std::vector<AirportRow> SearchRows(std::string_view identText) {
 
 const AirportRow* ChooseRow(std::vector<AirportRow>* rows, int selected, std::string_view identText) {
     if (selected >= 0 && static_cast<size_t>(selected) < rows->size()) return &(*rows)[static_cast<size_t>(selected)];
-    if (!Trimmed(identText).empty()) *rows = SearchRows(identText);
-    if (!Trimmed(identText).empty() && !rows->empty()) return &rows->front();
+    const bool typed = !bgl::Trimmed(identText).empty();
+    if (typed) *rows = SearchRows(identText);
+    if (typed && !rows->empty()) return &rows->front();
     platform::ShowMessage("You must select an AIRPORT", platform::Buttons::Ok, platform::Icon::Exclamation);
     return nullptr;
 }

@@ -37,6 +37,14 @@ std::string PlaceText(uint32_t place);
 // The airports that hang on the item itself, sorted; empty for an item that only holds others.
 std::vector<AirportRow> RowsOfPlace(uint32_t place);
 
+// The rows become those of the item, which the tree has selected. False, with the rows as they were, for an item that
+// only holds others, and for one that the tree has selected by itself, on getting the focus, while an identifier stands
+// in the field.
+bool ListPlace(uint32_t place, bool byUser, std::string_view identText, std::vector<AirportRow>* rows);
+
+// The levels of a new tree that are opened at once: those of the single branch that most single files have.
+size_t LevelsToOpen();
+
 // The airports whose identifier begins with the text, without regard to case: the first 200 on a walk through
 // the whole tree, sorted. No text finds none. Identifiers have four characters, so more text counts no further.
 std::vector<AirportRow> SearchRows(std::string_view identText);

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "platform/Files.h"
+#include "platform/IniText.h"
 #include "platform/Platform.h"
 #include "platform/Text.h"
 
@@ -19,8 +20,7 @@ namespace {
 
 constexpr const char* kFileName = "ParkingSpecs.txt";
 constexpr uint64_t kFileLimit = 16 * 1024 * 1024;
-constexpr size_t kLineLimit = 1000;
-constexpr size_t kCodeLimit = 4;
+constexpr size_t kLineLimit = 1000, kCodeLimit = 4;  // characters
 constexpr const char* kNameMissing = "The parking spec name (e.g. \"Air India\") is missing.";
 constexpr const char* kBadColour =
     "Bad syntax for the RGB colour field.\nIt should look something like \"100,255,255\"\n"
@@ -88,7 +88,7 @@ void ReadLine(std::string_view line) {
     spec.name = fields[0];
     if (!ReadColour(fields, &spec)) Complain(text, kBadColour);
     for (size_t i = 4; i < fields.size() && !fields[i].empty(); ++i) {
-        if (fields[i].size() > kCodeLimit) {
+        if (platform::CharacterCount(fields[i]) > kCodeLimit) {
             Complain(text, "The parking code \"" + std::string(fields[i]) + "\" is more than 4 characters long\n");
             break;
         }
@@ -97,24 +97,16 @@ void ReadLine(std::string_view line) {
     parkingSpecs.push_back(std::move(spec));
 }
 
-// The file may be UTF-8 with its mark; without one it is Windows-1252, as the simulator's own texts are.
-std::string DecodedText(const std::vector<uint8_t>& bytes) {
-    constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
-    const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
-    if (text.starts_with(kUtf8Mark)) return std::string(text.substr(kUtf8Mark.size()));
-    return platform::Utf8FromWindows1252(text);
-}
-
 }  // namespace
 
 bool LoadParkingSpecs(const std::string& programFolder) {
     parkingSpecs.clear();
     std::vector<uint8_t> bytes;
     if (!platform::ReadWholeFile(programFolder + "\\" + kFileName, kFileLimit, &bytes)) return false;
-    const std::string text = DecodedText(bytes);
+    const std::string text = platform::DecodeIniText(bytes);  // people write it in the editors they write INI files in
     for (size_t start = 0; start < text.size();) {
         const size_t end = std::min(text.find_first_of("\r\n", start), text.size());
-        ReadLine(std::string_view(text).substr(start, std::min(end - start, kLineLimit)));
+        ReadLine(platform::FirstCharacters(std::string_view(text).substr(start, end - start), kLineLimit));
         start = end + 1;
     }
     return true;

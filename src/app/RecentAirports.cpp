@@ -4,16 +4,28 @@
 #include <algorithm>
 #include <vector>
 
+#include "app/Airport.h"
+#include "app/AppHost.h"
 #include "app/Settings.h"
+#include "bgl/AirportIndex.h"
+#include "bgl/SceneryFile.h"
+#include "model/ObjectList.h"
+#include "platform/Files.h"
 #include "platform/Text.h"
 
 namespace app {
 
 namespace {
 
-constexpr size_t kIdentLength = 4;
+using bgl::kIdentLength;
 
 std::string_view IdentOf(std::string_view entry) { return entry.substr(0, entry.find(',')); }
+
+// Not so for a file that has gone or is locked: nobody knows what it holds.
+bool HasLostAirport(const RecentAirport& airport) {
+    bgl::AirportPlace place;
+    return platform::OpenForReading(airport.path) && !bgl::FindAirportInFile(airport.path, airport.ident, &place);
+}
 
 }  // namespace
 
@@ -37,7 +49,22 @@ bool GetRecentAirport(size_t index, RecentAirport* airport) {
 }
 
 std::string RecentMenuText(size_t index) {
-    return '&' + std::to_string(index + 1) + "  " + std::string(IdentOf(settings.previousFiles[index]));
+    const std::string_view ident = IdentOf(settings.previousFiles[index]).substr(0, kIdentLength);
+    return '&' + std::to_string(index + 1) + "  " + std::string(ident);
+}
+
+bool OpenAndRemember(const std::string& path, std::string_view ident) {
+    if (!OpenAirportFile(path, ident)) return false;
+    NoteOpenedAirport(model::state.icao, path);
+    ShowRecentAirports();
+    return true;
+}
+
+bool OpenRecentAirport(size_t index) {
+    RecentAirport airport;
+    if (!GetRecentAirport(index, &airport)) return false;
+    if (HasLostAirport(airport)) CloseAirport();
+    return OpenAndRemember(airport.path, airport.ident);
 }
 
 }  // namespace app

@@ -24,4 +24,12 @@ bool GetRecentAirport(size_t index, RecentAirport* airport);
 // "&1  KSEA" for the entry counted from 0.
 std::string RecentMenuText(size_t index);
 
+// Opens the airport of that identifier from the file, the first one when `ident` is empty, and puts it on top of the
+// list and of the menu. False, with the message shown, when it could not be opened.
+bool OpenAndRemember(const std::string& path, std::string_view ident);
+
+// The same for an entry of the list. When its file does not hold the airport any more, no airport is open afterwards;
+// when the file cannot be read, the open one stays.
+bool OpenRecentAirport(size_t index);
+
 }  // namespace app

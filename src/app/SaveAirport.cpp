@@ -6,6 +6,9 @@
 #include "app/Airport.h"
 #include "app/AppHost.h"
 #include "app/AppState.h"
+#include "app/AutoBackup.h"
+#include "app/Settings.h"
+#include "bgl/AirportIndex.h"
 #include "bgl/AirportWriter.h"
 #include "bgl/SceneryFile.h"
 #include "model/ObjectList.h"
@@ -25,7 +28,10 @@ std::string FirstSaveFolder() {
 bool WriteToSavePath() {
     if (bgl::WriteAirportFile(state.savePath) != 1) return false;
     model::state.modified = false;
+    OnAirportSaved();
     state.sourceFile = state.savePath;
+    settings.lastSavedFile = state.savePath;
+    bgl::NoteSavedFile(state.savePath);  // the index finds the airport there from now on
     SetWindowTitle(TitleText());
     ShowCommandStates();
     return true;
@@ -51,7 +57,13 @@ bool SaveAirportAs() {
             platform::Buttons::Ok, platform::Icon::Exclamation);
         return false;
     }
-    state.savePath = path;
+    if (IsAutoBackupName(path)) {  // here, beside another copy of the program, or in the root of a drive
+        platform::ShowMessage(
+            "ERROR: Tarvo deletes files of the autobackup's name.\nPlease save the airport under another name.",
+            platform::Buttons::Ok, platform::Icon::Exclamation);
+        return false;
+    }
+    state.savePath = path;  // also when the write fails: then the next Save tries it again
     return WriteToSavePath();
 }
 

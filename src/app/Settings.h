@@ -28,6 +28,8 @@ struct Settings {
     std::string overrideFsFolder;            // UTF-8 path; read only, set by hand
     std::vector<std::string> previousFiles;  // "IDENT,path", newest first, at most kPreviousFiles
     std::vector<std::string> mostUsedSpecs;  // names, the most used first, at most kMostUsedSpecs
+
+    bool operator==(const Settings&) const = default;
 };
 
 extern Settings settings;

@@ -8,8 +8,8 @@ namespace app {
 // Reads every setting; what is missing or makes no sense has its default. A missing file is no error.
 void LoadSettings(const std::string& programFolder);
 
-// Writes every setting back but the simulator folder override, which only the user sets. False when the
-// file cannot be written.
+// Writes every setting back but the simulator folder override, which only the user sets; what else the file holds
+// stays. False, with the old file untouched, when it cannot be written.
 bool SaveSettings(const std::string& programFolder);
 
 }  // namespace app

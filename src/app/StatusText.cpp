@@ -20,7 +20,7 @@ std::string Formatted(const char* format, double value) {
     return text;
 }
 
-model::LatLon PositionAt(platform::Pixel cursor) {
+model::LatLon CursorPosition(platform::Pixel cursor) {
     return map::ScreenToWorld({ static_cast<double>(cursor.x), static_cast<double>(cursor.y) });
 }
 
@@ -30,13 +30,19 @@ double ShownDegrees(double radians) {
     return degrees < 359.95 ? degrees : 0;
 }
 
-bool HasOrigin() { return model::state.loaded && map::tools.hasClick; }
+// From the origin of the read-outs to the pointer. False when there is none.
+bool FindWay(platform::Pixel cursor, model::Polar* way) {
+    model::LatLon origin;
+    if (!model::state.loaded || !map::ReadOutOrigin(&origin)) return false;
+    *way = model::RangeAndBearing(origin, CursorPosition(cursor));
+    return true;
+}
 
 }  // namespace
 
 std::string PositionText(platform::Pixel cursor) {
     if (!model::state.loaded) return {};
-    model::LatLon position = PositionAt(cursor);
+    model::LatLon position = CursorPosition(cursor);
     if (!(std::fabs(position.lat) <= model::kPi / 2 && std::fabs(position.lon) <= 2 * model::kTwoPi)) return {};
     position.lon = std::remainder(position.lon, model::kTwoPi);
     const model::CoordinateTexts texts = model::FormatLatLon(position);
@@ -44,16 +50,17 @@ std::string PositionText(platform::Pixel cursor) {
 }
 
 std::string DistanceText(platform::Pixel cursor) {
-    if (!HasOrigin()) return {};
-    const double metres = model::RangeAndBearing(map::tools.lastClick, PositionAt(cursor)).range;
+    model::Polar way;
+    if (!FindWay(cursor, &way)) return {};
+    const double metres = way.range;
     return settings.metric ? Formatted("Distance: %2.1lf m", metres)
                            : Formatted("Distance: %2.1lf ft", metres * model::kFeetPerMetre);
 }
 
 std::string AngleText(platform::Pixel cursor) {
-    if (!HasOrigin()) return {};
-    const double bearing = model::RangeAndBearing(map::tools.lastClick, PositionAt(cursor)).bearing;
-    return Formatted("Angle: %3.1lf*", ShownDegrees(bearing));
+    model::Polar way;
+    if (!FindWay(cursor, &way)) return {};
+    return Formatted("Angle: %3.1lf*", ShownDegrees(way.bearing));
 }
 
 std::string RotationText() { return Formatted("%5.1lf*", ShownDegrees(map::view.rotation)); }

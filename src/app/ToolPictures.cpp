@@ -1,6 +1,6 @@
 // ToolPictures.cpp - the toolbar's pictures, drawn in units of a 21 x 20 grid so that they are sharp at any resolution.
 //
-// Nodes and links have the colours that they have on the map by day.
+// What a tool makes has the colours that it has on the map by day.
 #include <cmath>
 #include <initializer_list>
 #include <vector>
@@ -28,6 +28,14 @@ constexpr Colour kNormalLink = Rgb(140, 140, 255);
 constexpr Colour kRunwayLink = Rgb(40, 40, 40);
 constexpr Colour kApronLink = Rgb(0, 190, 0);
 constexpr Colour kClosedCross = Rgb(250, 220, 0);
+constexpr Colour kParkingFill = Rgb(160, 255, 160);
+constexpr Colour kParkingOutline = Rgb(40, 170, 40);
+constexpr Colour kApronSurface = Rgb(195, 195, 180);
+constexpr Colour kLightStrip = Rgb(0, 0, 120);
+constexpr Colour kBlueLamp = Rgb(60, 90, 255);
+constexpr Colour kMarker = Rgb(200, 0, 160);
+constexpr Colour kGuideline = Rgb(220, 80, 190);
+constexpr Colour kPlus = Rgb(0, 140, 0);
 
 struct Spot {
     double x, y;
@@ -160,6 +168,51 @@ void DrawClosedLink(const Sheet& sheet) {
     }
 }
 
+// A spot as the map shows it: a circle with an arrowhead.
+void DrawParking(const Sheet& sheet) {
+    Disc(sheet, { 10.5, 10 }, 7.6, kParkingFill, 1.4, kParkingOutline);
+    Area(sheet, { { 10.5, 4.6 }, { 14.6, 14.4 }, { 10.5, 12.2 }, { 6.4, 14.4 } }, kParkingFill, 1.4, kParkingOutline);
+}
+
+constexpr double kCorner = 1.7;  // the handle of a corner
+
+void DrawCorner(const Sheet& sheet, Spot at, Colour colour) {
+    Box(sheet, { at.x - kCorner, at.y - kCorner }, { at.x + kCorner, at.y + kCorner }, colour, 0.7);
+}
+
+void DrawApron(const Sheet& sheet) {
+    constexpr Spot kCorners[] = { { 4, 6 }, { 13, 3.5 }, { 17.5, 9 }, { 14.5, 16.5 }, { 4.5, 15 } };
+    Area(sheet, { kCorners[0], kCorners[1], kCorners[2], kCorners[3], kCorners[4] }, kApronSurface, 1.2);
+    for (Spot corner : kCorners) DrawCorner(sheet, corner, kPaper);
+}
+
+void DrawApronPoint(const Sheet& sheet) {
+    Area(sheet, { { 3, 9.5 }, { 15, 9.5 }, { 17, 17 }, { 3.5, 17 } }, kApronSurface, 1.2);
+    DrawCorner(sheet, { 9, 9.5 }, kArrow);
+    Line(sheet, { 15.6, 1.8 }, { 15.6, 7.2 }, 1.6, kPlus);
+    Line(sheet, { 12.9, 4.5 }, { 18.3, 4.5 }, 1.6, kPlus);
+}
+
+void DrawEdgeLights(const Sheet& sheet) {
+    Line(sheet, { 3.5, 15.5 }, { 17.5, 4.5 }, 1.2, kLightStrip);
+    for (Spot lamp : { Spot{ 3.7, 15.4 }, Spot{ 8.3, 11.8 }, Spot{ 12.9, 8.2 }, Spot{ 17.5, 4.5 } })
+        Disc(sheet, lamp, 2, kBlueLamp, 0.7, kLightStrip);
+}
+
+void DrawCrossMark(const Sheet& sheet, Spot at, double reach) {
+    UsePen(sheet, 1.4, kMarker);
+    platform::SetBrush(sheet.canvas, kNoBrush);
+    platform::DrawCircle(sheet.canvas, At(sheet, at), static_cast<int>(std::lround(reach * 0.66 * sheet.unit)));
+    Line(sheet, { at.x - reach, at.y }, { at.x + reach, at.y }, 1.2, kMarker);
+    Line(sheet, { at.x, at.y - reach }, { at.x, at.y + reach }, 1.2, kMarker);
+}
+
+void DrawGuideline(const Sheet& sheet) {
+    Line(sheet, { 5.5, 14.2 }, { 15.5, 5.8 }, 1.8, kGuideline);
+    DrawCrossMark(sheet, { 4.7, 14.8 }, 3.4);
+    DrawCrossMark(sheet, { 16.3, 5.2 }, 3.4);
+}
+
 }  // namespace
 
 void DrawToolPicture(platform::Canvas* canvas, ToolPicture picture, int unit) {
@@ -181,6 +234,12 @@ void DrawToolPicture(platform::Canvas* canvas, ToolPicture picture, int unit) {
     case ToolPicture::RunwayLink: return DrawLink(sheet, kRunwayLink);
     case ToolPicture::ApronLink: return DrawLink(sheet, kApronLink);
     case ToolPicture::ClosedLink: return DrawClosedLink(sheet);
+    case ToolPicture::Parking: return DrawParking(sheet);
+    case ToolPicture::Apron: return DrawApron(sheet);
+    case ToolPicture::ApronPoint: return DrawApronPoint(sheet);
+    case ToolPicture::EdgeLights: return DrawEdgeLights(sheet);
+    case ToolPicture::Marker: return DrawCrossMark(sheet, { 10.5, 10 }, 7.5);
+    case ToolPicture::Guideline: return DrawGuideline(sheet);
     }
 }
 

@@ -1,5 +1,7 @@
-// Toolbar.cpp - the first toolbar's buttons, in their order.
+// Toolbar.cpp - what stands in the toolbars, in its order.
 #include "app/Toolbar.h"
+
+#include <algorithm>
 
 #include "Resource.h"
 
@@ -9,7 +11,11 @@ namespace {
 
 constexpr ToolButton kSeparator = { 0 };
 
-constexpr ToolButton kButtons[] = {
+constexpr ToolButton Box(int id, int width, const char* tooltip = "") {
+    return { 0, ToolPicture::Open, false, tooltip, id, width };
+}
+
+constexpr ToolButton kFirst[] = {
     { IDT_OPEN, ToolPicture::Open, false, "Open an airport from the scenery files" },
     { IDT_SAVE, ToolPicture::Save, false, "Save an open airport back to the scenery files" },
     kSeparator,
@@ -34,18 +40,75 @@ constexpr ToolButton kButtons[] = {
     { IDT_RUNWAY_LINK, ToolPicture::RunwayLink, true, "Create runway taxi link by connecting nodes with the mouse" },
     { IDT_APRON_LINK, ToolPicture::ApronLink, true, "Create apron taxi link by connecting nodes with the mouse" },
     { IDT_CLOSED_LINK, ToolPicture::ClosedLink, true, "Create closed taxi link by connecting nodes with the mouse" },
+    Box(IDC_DESIGNATOR, 112, "Select a designator to highlight taxi path, or to assign to new taxi links"),
+    kSeparator,
+    Box(IDC_ROTATION, 46),
 };
+
+constexpr ToolButton kSecond[] = {
+    { IDT_PARKING, ToolPicture::Parking, true, "Create parking spots by clicking with the mouse" },
+    Box(IDC_PARKING_TYPE, 160, "Select the parking type"),
+    Box(IDC_PARKING_SPEC, 306, "Select a parking spec (e.g. airline code) to assign to parking spots"),
+    { IDT_APRON, ToolPicture::Apron, true, "Create apron polygon by clicking clicking mouse to place points" },
+    { IDT_APRON_POINT, ToolPicture::ApronPoint, true,
+      "Insert new point in existing apron polygon by clicking with the mouse" },
+    { IDT_EDGE_LIGHTS, ToolPicture::EdgeLights, true,
+      "Insert apron light strip by clicking and pulling with the mouse" },
+    kSeparator,
+    { IDT_MARKERS, ToolPicture::Marker, true, "Create reference markers by clicking with the mouse" },
+    { IDT_GUIDELINES, ToolPicture::Guideline, true, "Create guidelines with the mouse" },
+};
+
+const char* FindToolTip(std::span<const ToolButton> buttons, int id) {
+    for (const ToolButton& button : buttons) {
+        if (button.command == id || button.box == id) return *button.tooltip ? button.tooltip : nullptr;
+    }
+    return nullptr;
+}
+
+// Where the row that starts at `start` ends: the position of the first item that no longer fits.
+size_t EndOfRow(std::span<const ToolItem> items, size_t start, int available) {
+    int width = items[start].width;
+    size_t end = start + 1;
+    while (end < items.size() && width + items[end].width <= available) width += items[end++].width;
+    return end;
+}
 
 }  // namespace
 
-std::span<const ToolButton> FirstToolbar() { return kButtons; }
+std::span<const ToolButton> FirstToolbar() { return kFirst; }
+std::span<const ToolButton> SecondToolbar() { return kSecond; }
 
-const char* ToolTipFor(int command) {
-    if (command == 0) return nullptr;
-    for (const ToolButton& button : kButtons) {
-        if (button.command == command) return button.tooltip;
+const char* ToolTipFor(int id) {
+    if (id == 0) return nullptr;
+    const char* tooltip = FindToolTip(kFirst, id);
+    return tooltip ? tooltip : FindToolTip(kSecond, id);
+}
+
+std::vector<size_t> RowStarts(std::span<const ToolItem> items, int available) {
+    std::vector<size_t> starts = { 0 };
+    while (starts.back() < items.size()) {
+        const size_t start = starts.back();
+        size_t end = EndOfRow(items, start, available);
+        if (end >= items.size()) break;
+        size_t separator = end;
+        while (separator > start && !items[separator].separator) --separator;
+        if (separator > start) end = separator + 1;
+        if (end >= items.size()) break;
+        starts.push_back(end);
     }
-    return nullptr;
+    return starts;
+}
+
+ItemPlace PlaceInRow(std::span<const ToolItem> items, std::span<const size_t> starts, size_t item) {
+    const auto startsRow = [&](size_t at) {
+        return at > 0 && std::find(starts.begin(), starts.end(), at) != starts.end();
+    };
+    const auto isSeparator = [&](size_t at) { return at < items.size() && items[at].separator; };
+    ItemPlace place;
+    place.hidden = isSeparator(item) && startsRow(item + 1);
+    place.last = !place.hidden && (startsRow(item + 1) || (isSeparator(item + 1) && startsRow(item + 2)));
+    return place;
 }
 
 }  // namespace app

@@ -1,18 +1,21 @@
-// ToolbarWin.h - the rebar above the map and the toolbar in it.
+// ToolbarWin.h - the rebar above the map and the two toolbars in it.
 #pragma once
 
 #include <windows.h>
 
 namespace app {
 
-// Makes the rebar, a child of the main window, which gets the toolbar's commands and tooltip questions. Null when
+// Makes the rebar, a child of the main window, which gets the toolbars' commands and tooltip questions. Null when
 // that fails.
 HWND CreateToolbars(HWND mainWindow, int dpi);
 
-// Buttons and pictures for another resolution.
+// Buttons, boxes and pictures for another resolution.
 void ScaleToolbars(int dpi);
 
-// The buttons show again which commands are enabled and which tool is active.
+// Lays out the toolbars for the width of the window: beside each other, below each other, or in several rows each.
+void FitToolbars(int width);
+
+// The buttons show again which commands are enabled and which tool is active, the boxes what is current.
 void ShowToolbarStates();
 
 }  // namespace app

@@ -1,7 +1,9 @@
 // ViewCommands.cpp - see ViewCommands.h.
 #include "app/ViewCommands.h"
 
+#include "app/AppState.h"
 #include "app/Settings.h"
+#include "map/Aircraft.h"
 #include "map/MapView.h"
 #include "platform/Platform.h"
 
@@ -36,5 +38,11 @@ void ToggleNavaids() { Flip(&map::layers.navaids); }
 void ToggleHoldShortLimits() { Flip(&map::layers.holdShortLimits); }
 void ToggleGrid() { Flip(&settings.showLatLongGrid); }
 bool GridShown() { return settings.showLatLongGrid; }
+
+void ToggleLock() { map::ToggleLock(); }
+bool LockedToSimulator() { return map::view.lockedToSim; }
+
+void NoteMenuPoint(platform::Pixel at) { state.menuPoint = at; }
+void JumpToMenuPoint() { map::JumpHere(state.menuPoint); }
 
 }  // namespace app

@@ -1,6 +1,8 @@
 // ViewCommands.h - what the map shows: layers, parking labels, grid.
 #pragma once
 
+#include "platform/Pixel.h"
+
 namespace app {
 
 // Choosing the labels that are shown switches them off.
@@ -17,5 +19,13 @@ void ToggleNavaids();
 void ToggleHoldShortLimits();
 void ToggleGrid();
 bool GridShown();
+
+// Locked, the map follows the aircraft in the simulator and refuses to be moved or turned by hand.
+void ToggleLock();
+bool LockedToSimulator();
+
+// The map's own menu was opened there, a pixel of the map; its entries mean that place.
+void NoteMenuPoint(platform::Pixel at);
+void JumpToMenuPoint();  // places the aircraft in the simulator there
 
 }  // namespace app

@@ -13,7 +13,6 @@ AirportLibrary library;
 namespace {
 
 constexpr uint32_t kNone = UINT32_MAX;
-constexpr size_t kIdentLength = 4;
 constexpr size_t kTextSize = 1 << 16;  // bytes of one of the library's texts, unless a name needs more
 
 constexpr uint8_t UpperCase(uint8_t byte) {
@@ -29,10 +28,23 @@ constexpr auto kUpperCase = [] {
     return table;
 }();
 
-std::string_view Trimmed(std::string_view text) {
-    while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
-    while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
-    return text;
+// Of UTF-8 text, the Latin-1 letters too; they are those of two bytes that begin with 0xC3.
+void FoldCase(std::string* text) {
+    *text = platform::UpperCased(*text);
+    for (size_t i = 1; i < text->size(); ++i) {
+        const auto byte = static_cast<uint8_t>((*text)[i]);
+        const bool lower = (*text)[i - 1] == '\xC3' && byte >= 0xA0 && byte <= 0xBE && byte != 0xB7;
+        if (lower) (*text)[i] = static_cast<char>(byte - 0x20);
+    }
+}
+
+bool IsSeparator(char c) { return c == '\\' || c == '/'; }
+
+// Drops the last component; never the drive or what stands before the first component.
+void StepUp(size_t root, std::string* key) {
+    const size_t separator = key->rfind('\\');
+    const size_t end = separator == std::string::npos || separator < root ? root : separator;
+    if (!std::string_view(*key).substr(end).ends_with(':')) key->resize(end);
 }
 
 std::string_view KeptText(std::string_view text) {
@@ -100,8 +112,23 @@ void ReleaseLibrary() {
 void NoteSavedFile(const std::string& path) { library.savedFiles.insert(PathKey(path)); }
 
 std::string PathKey(std::string_view path) {
-    std::string key = platform::UpperCased(path);
-    std::replace(key.begin(), key.end(), '/', '\\');
+    std::string key;
+    key.reserve(path.size());
+    while (key.size() < 2 && key.size() < path.size() && IsSeparator(path[key.size()])) key += '\\';
+    const size_t root = key.size();
+    for (size_t at = root; at < path.size();) {
+        const size_t end = std::min(path.find_first_of("\\/", at), path.size());
+        const std::string_view name = path.substr(at, end - at);
+        at = end + 1;
+        if (name.empty() || name == ".") continue;
+        if (name == "..") {
+            StepUp(root, &key);
+            continue;
+        }
+        if (key.size() > root) key += '\\';
+        key += name;
+    }
+    FoldCase(&key);
     return key;
 }
 
@@ -118,6 +145,12 @@ uint32_t FileNumberOf(const std::string& path) {
 uint32_t ScanTime(uint64_t fileTime) {
     constexpr uint64_t kTwoSeconds = 20000000;
     return static_cast<uint32_t>(fileTime / kTwoSeconds & 0x3FFFFF);
+}
+
+std::string_view Trimmed(std::string_view text) {
+    while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+    while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
+    return text;
 }
 
 int CompareNames(std::string_view a, std::string_view b) {

@@ -28,7 +28,7 @@ struct LibraryFile {
 
 struct AirportIndexEntry {
     std::string_view country, state, city, name;  // without "|" and line breaks
-    std::string_view ident;                       // at most 4 characters
+    std::string_view ident;                       // at most kIdentLength characters
     uint32_t file = 0;                            // its number: the place in AirportLibrary::files
     uint32_t nextOfPlace = UINT32_MAX;            // the entry that hangs on the same item, UINT32_MAX after the last
 };
@@ -69,7 +69,9 @@ void ReleaseLibrary();
 // may lie within one unit of it.
 void NoteSavedFile(const std::string& path);
 
-// Equal for two spellings of a path that mean one file on Windows.
+// The same for spellings of a path that mean one file on Windows: ASCII and Latin-1 letters without regard to case,
+// either separator, once or doubled, and "." and ".." resolved. Short names and links are not seen through; a file that
+// is reached by them too is listed twice.
 std::string PathKey(std::string_view path);
 
 // The file with that path; added, not examined, when it is new.
@@ -82,8 +84,13 @@ uint32_t ScanTime(uint64_t fileTime);
 // without regard to case.
 int CompareNames(std::string_view a, std::string_view b);
 
-// Adds an entry with copies of the names, "|" and line breaks replaced by blanks, and of the ident's first four
-// characters.
+constexpr size_t kIdentLength = 4;  // characters of an identifier that are kept and compared
+
+// Without the blanks at both ends, as the tree names its places.
+std::string_view Trimmed(std::string_view text);
+
+// Adds an entry with copies of the names, "|" and line breaks replaced by blanks, and of the ident's first
+// kIdentLength characters.
 void AddAirport(std::string_view country, std::string_view state, std::string_view city, std::string_view name,
                 std::string_view ident, uint32_t file);
 

@@ -12,12 +12,10 @@
 
 #include "bgl/ByteReader.h"
 #include "bgl/RecordIds.h"
-#include "bgl/SceneryFile.h"
 #include "model/Ident.h"
 #include "model/Links.h"
 #include "model/ObjectList.h"
 #include "model/Records.h"
-#include "platform/Files.h"
 
 namespace bgl {
 
@@ -25,8 +23,7 @@ namespace {
 
 using model::SceneryObject;
 
-constexpr uint64_t kLongestAirport = 16 << 20;  // bytes; large real airports need a twentieth of it
-constexpr size_t kReadAgain = 4;                // bodies may add up to so many times the stretch
+constexpr size_t kReadAgain = 4;  // bodies may add up to so many times the stretch
 
 struct Reading {
     ByteReader in;
@@ -307,7 +304,7 @@ void ReadRecords(Reading* reading) {
 
 }  // namespace
 
-void ReadAirportBytes(std::span<const uint8_t> bytes) {
+void ReadAirport(std::span<const uint8_t> bytes) {
     Reading reading;
     reading.in.bytes = bytes;
     reading.bodyBytesLeft = bytes.size() * kReadAgain;
@@ -315,14 +312,6 @@ void ReadAirportBytes(std::span<const uint8_t> bytes) {
     FinishEdgeLights(&reading);
     model::ResolveLinks();
     model::state.loaded = model::state.airport != nullptr;
-}
-
-bool ReadAirport(const AirportPlace& place) {
-    const platform::FileHandle file = platform::OpenForReading(place.path);
-    if (!file) return false;
-    const uint64_t size = std::min<uint64_t>(place.size, kLongestAirport);
-    ReadAirportBytes(ReadStretch(SourceOfFile(file.get()), place.offset, size));
-    return true;
 }
 
 }  // namespace bgl

@@ -7,6 +7,8 @@
 
 namespace bgl {
 
+constexpr uint64_t kLongestAirport = 16 << 20;  // bytes that are read; large real airports need a twentieth of it
+
 // Where an airport record lies (SceneryFile.h finds it).
 struct AirportPlace {
     std::string path;     // UTF-8
@@ -14,12 +16,9 @@ struct AirportPlace {
     uint32_t size = 0;    // of the record, head included
 };
 
-// Reads the records of that stretch of the file, resolves the links and sets the loaded flag. The caller
-// has cleared the model. False, with no message and an untouched model, when the file cannot be opened.
-// A short read ends the reading; what was read so far stays.
-bool ReadAirport(const AirportPlace& place);
-
-// The same for bytes in memory that start with the airport record's head. Never reads past them.
-void ReadAirportBytes(std::span<const uint8_t> bytes);
+// Reads the records of an airport, of bytes that start with its record's head, never past them. Resolves the
+// links and sets the loaded flag. The caller has cleared the model. A short read ends the reading; what was
+// read so far stays.
+void ReadAirport(std::span<const uint8_t> bytes);
 
 }  // namespace bgl

@@ -27,19 +27,9 @@ using model::SceneryObject;
 constexpr uint32_t kDeleteAllButApproaches = 0xFE;  // what the stock airport loses under this one
 constexpr uint16_t kDeleteRecordSize = 10;
 
-// The objects of the list by kind, each kind in list order.
-struct KindLists {
-    std::vector<SceneryObject*> of[model::kKindMask + 1];
-};
+using model::KindLists;
 
-KindLists SortByKind() {
-    KindLists lists;
-    for (SceneryObject* object = model::state.head; object; object = object->next) {
-        const bool isDrawn = KindOf(object) == model::kApron && (object->flags & model::kOutlineOpen) != 0;
-        if (!isDrawn) lists.of[KindOf(object)].push_back(object);
-    }
-    return lists;
-}
+bool IsOpenApron(const SceneryObject* apron) { return (apron->flags & model::kOutlineOpen) != 0; }
 
 uint8_t CountByte(const std::vector<SceneryObject*>& objects) {
     assert(objects.size() <= UINT8_MAX);
@@ -47,21 +37,21 @@ uint8_t CountByte(const std::vector<SceneryObject*>& objects) {
 }
 
 void UpdateAirport(const KindLists& lists, model::AirportRecord* airport) {
-    airport->runwayCount = CountByte(lists.of[model::kRunway]);
-    airport->commCount = CountByte(lists.of[model::kCommFrequency]);
-    airport->startCount = CountByte(lists.of[model::kStartLocation]);
+    airport->runwayCount = CountByte(lists[model::kRunway]);
+    airport->commCount = CountByte(lists[model::kCommFrequency]);
+    airport->startCount = CountByte(lists[model::kStartLocation]);
     airport->approachCount = 0;
-    airport->apronCount = CountByte(lists.of[model::kApron]);
-    airport->helipadCount = CountByte(lists.of[model::kHelipad]);
+    airport->apronCount = CountByte(lists[model::kApron]);
+    airport->helipadCount = CountByte(lists[model::kHelipad]);
     model::TowerViewpointRecord tower = { model::kPlaceholderLongitude, model::kPlaceholderLatitude, 0 };
-    const auto& towers = lists.of[model::kTowerViewpoint];
+    const auto& towers = lists[model::kTowerViewpoint];
     if (!towers.empty()) tower = model::PayloadAs<model::TowerViewpointRecord>(towers.front());
     airport->towerLongitude = tower.longitude;
     airport->towerLatitude = tower.latitude;
     airport->towerAltitude = tower.altitude;
     // A word that already spells the identifier stays as it is: a few words that no packing makes decode, too.
     const std::string spelled = model::UnpackIdent(airport->ident >> model::kIdentShift);
-    if (model::state.icao.empty() || platform::EqualNoCase(spelled, model::state.icao)) return;
+    if (platform::EqualNoCase(spelled, model::state.icao)) return;
     airport->ident =
         model::PackIdent(model::state.icao) << model::kIdentShift | (airport->ident & model::kIdentLowBits);
 }
@@ -193,7 +183,8 @@ EdgeTables MakeEdgeTables(const SceneryObject* edgeLights) {
 
 void WriteAirportRecord(ByteWriter* out) {
     model::UpdateLinkIndices();
-    const KindLists lists = SortByKind();
+    KindLists lists = model::SortByKind();
+    std::erase_if(lists[model::kApron], IsOpenApron);
     auto& airport = model::PayloadAs<model::AirportRecord>(model::state.airport);
     UpdateAirport(lists, &airport);
     const size_t start = BeginRecord(out, kAirportRecord);
@@ -201,19 +192,19 @@ void WriteAirportRecord(ByteWriter* out) {
     WriteName(out);
     BeginRecord(out, kDeleteAirportRecord, kDeleteRecordSize);
     Put(out, kDeleteAllButApproaches);
-    for (const SceneryObject* runway : lists.of[model::kRunway])
+    for (const SceneryObject* runway : lists[model::kRunway])
         WriteRunway(model::PayloadAs<model::RunwayPayload>(runway), out);
-    for (const SceneryObject* pad : lists.of[model::kHelipad])
+    for (const SceneryObject* pad : lists[model::kHelipad])
         PutRecord(out, kHelipadRecord, pad->payload, sizeof(model::HelipadRecord));
-    for (const SceneryObject* place : lists.of[model::kStartLocation])
+    for (const SceneryObject* place : lists[model::kStartLocation])
         PutRecord(out, kStartRecord, place->payload, sizeof(model::StartLocationRecord));
-    for (const SceneryObject* comm : lists.of[model::kCommFrequency]) WriteComm(comm, out);
-    WriteList(kTaxiNodeRecord, lists.of[model::kTaxiNode], sizeof(model::TaxiNodeRecord), out);
-    WriteParkingSpots(lists.of[model::kParkingSpot], out);
-    WriteList(kTaxiLinkRecord, lists.of[model::kTaxiLink], model::kTaxiLinkFileSize, out);
-    WriteList(kTaxiNameRecord, lists.of[model::kTaxiDesignator], sizeof(model::TaxiDesignatorRecord), out);
-    for (const SceneryObject* apron : lists.of[model::kApron]) WriteApron(apron, out);
-    const auto& edgeLights = lists.of[model::kApronEdgeLights];
+    for (const SceneryObject* comm : lists[model::kCommFrequency]) WriteComm(comm, out);
+    WriteList(kTaxiNodeRecord, lists[model::kTaxiNode], sizeof(model::TaxiNodeRecord), out);
+    WriteParkingSpots(lists[model::kParkingSpot], out);
+    WriteList(kTaxiLinkRecord, lists[model::kTaxiLink], model::kTaxiLinkFileSize, out);
+    WriteList(kTaxiNameRecord, lists[model::kTaxiDesignator], sizeof(model::TaxiDesignatorRecord), out);
+    for (const SceneryObject* apron : lists[model::kApron]) WriteApron(apron, out);
+    const auto& edgeLights = lists[model::kApronEdgeLights];
     if (!edgeLights.empty()) WriteEdgeLights(edgeLights.front(), out);
     EndRecord(out, start);
 }

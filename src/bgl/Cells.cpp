@@ -10,7 +10,8 @@ namespace {
 
 constexpr int kLevel = 9;
 constexpr int kFullLevel = 30;  // a cell of that level is one unit wide
-constexpr uint32_t kLastColumn = 383, kLastRow = 255;
+constexpr uint32_t kGridMask = 0x3FF;
+constexpr int kGridBits = 10;
 
 constexpr CodeRect kWholeWorld = { 0, kTurn, 0, kPoleToPole };
 
@@ -19,19 +20,19 @@ int64_t ModuloTurn(int64_t longitude) {
     return rest < 0 ? rest + kTurn : rest;
 }
 
-// A corner south of a pole or beyond 180 degrees encodes below 0, as signed values are meant to.
+// A corner beyond the north pole, or west of 180 degrees west, encodes below 0.
 int64_t Signed(uint32_t code) { return static_cast<int32_t>(code); }
 
 }  // namespace
 
-uint32_t CellColumn(uint32_t longitude) { return std::min(longitude >> (kFullLevel - kLevel) & 0x3FF, kLastColumn); }
+uint32_t CellColumn(uint32_t longitude) { return longitude >> (kFullLevel - kLevel) & kGridMask; }
 
-uint32_t CellRow(uint32_t latitude) { return std::min(latitude >> (kFullLevel - kLevel) & 0x3FF, kLastRow); }
+uint32_t CellRow(uint32_t latitude) { return latitude >> (kFullLevel - kLevel) & kGridMask; }
 
 uint32_t CellOf(model::EncodedPoint point) {
     const uint32_t column = CellColumn(point.longitude), row = CellRow(point.latitude);
     uint32_t cell = uint32_t{ 1 } << (2 * kLevel + 1);
-    for (int bit = 0; bit < kLevel; ++bit) {
+    for (int bit = 0; bit < kGridBits; ++bit) {
         cell |= (column >> bit & 1) << (2 * bit);
         cell |= (row >> bit & 1) << (2 * bit + 1);
     }

@@ -68,8 +68,15 @@ bool ParseNumber(std::string_view text, int base, uint32_t* number) {
 }
 
 bool IsFileLine(std::string_view line) {
-    return line.size() >= 2 && line.size() <= kLongestFileLine && line.ends_with('\n') && line[1] == '|' &&
+    return line.size() >= 2 && line.ends_with('\n') && line[1] == '|' &&
            kKindLetters.find(line[0]) != std::string_view::npos;
+}
+
+// Whoever writes the files as texts of the system ends lines with a carriage return too.
+std::string_view WithoutLineEnd(std::string_view line) {
+    line.remove_suffix(1);
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    return line;
 }
 
 std::string FileLine(const LibraryFile& file, FileKind kind) {
@@ -100,10 +107,11 @@ std::vector<FileKind> KindsToWrite() {
 }
 
 void ParseFileLine(std::string_view line, const std::string& simulatorFolder) {
-    line.remove_suffix(1);
+    line = WithoutLineEnd(line);
+    const bool fits = line.size() < kLongestFileLine;
     const size_t kind = kKindLetters.find(TakeField(&line).front());
     uint32_t layer = 0, time = 0;
-    const bool good = ParseNumber(TakeField(&line), 10, &layer) && ParseNumber(TakeField(&line), 16, &time);
+    const bool good = fits && ParseNumber(TakeField(&line), 10, &layer) && ParseNumber(TakeField(&line), 16, &time);
     // Whatever the line holds, it takes a number: the airports' lines count on it.
     const bool fromRoot = line.starts_with('\\') || line.starts_with('/');
     const std::string path = !good ? "" : fromRoot ? std::string(line) : FullPath(simulatorFolder, line);
@@ -112,8 +120,9 @@ void ParseFileLine(std::string_view line, const std::string& simulatorFolder) {
 }
 
 bool ParseAirportLine(std::string_view line, AirportIndexEntry* entry) {
-    if (line.size() > kLongestAirportLine || !line.ends_with('\n')) return false;
-    line.remove_suffix(1);
+    if (!line.ends_with('\n')) return false;
+    line = WithoutLineEnd(line);
+    if (line.size() >= kLongestAirportLine) return false;
     for (std::string_view* field : { &entry->country, &entry->state, &entry->city, &entry->name, &entry->ident }) {
         *field = TakeField(&line);
     }
@@ -160,9 +169,11 @@ CacheTexts ComposeCaches() {
     return texts;
 }
 
-bool ParseFileList(const CacheTexts& texts, const std::string& simulatorFolder) {
+CacheState ParseFileList(const CacheTexts& texts, const std::string& simulatorFolder) {
     std::string_view rest = texts.fileList;
     const std::string_view check = TakeLine(&rest);
+    const bool unchecked = IsFileLine(check);
+    if (unchecked) rest = texts.fileList;
     std::vector<std::string_view> lines;
     uint64_t listSum = 0;
     while (!rest.empty()) {
@@ -171,10 +182,12 @@ bool ParseFileList(const CacheTexts& texts, const std::string& simulatorFolder) 
         listSum = CheckSum(listSum, line);
         lines.push_back(line);
     }
-    if (check != CheckLine(listSum, CheckSum(0, texts.airportIndex))) return false;
+    const bool isWhole = unchecked ? texts.airportIndex.empty() || texts.airportIndex.ends_with('\n')
+                                   : check == CheckLine(listSum, CheckSum(0, texts.airportIndex));
+    if (!isWhole) return CacheState::Missing;
     library.files.reserve(lines.size());
     for (const std::string_view line : lines) ParseFileLine(line, simulatorFolder);
-    return true;
+    return unchecked ? CacheState::Unchecked : CacheState::Checked;
 }
 
 void ParseAirportIndex(std::string airportIndex) {
@@ -187,6 +200,15 @@ void ParseAirportIndex(std::string airportIndex) {
         if (!ParseAirportLine(TakeLine(&rest), &entry) || entry.file >= library.files.size()) continue;
         const LibraryFile& file = library.files[entry.file];
         if (file.present && file.kind != FileKind::NotExamined) library.airports.push_back(entry);
+    }
+}
+
+void DoubtFilesWithoutAirports() {
+    std::vector<bool> hasAirports(library.files.size());
+    for (const AirportIndexEntry& entry : library.airports) hasAirports[entry.file] = true;
+    for (size_t i = 0; i < library.files.size(); ++i) {
+        LibraryFile& file = library.files[i];
+        if (file.kind != FileKind::NoAirports && !hasAirports[i]) file.kind = FileKind::NotExamined;
     }
 }
 

@@ -25,9 +25,12 @@ namespace {
 constexpr const char* kCollecting = "Collecting Airports...";
 
 // A sound file stays far below these; a damaged one must not make us read it whole.
-constexpr uint64_t kMostSections = 1024, kMostTableBytes = 1 << 16, kMostNameBytes = 64 << 20;
+constexpr uint64_t kMostSections = 1024, kMostTableBytes = 1 << 16, kMostListBytes = 64 << 20;
 
-constexpr uint32_t kClassBits = 0xFFFF;          // the upper half of the word tells the size of the cell ids
+// And in a damaged list thousands of airports may share one endless name.
+constexpr uint64_t kMostNameBytes = 64 << 20;
+
+constexpr uint32_t kLargestClass = 0xFFFF;       // later the upper half of the word tells the size of the cell ids
 constexpr uint32_t kLaterSummarySection = 0x2C;  // only files for later simulators have it
 constexpr uint32_t kFirstLaterClass = 5, kLastLaterClass = 7;  // and sections of these classes
 
@@ -35,9 +38,8 @@ constexpr int kScanned = 5, kExamined = 85, kFileRead = 30, kDone = 100;  // per
 
 bool IsForLaterSimulator(const SceneryFile& file) {
     return std::any_of(file.sections.begin(), file.sections.end(), [](const SectionEntry& section) {
-        const uint32_t sectionClass = section.sectionClass & kClassBits;
-        return section.type == kLaterSummarySection || section.sectionClass > kClassBits ||
-               (sectionClass >= kFirstLaterClass && sectionClass <= kLastLaterClass);
+        return section.type == kLaterSummarySection || section.sectionClass > kLargestClass ||
+               (section.sectionClass >= kFirstLaterClass && section.sectionClass <= kLastLaterClass);
     });
 }
 
@@ -48,29 +50,30 @@ bool ReadLimitedStructure(const ByteSource& source, SceneryFile* file) {
     if (!ReadStructure(head, file)) return false;
     file->source = source;
     file->tableBytesLeft = std::min(source.size, kMostTableBytes);
-    file->recordBytesLeft = std::min(source.size, kMostNameBytes);
+    file->recordBytesLeft = std::min(source.size, kMostListBytes);
     return true;
 }
 
-void AddAirports(Bytes subsection, uint32_t file) {
+// Takes the names' sizes from *nameBytesLeft and ends where that is too little.
+void AddAirports(Bytes subsection, uint32_t file, uint64_t* nameBytesLeft) {
     NameListView list;
     if (!OpenNameList(subsection, &list)) return;
-    uint64_t left = kMostNameBytes;  // in a damaged list thousands of airports may share one endless name
     for (uint32_t i = 0; i < list.airportCount; ++i) {
         const NamedAirport airport = NameListEntry(list, i);
         const size_t size = airport.country.size() + airport.state.size() + airport.city.size() + airport.name.size();
-        if (size > left) break;
-        left -= size;
-        AddAirport(airport.country, airport.state, airport.city, airport.name,
-                   model::UnpackIdent(airport.ident >> model::kIdentShift), file);
+        if (size > *nameBytesLeft) break;
+        *nameBytesLeft -= size;
+        const std::string ident = model::UnpackIdent(airport.ident >> model::kIdentShift);
+        if (ident.empty()) continue;  // nobody could open it by its identifier
+        AddAirport(airport.country, airport.state, airport.city, airport.name, ident, file);
     }
 }
 
-bool AddNameLists(SceneryFile* structure, const SectionEntry& section, uint32_t file) {
+bool AddNameLists(SceneryFile* structure, const SectionEntry& section, uint32_t file, uint64_t* nameBytesLeft) {
     const std::vector<SubsectionEntry> subsections = ReadSubsections(structure, section);
     for (const SubsectionEntry& subsection : subsections) {
         if (!CoverRecords(structure, subsection)) break;
-        AddAirports(ReadStretch(structure->source, subsection.offset, subsection.size), file);
+        AddAirports(ReadStretch(structure->source, subsection.offset, subsection.size), file, nameBytesLeft);
     }
     return !subsections.empty();
 }
@@ -86,39 +89,63 @@ void CountResult(ScanResult result) {
     ++*counters[static_cast<size_t>(result)];
 }
 
-// Whether the file differs from what was known of it.
-bool ScanFile(const std::string& path, uint32_t time, uint32_t layer) {
-    const size_t known = library.files.size();
-    const uint32_t number = FileNumberOf(path);
-    LibraryFile& file = library.files[number];
+void ScanFile(const std::string& path, uint32_t time, uint32_t layer) {
+    LibraryFile& file = library.files[FileNumberOf(path)];
     // Several areas may lead to one folder: then the highest layer counts.
     if (file.present) layer = std::max(file.layer, layer);
-    const bool changed = number == known || file.writeTime != time || file.layer != layer;
     if (!file.present) ++library.report.present;
     file.present = true;
     if (file.writeTime != time) file.kind = FileKind::NotExamined;
     file.layer = layer;
     file.writeTime = time;
-    return changed;
 }
 
-// Whether anything differs from what the caches told.
-bool ScanLibrary(const std::string& simulatorFolder) {
-    if (simulatorFolder.empty()) return false;
-    bool changed = false;
-    for (const SceneryArea& area : ReadSceneryAreas(simulatorFolder)) {
-        ++library.report.areas;
-        const std::string folder = AreaFileFolder(area);
+// An area out of reach may hold its listing up for long: the bar moves, and the windows are painted, before each.
+void ScanAreas(const std::vector<SceneryArea>& areas) {
+    for (size_t i = 0; i < areas.size(); ++i) {
+        SetProgress(static_cast<int>(kScanned * i / areas.size()));
+        const std::string folder = AreaFileFolder(areas[i]);
         for (const platform::FileEntry& entry : platform::ListFiles(folder, ".bgl")) {
-            changed |= ScanFile(folder + "\\" + entry.name, ScanTime(entry.writeTime), area.layer);
+            ScanFile(folder + "\\" + entry.name, ScanTime(entry.writeTime), areas[i].layer);
         }
     }
+}
+
+void ForgetSavedFiles() {
     for (const std::string& saved : library.savedFiles) {
         const auto found = library.fileOfPath.find(saved);
         if (found != library.fileOfPath.end()) library.files[found->second].kind = FileKind::NotExamined;
     }
     library.savedFiles.clear();
-    return changed || library.report.present != library.files.size();
+}
+
+struct KnownFile {
+    uint32_t layer, writeTime;
+};
+std::vector<KnownFile> KnownFiles() {
+    std::vector<KnownFile> known;
+    known.reserve(library.files.size());
+    for (const LibraryFile& file : library.files) known.push_back({ file.layer, file.writeTime });
+    return known;
+}
+
+bool DiffersFrom(const std::vector<KnownFile>& known) {
+    if (library.files.size() != known.size() || library.report.present != known.size()) return true;
+    const auto isSame = [](const LibraryFile& file, const KnownFile& before) {
+        return file.layer == before.layer && file.writeTime == before.writeTime;
+    };
+    return !std::equal(library.files.begin(), library.files.end(), known.begin(), isSame);
+}
+
+// Whether the disk differs from what the caches told.
+bool ScanLibrary(const std::string& simulatorFolder) {
+    if (simulatorFolder.empty()) return false;
+    const std::vector<KnownFile> known = KnownFiles();
+    const std::vector<SceneryArea> areas = ReadSceneryAreas(simulatorFolder);
+    library.report.areas = static_cast<uint32_t>(areas.size());
+    ScanAreas(areas);
+    ForgetSavedFiles();
+    return DiffersFrom(known);
 }
 
 // The box repaints at each call, and there may be thousands of files.
@@ -176,8 +203,9 @@ ScanResult ScanBglHeader(uint32_t file) {
     if (!ReadLimitedStructure(SourceOfFile(handle.get()), &structure)) return ScanResult::NotScenery;
     if (IsForLaterSimulator(structure)) return ScanResult::NoAirports;
     bool found = false;
+    uint64_t nameBytesLeft = kMostNameBytes;
     for (const SectionEntry& section : structure.sections) {
-        if ((section.sectionClass & kClassBits) == kNameList) found |= AddNameLists(&structure, section, file);
+        if (section.sectionClass == kNameList) found |= AddNameLists(&structure, section, file, &nameBytesLeft);
     }
     return found ? ScanResult::AirportsFound : ScanResult::NoAirports;
 }
@@ -187,18 +215,19 @@ void CollectAllAirports(const std::string& simulatorFolder, const std::string& c
     ShowProgress(kCollecting);
     ReleaseLibrary();
     CacheTexts caches = cacheFolder.empty() ? CacheTexts{} : ReadCaches(cacheFolder);
-    const bool cached = ParseFileList(caches, simulatorFolder);
+    const CacheState cached = ParseFileList(caches, simulatorFolder);
     const bool changed = ScanLibrary(simulatorFolder);
     library.report.listSeconds = SecondsSince(start);
     SetProgress(kScanned);
-    if (cached) ParseAirportIndex(std::move(caches.airportIndex));
+    if (cached != CacheState::Missing) ParseAirportIndex(std::move(caches.airportIndex));
+    if (cached == CacheState::Unchecked) DoubtFilesWithoutAirports();
     const auto examineStart = std::chrono::steady_clock::now();
     ExamineFiles();
     library.report.examineSeconds = SecondsSince(examineStart);
     BuildPlaces(kExamined, kDone);
     // Writing safely takes longer than all the rest when nothing is new. And a library out of reach, say on a drive
     // that is not there, says nothing against what is known of it.
-    const bool isNew = !cached || changed || library.report.opened > 0;
+    const bool isNew = cached != CacheState::Checked || changed || library.report.opened > 0;
     if (isNew && library.report.areas > 0 && !cacheFolder.empty())
         library.report.cachesKept = WriteCaches(cacheFolder, ComposeCaches());
     library.report.allSeconds = SecondsSince(start);

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstring>
 #include <unordered_map>
 
 #include "bgl/Cells.h"
@@ -65,8 +66,10 @@ std::string StringAt(Bytes bytes, const NameListHead& head, StringList list, uin
     if (number >= count || index + 4 * count > bytes.size()) return {};
     const uint64_t start = index + 4 * count + ValueAt<uint32_t>(bytes, static_cast<size_t>(index) + 4 * number);
     if (start >= bytes.size()) return {};
-    const auto first = bytes.begin() + static_cast<ptrdiff_t>(start);
-    return std::string(first, std::find(first, bytes.end(), uint8_t{}));
+    const char* first = reinterpret_cast<const char*>(bytes.data()) + start;
+    const size_t most = bytes.size() - static_cast<size_t>(start);
+    const void* end = std::memchr(first, 0, most);
+    return { first, end ? static_cast<size_t>(static_cast<const char*>(end) - first) : most };
 }
 
 AirportEntry EntryAt(const NameListView& list, uint32_t index) {
@@ -137,7 +140,7 @@ NamedAirport NameListEntry(const NameListView& list, uint32_t index) {
 bool FindNames(SceneryFile* file, uint32_t ident, NamedAirport* names) {
     bool found = false;
     for (const SectionEntry& section : file->sections) {
-        if (section.type != kNameListSection || (section.sectionClass & 0xFFFF) != kNameList) continue;
+        if ((section.sectionClass & 0xFFFF) != kNameList) continue;  // whatever its type, as for the airport index
         for (const SubsectionEntry& subsection : ReadSubsections(file, section)) {
             if (!CoverRecords(file, subsection)) return found;
             const std::vector<uint8_t> bytes = ReadStretch(file->source, subsection.offset, subsection.size);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <initializer_list>
 
 #include "bgl/ByteReader.h"
 #include "bgl/SceneryFile.h"
@@ -11,13 +12,13 @@ namespace bgl {
 struct NavaidRecord {
     RecordHead head;
     Bytes body;
-    size_t subsection = 0;  // a running number over all sections of the type
+    size_t subsection = 0;  // a running number of those that were wanted, over all sections of the walk
 };
 
-// Calls visit with each record of the file's sections of that type; wanted(subsection id) chooses the
-// subsections, and only those are read.
-void WalkNavaids(SceneryFile* file, uint32_t sectionType, const std::function<bool(uint32_t)>& wanted,
-                 const std::function<void(const NavaidRecord&)>& visit);
+// Calls visit with each record of the file's sections of those types, in the order of the section table;
+// wanted(subsection id) chooses the subsections, and only those are read.
+void WalkNavaids(SceneryFile* file, std::initializer_list<uint32_t> sectionTypes,
+                 const std::function<bool(uint32_t)>& wanted, const std::function<void(const NavaidRecord&)>& visit);
 
 // Appends all navaids of an airport's own file, none of them stock. Those of one kind come in an order
 // from which the writer makes the same sections and the same index again.
@@ -27,8 +28,11 @@ void AppendOwnNavaids(SceneryFile* file);
 // nautical miles, markers in that of 11, ILSs in that of 3; and all ILSs of the airport itself.
 void AppendStockNavaids(SceneryFile* file);
 
-// Ties every navaid that is not stock to the nearest stock one of the same kind, identifier and region:
-// it was made by editing that one, and replaces it.
+// Ties navaids that are not stock to stock ones: each was made by editing that one, and replaces it. The two are of
+// one kind, identifier and region, and of all such pairs the nearest come first. Identifiers of marker beacons
+// ("OM") repeat from approach to approach, and a blank identifier names nothing: such pairs also stand within
+// kSamePlace of each other.
 void TieReplacements();
+constexpr double kSamePlace = 1852;  // metres: farther than a marker is ever corrected, nearer than the next approach's
 
 }  // namespace bgl

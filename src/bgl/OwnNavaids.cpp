@@ -4,9 +4,9 @@
 // in the order of the object list. Both are parts of one order, which is put together here: a navaid may
 // follow when it is next in its cell and next among those of its identifier.
 #include <algorithm>
-#include <deque>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "bgl/NavaidRecords.h"
 #include "bgl/Navaids.h"
@@ -29,8 +29,23 @@ struct IndexEntry {
 #pragma pack(pop)
 static_assert(sizeof(IndexEntry) == 12);
 
-using Cells = std::vector<std::deque<SceneryObject*>>;
-using Index = std::map<std::string, std::deque<IndexEntry>>;  // by identifier
+// What is taken from its front, one after the other.
+template <class T>
+struct Queue {
+    std::vector<T> items;
+    size_t taken = 0;
+};
+template <class T>
+bool IsEmpty(const Queue<T>& queue) {
+    return queue.taken == queue.items.size();
+}
+template <class T>
+const T& Front(const Queue<T>& queue) {
+    return queue.items[queue.taken];
+}
+
+using Cells = std::vector<Queue<SceneryObject*>>;        // those that hold something
+using Index = std::map<std::string, Queue<IndexEntry>>;  // by identifier
 
 constexpr size_t kMostCells = 64;  // our own files have eight; with more the file's order has to do
 
@@ -38,14 +53,15 @@ std::string TextOf(uint32_t ident) { return model::UnpackIdent(ident >> model::k
 
 Cells ReadCells(SceneryFile* file, uint32_t sectionType) {
     Cells cells;
-    WalkNavaids(
-        file, sectionType, [](uint32_t) { return true; },
-        [&](const NavaidRecord& record) {
-            SceneryObject* navaid = MakeNavaid(record.head, record.body);
-            if (!navaid) return;
-            if (cells.size() <= record.subsection) cells.resize(record.subsection + 1);
-            cells[record.subsection].push_back(navaid);
-        });
+    size_t subsection = 0;  // that of the last cell
+    const auto all = [](uint32_t) { return true; };
+    WalkNavaids(file, { sectionType }, all, [&](const NavaidRecord& record) {
+        SceneryObject* navaid = MakeNavaid(record.head, record.body);
+        if (!navaid) return;
+        if (cells.empty() || record.subsection != subsection) cells.emplace_back();
+        subsection = record.subsection;
+        cells.back().items.push_back(navaid);
+    });
     return cells;
 }
 
@@ -58,7 +74,7 @@ Index ReadIndex(SceneryFile* file, uint32_t sectionType) {
             const std::vector<uint8_t> bytes = ReadStretch(file->source, subsection.offset, subsection.size);
             ByteReader reader{ bytes };
             IndexEntry entry;
-            while (Take(&reader, &entry)) index[TextOf(entry.ident)].push_back(entry);
+            while (Take(&reader, &entry)) index[TextOf(entry.ident)].items.push_back(entry);
         }
     }
     return index;
@@ -70,28 +86,31 @@ IndexEntry EntryOf(const SceneryObject* navaid) {
              static_cast<uint16_t>(key.position.latitude >> 21) };
 }
 
-bool IsNext(const SceneryObject* navaid, const Index& index) {
-    const IndexEntry entry = EntryOf(navaid);
-    const auto found = index.find(TextOf(entry.ident));
-    return found == index.end() || found->second.empty() || found->second.front() == entry;
+// The entries of the navaid's identifier that are left; null when there are none.
+Queue<IndexEntry>* EntriesFor(const SceneryObject* navaid, Index* index) {
+    const auto found = index->find(TextOf(EntryOf(navaid).ident));
+    return found == index->end() || IsEmpty(found->second) ? nullptr : &found->second;
 }
 
-void Append(std::deque<SceneryObject*>* cell, Index* index) {
-    SceneryObject* navaid = cell->front();
-    cell->pop_front();
+bool IsNext(const SceneryObject* navaid, Index* index) {
+    const Queue<IndexEntry>* entries = EntriesFor(navaid, index);
+    return !entries || Front(*entries) == EntryOf(navaid);
+}
+
+void Append(Queue<SceneryObject*>* cell, Index* index) {
+    SceneryObject* navaid = cell->items[cell->taken++];
     model::AppendObject(navaid);
-    const IndexEntry entry = EntryOf(navaid);
-    const auto found = index->find(TextOf(entry.ident));
-    if (found != index->end() && !found->second.empty() && found->second.front() == entry) found->second.pop_front();
+    Queue<IndexEntry>* entries = EntriesFor(navaid, index);
+    if (entries && Front(*entries) == EntryOf(navaid)) ++entries->taken;
 }
 
 void AppendInOrder(Cells* cells, Index* index) {
     auto first = cells->begin();
     for (;;) {
-        while (first != cells->end() && first->empty()) ++first;
+        while (first != cells->end() && IsEmpty(*first)) ++first;
         if (first == cells->end()) return;
         const auto next = std::find_if(first, cells->end(),
-                                       [&](const auto& cell) { return !cell.empty() && IsNext(cell.front(), *index); });
+                                       [&](const auto& cell) { return !IsEmpty(cell) && IsNext(Front(cell), index); });
         Append(next == cells->end() ? &*first : &*next, index);  // a damaged index stops nothing
     }
 }

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <initializer_list>
 
 #include "platform/Files.h"
 #include "platform/IniText.h"
@@ -35,15 +34,6 @@ uint32_t ParseLayer(std::string_view text) {
     return result.ec == std::errc::result_out_of_range ? UINT32_MAX : layer;
 }
 
-// The system's own spelling matters only where it tells upper from lower case.
-std::string Spelled(const std::string& folder, std::initializer_list<const char*> names,
-                    bool (*exists)(const std::string&)) {
-    for (const char* name : names) {
-        if (exists(folder + "\\" + name)) return folder + "\\" + name;
-    }
-    return folder + "\\" + *names.begin();
-}
-
 }  // namespace
 
 std::string FullPath(const std::string& simulatorFolder, std::string_view path) {
@@ -66,12 +56,9 @@ std::vector<SceneryArea> ParseSceneryAreas(std::string_view text, const std::str
 
 std::vector<SceneryArea> ReadSceneryAreas(const std::string& simulatorFolder) {
     const std::string folder(WithoutLastSeparators(simulatorFolder));
-    const std::string path = Spelled(folder, { "Scenery.cfg", "scenery.cfg", "SCENERY.CFG" }, platform::FileExists);
-    return ParseSceneryAreas(platform::ReadIniText(path), folder);
+    return ParseSceneryAreas(platform::ReadIniText(platform::SpelledPath(folder, "Scenery.cfg")), folder);
 }
 
-std::string AreaFileFolder(const SceneryArea& area) {
-    return Spelled(area.folder, { "scenery", "Scenery", "SCENERY" }, platform::FolderExists);
-}
+std::string AreaFileFolder(const SceneryArea& area) { return platform::SpelledPath(area.folder, "scenery"); }
 
 }  // namespace bgl

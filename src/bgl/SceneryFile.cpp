@@ -15,6 +15,7 @@ namespace {
 
 constexpr uint64_t kLongestStretch = 64 << 20;  // the largest stock file is a tenth of that
 constexpr uint64_t kSectionCountOffset = 20;
+constexpr size_t kIndexedCharacters = 4;  // of an identifier; the records have room for five
 
 std::string_view LastComponent(std::string_view path) {
     const size_t separator = path.find_last_of("\\/");
@@ -39,24 +40,72 @@ struct RecordStart {
 };
 #pragma pack(pop)
 
+// Bytes that were read ahead. Records may be tiny, and then thousands of heads come with one reading; mostly they
+// are large, and reading more ahead would be in vain.
+constexpr size_t kAhead = 4096;
+struct Window {
+    uint64_t offset = 0;
+    size_t size = 0;
+    uint8_t bytes[kAhead];
+};
+
+// Up to `size` bytes at the offset, fewer at the end of the source.
+Bytes ReadAhead(const ByteSource& source, uint64_t offset, size_t size, Window* window) {
+    const bool held = offset >= window->offset && offset + size <= window->offset + window->size;
+    if (!held) {
+        window->offset = offset;
+        window->size = ReadSource(source, offset, window->bytes, sizeof window->bytes);
+    }
+    const size_t at = static_cast<size_t>(offset - window->offset);
+    return { window->bytes + at, std::min(size, window->size - at) };
+}
+
+// A search for an identifier, or for any airport when it is empty.
+struct Search {
+    std::string_view ident;
+    bool hasSimilar = false;
+    AirportPlace similar;  // the first that shares the characters of an index entry, in case none has them all
+    Window window;
+};
+
+bool IsSimilar(std::string_view found, std::string_view wanted) {
+    return platform::EqualNoCase(found.substr(0, kIndexedCharacters), wanted.substr(0, kIndexedCharacters));
+}
+
 // Walks the heads of the records between `offset` and `end` for the wanted airport.
-bool FindInRecords(const ByteSource& source, uint64_t offset, uint64_t end, std::string_view ident,
-                   AirportPlace* place) {
+bool FindInRecords(const ByteSource& source, uint64_t offset, uint64_t end, Search* search, AirportPlace* place) {
     while (offset + kRecordHeadSize <= end) {
-        RecordStart start;
-        const size_t wanted = static_cast<size_t>(std::min<uint64_t>(sizeof start, end - offset));
-        const size_t got = ReadSource(source, offset, &start, wanted);
-        if (got < kRecordHeadSize || start.size < kRecordHeadSize) return false;
+        const size_t wanted = static_cast<size_t>(std::min<uint64_t>(sizeof(RecordStart), end - offset));
+        const Bytes bytes = ReadAhead(source, offset, wanted, &search->window);
+        RecordStart start = {};
+        std::copy(bytes.begin(), bytes.end(), reinterpret_cast<uint8_t*>(&start));
+        if (bytes.size() < kRecordHeadSize || start.size < kRecordHeadSize) return false;
         if (start.id == kAirportRecord) {
-            if (got < sizeof start) return false;
+            if (bytes.size() < sizeof start || start.size < sizeof start) return false;
             const std::string found = model::UnpackIdent(start.airport.ident >> model::kIdentShift);
-            if (ident.empty() || platform::EqualNoCase(found, ident)) {
-                place->offset = offset;
-                place->size = start.size;
+            const AirportPlace here = { place->path, offset, start.size };
+            if (search->ident.empty() || platform::EqualNoCase(found, search->ident)) {
+                *place = here;
                 return true;
+            }
+            if (!search->hasSimilar && IsSimilar(found, search->ident)) {
+                search->similar = here;
+                search->hasSimilar = true;
             }
         }
         offset += start.size;
+    }
+    return false;
+}
+
+bool FindWhole(SceneryFile* file, Search* search, AirportPlace* place) {
+    for (const SectionEntry& section : file->sections) {
+        if (section.type != kAirportSection || section.sectionClass != kByCell) continue;
+        for (const SubsectionEntry& subsection : ReadSubsections(file, section)) {
+            if (!CoverRecords(file, subsection)) return false;
+            const uint64_t end = uint64_t{ subsection.offset } + subsection.size;
+            if (FindInRecords(file->source, subsection.offset, end, search, place)) return true;
+        }
     }
     return false;
 }
@@ -124,26 +173,23 @@ bool CoverRecords(SceneryFile* file, const SubsectionEntry& subsection) {
 }
 
 bool FindAirport(SceneryFile* file, std::string_view ident, AirportPlace* place) {
-    for (const SectionEntry& section : file->sections) {
-        if (section.type != kAirportSection || section.sectionClass != kByCell) continue;
-        for (const SubsectionEntry& subsection : ReadSubsections(file, section)) {
-            if (!CoverRecords(file, subsection)) return false;
-            const uint64_t end = uint64_t{ subsection.offset } + subsection.size;
-            if (FindInRecords(file->source, subsection.offset, end, ident, place)) return true;
-        }
-    }
-    return false;
+    Search search;
+    search.ident = ident;
+    if (FindWhole(file, &search, place)) return true;
+    if (search.hasSimilar) *place = search.similar;
+    return search.hasSimilar;
 }
 
 std::vector<AirportPlace> FindAllAirports(SceneryFile* file) {
     std::vector<AirportPlace> places;
+    Search search;
     for (const SectionEntry& section : file->sections) {
         if (section.type != kAirportSection || section.sectionClass != kByCell) continue;
         for (const SubsectionEntry& subsection : ReadSubsections(file, section)) {
             if (!CoverRecords(file, subsection)) return places;
             uint64_t offset = subsection.offset;
             const uint64_t end = offset + subsection.size;
-            for (AirportPlace place; FindInRecords(file->source, offset, end, "", &place);) {
+            for (AirportPlace place; FindInRecords(file->source, offset, end, &search, &place);) {
                 places.push_back(place);
                 offset = place.offset + place.size;
             }

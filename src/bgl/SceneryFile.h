@@ -24,8 +24,9 @@ bool IsStockFileName(std::string_view path);
 bool IsOwnFileName(std::string_view path);
 
 // Finds the airport with that identifier (without regard to case), or the first airport when `ident` is
-// empty. Reads only the header, the tables and the heads of airport records. False when the file cannot
-// be opened, is no scenery file, or does not hold it.
+// empty. Identifiers of the airport index have four characters, those of a record up to five: where none is
+// the same, the first with the same four is meant. Reads only the header, the tables and the heads of airport
+// records. False when the file cannot be opened, is no scenery file, or does not hold it.
 bool FindAirportInFile(const std::string& path, std::string_view ident, AirportPlace* place);
 
 // All airports, in the order of the file; none when it cannot be opened or is no scenery file.

@@ -33,7 +33,8 @@ std::map<std::string, StockTables> tablesOf;  // by simulator folder
 uint32_t BlockNumber(int64_t column, int64_t row) { return static_cast<uint32_t>(row + column * kColumnWeight); }
 
 uint32_t BlockOf(model::EncodedPoint point) {
-    // Beyond 180 degrees and beyond a pole, where a corner may lie, encodings are negative or too large.
+    // A corner may lie beyond 180 degrees or a pole: to the west and north its code is negative, to the east and
+    // south too large. Longitudes go round, latitudes stop at the pole.
     const int64_t longitude = (static_cast<int32_t>(point.longitude) + 4 * kTurn) % kTurn;
     const int64_t latitude = std::clamp<int64_t>(static_cast<int32_t>(point.latitude), 0, kPoleToPole - 1);
     return BlockNumber(longitude >> kBlockShift, latitude >> kBlockShift);
@@ -72,17 +73,18 @@ void AddNavaidFile(const std::string& path, FilesOfBlock* files) {
 }
 
 const StockTables& TablesFor(const std::string& simulatorFolder) {
-    const auto [place, isNew] = tablesOf.try_emplace(simulatorFolder);
-    if (!isNew) return place->second;
+    StockTables& tables = tablesOf[simulatorFolder];
+    if (!tables.airports.empty() && !tables.navaids.empty()) return tables;
+    tables = {};
     for (const char* region : kRegions) {
         const std::string folder = simulatorFolder + "\\Scenery\\" + region + "\\Scenery\\";
         for (const platform::FileEntry& entry : platform::ListFiles(folder, ".bgl")) {
-            AddAirportFile(folder, entry.name, &place->second.airports);
+            AddAirportFile(folder, entry.name, &tables.airports);
             if (platform::EqualNoCase(entry.name, std::string("nv9") + region + "0.bgl"))
-                AddNavaidFile(folder + entry.name, &place->second.navaids);
+                AddNavaidFile(folder + entry.name, &tables.navaids);
         }
     }
-    return place->second;
+    return tables;
 }
 
 void AddFilesAt(const FilesOfBlock& files, std::span<const model::EncodedPoint> points,

@@ -11,9 +11,10 @@ namespace bgl {
 
 // The airport files, then the navaid files, that hold something in the block of one of the points
 // (3.75 by 2.8125 degrees); each path once. The region folders of a simulator are listed on the first
-// call for it and remembered.
+// call for it and remembered; while they hold no airport file or no navaid file, every call lists them afresh.
 std::vector<std::string> StockFilesAt(const std::string& simulatorFolder, std::span<const model::EncodedPoint> points);
 
-void ForgetStockFiles();  // the next call lists the folders again
+// The next call lists the folders again: for tests, whose folders change.
+void ForgetStockFiles();
 
 }  // namespace bgl

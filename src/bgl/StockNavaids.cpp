@@ -1,4 +1,5 @@
 // StockNavaids.cpp - the simulator's own navaids around the airport, and what stands in their place.
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -22,7 +23,7 @@ using model::SceneryObject;
 
 struct StockArea {
     CodeRect near, middle, far;
-    uint32_t airportIdent = 0;  // its low five bits cleared
+    uint32_t airportIdent = 0;  // the word of the Airport record
 };
 
 StockArea AreaAround(const SceneryObject* airport) {
@@ -30,12 +31,12 @@ StockArea AreaAround(const SceneryObject* airport) {
         return RectAround(model::PositionOf(airport), miles * model::kMetresPerNauticalMile);
     };
     const uint32_t ident = model::PayloadAs<model::AirportRecord>(airport).ident;
-    return { rect(3), rect(11), rect(26), ident & ~model::kIdentLowBits };
+    return { rect(3), rect(11), rect(26), ident };
 }
 
-// An ILS names its airport in the upper 21 bits of its region word, as the packed identifier.
 bool BelongsTo(uint32_t regionWord, uint32_t airportIdent) {
-    return airportIdent != 0 && (regionWord >> 6 & 0x3FFFFE0) == airportIdent;
+    return model::RegionWordWithAirport(0, airportIdent) != 0 &&
+           model::RegionWordNamesAirport(regionWord, airportIdent);
 }
 
 bool IsWanted(const SceneryObject* navaid, const StockArea& area) {
@@ -49,15 +50,13 @@ bool IsWanted(const SceneryObject* navaid, const StockArea& area) {
 
 void AppendFromFile(SceneryFile* file, const StockArea& area) {
     const auto intersects = [&](uint32_t cell) { return Intersects(RectOfCell(cell), area.far); };
-    for (uint32_t type : { kVorSection, kNdbSection, kMarkerSection }) {
-        WalkNavaids(file, type, intersects, [&](const NavaidRecord& record) {
-            SceneryObject* navaid = MakeNavaid(record.head, record.body);
-            if (!navaid) return;
-            if (!IsWanted(navaid, area)) return model::FreeObject(navaid);
-            navaid->flags |= model::kStock;
-            model::AppendObject(navaid);
-        });
-    }
+    WalkNavaids(file, { kVorSection, kNdbSection, kMarkerSection }, intersects, [&](const NavaidRecord& record) {
+        SceneryObject* navaid = MakeNavaid(record.head, record.body);
+        if (!navaid) return;
+        if (!IsWanted(navaid, area)) return model::FreeObject(navaid);
+        navaid->flags |= model::kStock;
+        model::AppendObject(navaid);
+    });
 }
 
 // The airport itself and the corners of the largest rectangle.
@@ -71,33 +70,48 @@ std::vector<model::EncodedPoint> ProbePoints(const SceneryObject* airport, const
     return points;
 }
 
-bool SameNavaid(const SceneryObject* a, const SceneryObject* b) {
-    if (KindOf(a) != KindOf(b)) return false;
-    const NavaidKey keyA = KeyOf(a), keyB = KeyOf(b);
-    return keyA.ident >> model::kIdentShift == keyB.ident >> model::kIdentShift && keyA.region == keyB.region;
+bool IsNameless(const SceneryObject* navaid) { return KeyOf(navaid).ident >> model::kIdentShift == 0; }
+
+double DistanceApart(const SceneryObject* a, const SceneryObject* b) {
+    return model::DistanceBetween(model::PositionOf(a), model::PositionOf(b));
 }
 
-// An end of a runway may share its ILS identifier with the other: the nearest one is meant.
-SceneryObject* NearestStock(const std::vector<SceneryObject*>& stock, const SceneryObject* own) {
-    SceneryObject* nearest = nullptr;
+bool MayReplace(const SceneryObject* own, const SceneryObject* stock) {
+    if (KindOf(own) != KindOf(stock)) return false;
+    const NavaidKey a = KeyOf(own), b = KeyOf(stock);
+    const bool nameless = IsNameless(own);
+    if (a.ident >> model::kIdentShift != b.ident >> model::kIdentShift || a.region != b.region) return false;
+    const bool needsPlace = nameless || KindOf(own) == model::kMarkerBeacon;
+    return !needsPlace || DistanceApart(own, stock) <= kSamePlace;
+}
+
+struct Pair {
     double distance = 0;
-    for (SceneryObject* candidate : stock) {
-        if (candidate->related || !SameNavaid(candidate, own)) continue;
-        const double d = model::DistanceBetween(model::PositionOf(own), model::PositionOf(candidate));
-        if (nearest && d >= distance) continue;
-        nearest = candidate;
-        distance = d;
+    SceneryObject* own = nullptr;
+    SceneryObject* stock = nullptr;
+};
+
+// Both ends of a runway may share an ILS identifier, so an object may occur in several pairs.
+std::vector<Pair> PossiblePairs(const std::vector<SceneryObject*>& own, const std::vector<SceneryObject*>& stock) {
+    std::vector<Pair> pairs;
+    for (SceneryObject* replacement : own) {
+        for (SceneryObject* replaced : stock) {
+            if (MayReplace(replacement, replaced))
+                pairs.push_back({ DistanceApart(replacement, replaced), replacement, replaced });
+        }
     }
-    return nearest;
+    const auto nearer = [](const Pair& a, const Pair& b) { return a.distance < b.distance; };
+    std::stable_sort(pairs.begin(), pairs.end(), nearer);
+    return pairs;
 }
 
 }  // namespace
 
-void WalkNavaids(SceneryFile* file, uint32_t sectionType, const std::function<bool(uint32_t)>& wanted,
-                 const std::function<void(const NavaidRecord&)>& visit) {
+void WalkNavaids(SceneryFile* file, std::initializer_list<uint32_t> sectionTypes,
+                 const std::function<bool(uint32_t)>& wanted, const std::function<void(const NavaidRecord&)>& visit) {
     NavaidRecord record;
     for (const SectionEntry& section : file->sections) {
-        if (section.type != sectionType) continue;
+        if (std::find(sectionTypes.begin(), sectionTypes.end(), section.type) == sectionTypes.end()) continue;
         for (const SubsectionEntry& subsection : ReadSubsections(file, section)) {
             if (!wanted(subsection.id)) continue;
             if (!CoverRecords(file, subsection)) return;
@@ -119,15 +133,12 @@ void AppendStockNavaids(SceneryFile* file) {
 void TieReplacements() {
     std::vector<SceneryObject*> stock, own;
     for (SceneryObject* object = model::state.head; object; object = object->next) {
-        if (!IsNavaid(object) || object->related) continue;
-        const bool isNameless = KeyOf(object).ident >> model::kIdentShift == 0;  // it names no other, either
-        if (!isNameless) (IsStock(object) ? stock : own).push_back(object);
+        if (IsNavaid(object) && !object->related) (IsStock(object) ? stock : own).push_back(object);
     }
-    for (SceneryObject* replacement : own) {
-        SceneryObject* replaced = NearestStock(stock, replacement);
-        if (!replaced) continue;
-        replaced->related = replacement;
-        replacement->related = replaced;
+    for (const Pair& pair : PossiblePairs(own, stock)) {
+        if (pair.own->related || pair.stock->related) continue;
+        pair.own->related = pair.stock;
+        pair.stock->related = pair.own;
     }
 }
 

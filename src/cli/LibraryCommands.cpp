@@ -22,7 +22,8 @@ struct Row {
     std::string ident, name, city, state, country, path;  // UTF-8
     std::string type;
     uint32_t layer = 0;
-    bool superseded = false;
+    bool superseded = false;   // another file has the airport in a higher layer
+    bool sharesLayer = false;  // another file has it in the same layer
 };
 
 std::string Utf8(std::string_view text) { return platform::Utf8FromWindows1252(text); }
@@ -50,12 +51,18 @@ std::vector<Row> RowsOfLibrary() {
         const Row& before = rows[i - 1];
         const bool sameAirport = before.ident == rows[i].ident;
         rows[i].superseded = sameAirport && (before.superseded || before.layer > rows[i].layer);
+        if (sameAirport && before.layer == rows[i].layer) rows[i].sharesLayer = rows[i - 1].sharesLayer = true;
     }
     return rows;
 }
 
+// A name may hold anything: what would end a field or the line becomes a blank.
 void AppendLine(std::initializer_list<std::string> fields, std::string* text) {
-    for (const std::string& field : fields) *text += (&field == fields.begin() ? "" : "\t") + field;
+    const auto endsField = [](char c) { return c == '\t' || c == '\n' || c == '\r'; };
+    for (const std::string& field : fields) {
+        if (&field != fields.begin()) *text += '\t';
+        for (const char c : field) *text += endsField(c) ? ' ' : c;
+    }
     *text += '\n';
 }
 
@@ -73,6 +80,23 @@ constexpr Statistic kStatistics[] = {
     { "cannot be opened", &bgl::CollectionReport::cannotOpen },
 };
 
+// Of the present files, whether opened in this run or known from the caches.
+struct KindCount {
+    const char* name;
+    bgl::FileKind kind;
+};
+constexpr KindCount kKindCounts[] = {
+    { "kind stock", bgl::FileKind::Stock },
+    { "kind add-on", bgl::FileKind::AddOn },
+    { "kind none", bgl::FileKind::NoAirports },
+};
+
+int64_t FilesOfKind(bgl::FileKind kind) {
+    const auto& files = bgl::library.files;
+    return std::count_if(files.begin(), files.end(),
+                         [&](const bgl::LibraryFile& file) { return file.present && file.kind == kind; });
+}
+
 struct Duration {
     const char* name;
     double bgl::CollectionReport::*seconds;
@@ -88,6 +112,9 @@ std::string StatisticsText() {
     for (const Statistic& row : kStatistics) {
         text += std::string("# ") + row.name + ": " + std::to_string(bgl::library.report.*row.count) + '\n';
     }
+    for (const KindCount& row : kKindCounts) {
+        text += std::string("# ") + row.name + ": " + std::to_string(FilesOfKind(row.kind)) + '\n';
+    }
     for (const Duration& row : kDurations) {
         char line[80];
         std::snprintf(line, sizeof line, "# %s: %.3f\n", row.name, bgl::library.report.*row.seconds);
@@ -95,6 +122,9 @@ std::string StatisticsText() {
     }
     return text;
 }
+
+// Which of two files in one layer the simulator takes, nobody can tell from here.
+const char* Standing(const Row& row) { return row.superseded ? "superseded" : row.sharesLayer ? "same layer" : "wins"; }
 
 std::string RowsText(const std::vector<Row>& rows) {
     std::string text;
@@ -142,6 +172,10 @@ std::string RowsJson(const std::vector<Row>& rows, bool withStatistics) {
             Key(&json, row.name);
             WriteInteger(&json, bgl::library.report.*row.count);
         }
+        for (const KindCount& row : kKindCounts) {
+            Key(&json, row.name);
+            WriteInteger(&json, FilesOfKind(row.kind));
+        }
         for (const Duration& row : kDurations) {
             Key(&json, row.name);
             WriteFixed(&json, bgl::library.report.*row.seconds, 3);
@@ -182,8 +216,7 @@ ToolResult RunFind(const Arguments& arguments) {
     std::string text;
     for (const Row& row : RowsOfLibrary()) {
         if (!platform::EqualNoCase(row.ident, ident)) continue;
-        AppendLine({ row.superseded ? "superseded" : "wins", std::to_string(row.layer), row.type, row.name, row.path },
-                   &text);
+        AppendLine({ Standing(row), std::to_string(row.layer), row.type, row.name, row.path }, &text);
     }
     if (text.empty()) return Failure("no airport '" + ident + "' in the library");
     return { 0, text, "" };

@@ -16,6 +16,13 @@ void RotationChanged() {}  // no read-out here
 
 void PlaceSimAircraft(model::LatLon, double) {}  // no simulator link here
 
+// No mouse here.
+void StartDragTimer() {}
+void StopDragTimer() {}
+void RequestFeedback() {}
+void OpenProperties(model::SceneryObject*) {}
+void ShowRemark(std::string_view) {}
+
 }  // namespace map
 
 namespace bgl {

@@ -112,8 +112,8 @@ constexpr Verb kVerbs[] = {
       kIndexOptions, RunIndex },
     { "find", "SIMFOLDER ID", 2, "tell which scenery files hold an airport",
       "Collects the airports of the library and prints a line for each file that holds the airport ID, the highest "
-      "layer first, with tabs between: \"wins\" or \"superseded\", layer, type, name and file. The simulator shows "
-      "the airport as the file that wins has it.",
+      "layer first, with tabs between: \"wins\", \"same layer\" or \"superseded\", layer, type, name and file. The "
+      "simulator shows the airport as the file that wins has it; of several in the same layer none can be told to win.",
       kFindOptions, RunFind },
 };
 

@@ -26,8 +26,6 @@ using model::PlaceTexts;
 
 constexpr size_t kPlaceLimit = 48;
 constexpr uint32_t kJetFuel = 1u << 31, kAvgas = 1u << 30;
-constexpr int kRegionAirportShift = 11;
-constexpr uint32_t kRegionMask = (1u << kRegionAirportShift) - 1;
 constexpr uint32_t kAirportIdentKind = 1;  // low bits of an airport's ident word
 
 constexpr NumberRow<AirportFields> kRows[] = {
@@ -120,8 +118,7 @@ bool CheckPlaced(const SceneryObject* draft, BadField* bad) {
 
 void SetBit(uint32_t* word, uint32_t bit, bool on) { *word = on ? *word | bit : *word & ~bit; }
 
-// A navaid names its airport in the upper bits of its region word.
-void RenameOwnNavaids(uint32_t oldIdent, uint32_t newIdent, Edits* edits) {
+void RenameOwnNavaids(uint32_t oldIdentWord, uint32_t newIdentWord, Edits* edits) {
     for (SceneryObject* object = model::state.head; object; object = object->next) {
         const uint32_t kind = KindOf(object);
         if (model::IsStock(object) || (kind != model::kIls && kind != model::kVorDme && kind != model::kNdb)) continue;
@@ -129,17 +126,17 @@ void RenameOwnNavaids(uint32_t oldIdent, uint32_t newIdent, Edits* edits) {
             kind == model::kNdb ? offsetof(model::NdbPayload, region) : offsetof(model::VorRecord, region);
         uint32_t region;
         std::memcpy(&region, object->payload + offset, sizeof region);
-        if (region >> kRegionAirportShift != oldIdent) continue;
-        region = newIdent << kRegionAirportShift | (region & kRegionMask);
+        if (!model::RegionWordNamesAirport(region, oldIdentWord)) continue;
+        region = model::RegionWordWithAirport(region, newIdentWord);
         std::memcpy(DraftOf(edits, object)->payload + offset, &region, sizeof region);
     }
 }
 
 void StoreId(const std::string& entered, AirportRecord* record, PlaceTexts* texts, Edits* edits) {
-    const uint32_t old = record->ident >> model::kIdentShift, packed = model::PackIdent(entered);
-    record->ident = packed << model::kIdentShift | (record->ident & model::kIdentLowBits);
+    const uint32_t old = record->ident;
+    record->ident = model::PackIdent(entered) << model::kIdentShift | (old & model::kIdentLowBits);
     texts->icao = platform::UpperCased(entered);
-    if (old != 0) RenameOwnNavaids(old, packed, edits);  // 0 in a region word names no airport
+    if (model::RegionWordWithAirport(0, old) != 0) RenameOwnNavaids(old, record->ident, edits);
 }
 
 void StoreServices(const AirportFields& shown, const AirportFields& entered, AirportRecord* record) {

@@ -63,13 +63,6 @@ std::string DesignatorName(const SceneryObject* designator) {
     return ShowText(record.name, sizeof record.name);
 }
 
-SceneryObject* BlankDesignator() {
-    SceneryObject* designator = model::FirstOfKind(model::state.head, model::kTaxiDesignator);
-    while (designator && !DesignatorName(designator).empty())
-        designator = model::NextOfKind(designator, model::kTaxiDesignator);
-    return designator;
-}
-
 std::vector<DesignatorChoice> DesignatorChoices() {
     std::vector<DesignatorChoice> choices = { { "", BlankDesignator() } };
     for (SceneryObject* object = model::FirstOfKind(model::state.head, model::kTaxiDesignator); object;

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "model/Links.h"
 #include "model/SceneryObject.h"
 
 namespace dialogs {
@@ -40,6 +41,6 @@ struct DesignatorChoice {
 };
 std::vector<DesignatorChoice> DesignatorChoices();
 std::string DesignatorName(const SceneryObject* designator);  // of a TaxiDesignator, UTF-8
-SceneryObject* BlankDesignator();                             // null when the airport has none
+using model::BlankDesignator;
 
 }  // namespace dialogs

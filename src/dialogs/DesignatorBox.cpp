@@ -52,14 +52,21 @@ bool UserWantsNew(const std::string& utf8) {
            platform::Answer::Yes;
 }
 
+// No designator is the blank one.
 void DesignateSelected(SceneryObject* designator, Edits* edits) {
     for (SceneryObject* link = model::FirstOfKind(model::state.head, model::kTaxiLink); link;
          link = model::NextOfKind(link, model::kTaxiLink)) {
-        if (model::IsSelected(link)) DesignateLink(DraftOf(edits, link), designator);
+        if (model::IsSelected(link))
+            DesignateLink(DraftOf(edits, link), designator ? designator : BlankDesignatorIn(edits));
     }
 }
 
 }  // namespace
+
+bool NamesNewDesignator(const std::string& typed) {
+    const std::string name = NameFrom(typed);
+    return !name.empty() && !FindDesignator(platform::Utf8FromWindows1252(name));
+}
 
 SceneryObject* TypeDesignator(const std::string& typed, SceneryObject* current) {
     const std::string name = NameFrom(typed), utf8 = platform::Utf8FromWindows1252(name);

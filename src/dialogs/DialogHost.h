@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "model/Records.h"
 
@@ -14,5 +15,14 @@ void UseLinkTemplate(const model::TaxiLinkPayload& link);
 
 // New spots get this type.
 void UseParkingType(uint32_t type);
+
+// Where the open airport was read from or last saved to, UTF-8; "" for one that is in no file yet.
+std::string AirportFile();
+
+// A dialog over the map opens or closes (OverMap.h): the commands show again which of them can be given.
+void ShowDialogState();
+
+// Opens the manual at a topic such as "#Nodes".
+void OpenHelpTopic(const char* topic);
 
 }  // namespace dialogs

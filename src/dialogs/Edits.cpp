@@ -1,12 +1,12 @@
 // Edits.cpp - see Edits.h.
 #include "dialogs/Edits.h"
 
-#include <cassert>
 #include <cstring>
 
 #include "dialogs/Subject.h"
 #include "model/EditHistory.h"
 #include "model/ObjectList.h"
+#include "model/Replacement.h"
 #include "platform/Platform.h"
 
 namespace dialogs {
@@ -20,32 +20,19 @@ bool SameContent(const SceneryObject* a, const SceneryObject* b) {
 
 // The provisional record leaves the list, takes over the draft's payload and comes back recorded.
 void RecordProvisional(SceneryObject* draft) {
-    SceneryObject* object = state.provisional;
-    state.provisional = nullptr;
+    SceneryObject* object = model::state.provisional;
+    model::state.provisional = nullptr;
     model::UnlinkObject(object);
     std::swap(object->payload, draft->payload);
     std::swap(object->payloadSize, draft->payloadSize);
     model::AddObject(object);
 }
 
-// The draft becomes the replacement; the stock object stays and points to it.
-void RecordReplacement(ObjectPtr draft, SceneryObject* stock) {
-    SceneryObject* replacement = draft.release();
-    replacement->flags &= ~model::kStock;
-    replacement->related = stock;
-    SceneryObject* edited = model::CopyObject(stock);
-    edited->flags &= ~(model::kSelected | model::kWholeSelected);
-    edited->related = replacement;
-    model::AddObject(replacement);
-    model::ModifyObject(edited, stock);
-}
-
 void RecordChange(Edits* edits, Draft* draft) {
     if (KindOf(draft->live) == model::kAirport && edits->texts) {
         model::ModifyAirport(draft->copy.release(), *edits->texts);
     } else if (IsStock(draft->live)) {
-        assert(!draft->live->related);  // a replaced stock object is not shown, so nobody edits it
-        RecordReplacement(std::move(draft->copy), draft->live);
+        model::ReplaceStock(draft->copy.release(), draft->live);
     } else {
         model::ModifyObject(draft->copy.release(), draft->live);
     }

@@ -1,6 +1,7 @@
 // ListRows.cpp - see ListRows.h.
 #include "dialogs/ListRows.h"
 
+#include <algorithm>
 #include <cstdio>
 
 #include "app/Settings.h"
@@ -15,6 +16,8 @@
 #include "dialogs/Subject.h"
 #include "dialogs/TextField.h"
 #include "dialogs/VorDialog.h"
+#include "map/HoldShortUpdate.h"
+#include "map/Selection.h"
 #include "model/DeleteRules.h"
 #include "model/Names.h"
 #include "model/ObjectList.h"
@@ -135,6 +138,8 @@ bool MayDeleteDesignator(const SceneryObject* object) {
     return platform::ShowMessage(question, Buttons::OkCancel, Icon::Exclamation) == Answer::Ok;
 }
 
+char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
 bool IsInList(const SceneryObject* object) {
     for (const SceneryObject* other = model::state.head; other; other = other->next) {
         if (other == object) return true;
@@ -179,7 +184,36 @@ std::vector<ListRow> ListRows(ListKind kind) {
     return rows;
 }
 
-SceneryObject* ObjectOfRow(SceneryObject* object) { return model::IsReplacedStock(object) ? object->related : object; }
+int RowShowing(const std::vector<ListRow>& rows, const SceneryObject* object) {
+    const auto shows = [object](const ListRow& row) { return row.object == object || row.object->related == object; };
+    const auto found = object ? std::find_if(rows.begin(), rows.end(), shows) : rows.end();
+    return found == rows.end() ? -1 : static_cast<int>(found - rows.begin());
+}
+
+std::vector<std::string> CellsOf(const std::string& text) {
+    std::vector<std::string> cells(1);
+    for (const char c : text) {
+        if (c == '\t')
+            cells.emplace_back();
+        else
+            cells.back() += c;
+    }
+    return cells;
+}
+
+int RowBeginningWith(const std::vector<ListRow>& rows, int from, std::string_view typed) {
+    const auto begins = [typed](const std::string& cell) {
+        const auto same = [](char a, char b) { return Lower(a) == Lower(b); };
+        return cell.size() >= typed.size() && std::equal(typed.begin(), typed.end(), cell.begin(), same);
+    };
+    const size_t first = static_cast<size_t>(std::max(from, 0));
+    for (size_t i = 0; i < rows.size(); ++i) {
+        const size_t row = (first + i) % rows.size();
+        const std::vector<std::string> cells = CellsOf(rows[row].text);
+        if (std::any_of(cells.begin(), cells.end(), begins)) return static_cast<int>(row);
+    }
+    return -1;
+}
 
 bool IsEntrySelected(const SceneryObject* object) {
     if (object) return true;
@@ -188,15 +222,19 @@ bool IsEntrySelected(const SceneryObject* object) {
 }
 
 void ShowEntry(SceneryObject* object) {
+    if (!model::HasPosition(object)) {  // the Delete key of the map must not find it
+        map::DeselectAll();
+        return platform::RequestRepaint();
+    }
     SelectOnly(object);
-    if (model::HasPosition(object)) ShowPlace(model::PositionOf(object), true);
+    ShowPlace(model::PositionOf(object), true);
 }
 
 bool DeleteEntry(SceneryObject* object) {
     if (!IsEntrySelected(object)) return false;
     if (KindOf(object) == model::kTaxiDesignator && !MayDeleteDesignator(object)) return false;
     SelectOnly(object);
-    model::DeleteSelected(nullptr);
+    map::EraseSelected();
     return !IsInList(object);
 }
 

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "model/SceneryObject.h"
@@ -25,13 +26,19 @@ const char* ListHeader(ListKind kind);
 std::vector<ListRow> ListRows(ListKind kind);
 std::string RowText(const SceneryObject* object);
 
-// The object that a row shows from now on: a stock navaid that an edit has replaced gives way.
-SceneryObject* ObjectOfRow(SceneryObject* object);
+// The row of the object, or of the one that replaces it; -1 when there is none. The object need not exist any more.
+int RowShowing(const std::vector<ListRow>& rows, const SceneryObject* object);
+
+std::vector<std::string> CellsOf(const std::string& text);  // of a row or a header
+
+// The first row from `from` on, around the end, of which a cell begins with what was typed; -1 when there is none.
+int RowBeginningWith(const std::vector<ListRow>& rows, int from, std::string_view typed);
 
 // Whether a row is selected; without one the message is shown.
 bool IsEntrySelected(const SceneryObject* object);
 
-// A selected row selects its object on the map, which centres it when it cannot be seen.
+// A selected row selects its object on the map, which centres it when it cannot be seen. What has no place on the map
+// selects nothing there.
 void ShowEntry(SceneryObject* object);
 
 // "Delete": asks and refuses by message boxes. Whether the entry is gone.

@@ -34,7 +34,6 @@ constexpr double kNarrowest = 3, kWidest = 6;               // degrees
 constexpr uint8_t kNewFlags = 0x3D;
 constexpr uint32_t kIlsIdentKind = 2;  // low bits of an ILS's ident word
 constexpr const char* kNewIdent = "IABC";
-constexpr int kRegionAirportShift = 11;
 constexpr int kMostDraws = 80;
 constexpr uint32_t kFirstTenth = 1081, kTenths = 39, kHertzPerTenth = 100000;
 
@@ -99,7 +98,7 @@ void FillBody(const RunwayEndRef& ref, const std::function<uint32_t()>& random, 
     body->ident = model::PackIdent(kNewIdent) << model::kIdentShift | kIlsIdentKind;
     if (!model::state.airport) return;
     const uint32_t airport = model::PayloadAs<model::AirportRecord>(model::state.airport).ident;
-    body->region = airport >> model::kIdentShift << kRegionAirportShift;
+    body->region = model::RegionWordWithAirport(0, airport);
 }
 
 void Refuse(const char* message) { platform::ShowMessage(message, platform::Buttons::Ok, platform::Icon::Exclamation); }

@@ -3,8 +3,10 @@
 
 #include <algorithm>
 #include <iterator>
+#include <vector>
 
 #include "dialogs/Edits.h"
+#include "map/HoldShortUpdate.h"
 #include "model/ObjectList.h"
 #include "model/Records.h"
 
@@ -29,6 +31,16 @@ void GiveTypeToSelection(uint8_t type, Edits* edits) {
     }
 }
 
+// Those that get another type.
+std::vector<SceneryObject*> ChangedNodes(const Edits& edits) {
+    std::vector<SceneryObject*> nodes;
+    for (const Draft& draft : edits.drafts) {
+        const uint8_t type = model::PayloadAs<TaxiNodeRecord>(draft.copy.get()).type;
+        if (type != model::PayloadAs<TaxiNodeRecord>(draft.live).type) nodes.push_back(draft.live);
+    }
+    return nodes;
+}
+
 }  // namespace
 
 NodeFields LoadNodeFields(const SceneryObject* node) {
@@ -46,8 +58,13 @@ bool StoreNodeFields(const NodeFields& shown, const NodeFields& entered, Scenery
         GiveTypeToSelection(record.type, &edits);
     }
     // The marker has a direction at hold-short nodes only; others keep the byte that they have.
-    if (record.type == model::kHoldShortNode && entered.reversed != shown.reversed) record.reversed = entered.reversed;
+    const bool chosen = record.type == model::kHoldShortNode && entered.reversed != shown.reversed;
+    if (chosen) record.reversed = entered.reversed;
+    const std::vector<SceneryObject*> changed = ChangedNodes(edits);
     Commit(&edits);
+    for (SceneryObject* other : changed) {  // still the same action
+        if (other != node || !chosen) map::UpdateHoldShort(other);
+    }
     return true;
 }
 

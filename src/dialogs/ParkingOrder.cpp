@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstring>
 #include <iterator>
+#include <unordered_map>
 #include <utility>
 
 #include "dialogs/ParkingCodes.h"
@@ -91,6 +92,17 @@ void SortParking(ParkingKey key, std::vector<ListRow>* rows) {
 void RandomizeParking(const std::function<uint32_t()>& random, std::vector<ListRow>* rows) {
     for (ListRow& row : *rows) std::swap(row, (*rows)[random() % rows->size()]);
     std::stable_sort(rows->begin(), rows->end(), TypeRankBefore);
+}
+
+void OrderLike(const std::vector<ListRow>& before, std::vector<ListRow>* rows) {
+    std::unordered_map<const SceneryObject*, size_t> places;
+    for (const ListRow& row : before) places.emplace(row.object, places.size());
+    const auto placeOf = [&](const ListRow& row) {
+        const auto found = places.find(row.object);
+        return found == places.end() ? places.size() : found->second;
+    };
+    std::stable_sort(rows->begin(), rows->end(),
+                     [&](const ListRow& a, const ListRow& b) { return placeOf(a) < placeOf(b); });
 }
 
 void OriginalParkingOrder(std::vector<ListRow>* rows) { *rows = ListRows(ListKind::Parking); }

@@ -17,6 +17,9 @@ void SortParking(ParkingKey key, std::vector<ListRow>* rows);
 // "Randomize": any order within the spots of one type rank, gates first. `random` gives any numbers.
 void RandomizeParking(const std::function<uint32_t()>& random, std::vector<ListRow>* rows);
 
+// The order of the rows before; rows that were not there come last, in their own order.
+void OrderLike(const std::vector<ListRow>& before, std::vector<ListRow>* rows);
+
 // "Original Order": that of the object list.
 void OriginalParkingOrder(std::vector<ListRow>* rows);
 

@@ -9,6 +9,7 @@
 #include "dialogs/RunwayFollow.h"
 #include "dialogs/RunwayParts.h"
 #include "dialogs/Subject.h"
+#include "model/Names.h"
 #include "model/ObjectList.h"
 
 namespace dialogs {
@@ -75,6 +76,14 @@ std::string MagneticHeadingText(const std::string& heading) {
     const double magnetic = std::fmod(trueHeading + AirportVariation(), 360);  // the variation is west positive
     const std::string text = ShowNumber(kMagneticHeading, magnetic);
     return text == "360.0" ? "0.0" : text;
+}
+
+std::string NameOfEnd(const RunwayEndFields& fields, const SceneryObject* runway, int end) {
+    const RunwayEndPlaces& places = kEndPlaces[end];
+    const uint32_t number = fields.number < 0 ? runway->payload[places.number] : static_cast<uint32_t>(fields.number);
+    const uint32_t suffix =
+        fields.suffix < 0 ? runway->payload[places.designator] : static_cast<uint32_t>(fields.suffix);
+    return model::RunwayEndName(number, suffix);
 }
 
 SceneryObject* InsertRunway() {

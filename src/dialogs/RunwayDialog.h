@@ -69,6 +69,9 @@ bool StoreRunwayFields(const RunwayFields& shown, const RunwayFields& entered, S
 std::string VariationText();                                  // "- Magnetic Variation", east positive
 std::string MagneticHeadingText(const std::string& heading);  // empty when the heading cannot be read
 
+// "16L": the name of an end as its designator boxes stand. A code that is no choice of theirs keeps its name.
+std::string NameOfEnd(const RunwayEndFields& fields, const SceneryObject* runway, int end);
+
 // The user chooses a system where there was none: the other fields of the unit, if all are zero, become
 // those of a usual installation for a runway of that width.
 void ChooseVasiSystem(VasiFields* fields, int system, const std::string& runwayWidth);

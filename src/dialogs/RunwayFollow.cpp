@@ -30,7 +30,6 @@ using model::RunwayPayload;
 using model::RunwayRecord;
 using model::StartLocationRecord;
 
-constexpr int kRegionAirportShift = 11;
 constexpr uint8_t kDesignatorMask = 0x0F;
 constexpr uint32_t kHelipadStart = 3;
 
@@ -122,10 +121,10 @@ bool ServesEnd(const SceneryObject* ils, const SceneryObject* runway, int end) {
     std::memcpy(&named, runway->payload + kEndPlaces[end].ils, sizeof named);
     if (named != 0 || !model::IsStock(ils) || !model::state.airport) return false;
     const auto& payload = model::PayloadAs<IlsPayload>(ils);
-    const uint32_t airport = model::PayloadAs<model::AirportRecord>(model::state.airport).ident >> model::kIdentShift;
     return DesignatorOf(runway, end) ==
                EndDesignator{ payload.localizer.runwayNumber, payload.localizer.runwayDesignator } &&
-           payload.body.region >> kRegionAirportShift == airport;
+           model::RegionWordNamesAirport(payload.body.region,
+                                         model::PayloadAs<model::AirportRecord>(model::state.airport).ident);
 }
 
 EndBelongings BelongingsOf(const SceneryObject* runway, int end) {

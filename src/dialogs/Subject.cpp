@@ -14,27 +14,7 @@
 
 namespace dialogs {
 
-DialogState state;
-
 namespace {
-
-// Where in the payload the object's own position lies: the bytes that change with it.
-size_t OwnPositionOffset(const SceneryObject* object) {
-    switch (model::KindOf(object)) {
-    case model::kAirport: return offsetof(model::AirportRecord, longitude);
-    case model::kTowerViewpoint: return offsetof(model::TowerViewpointRecord, longitude);
-    case model::kRunway: return offsetof(model::RunwayRecord, longitude);
-    case model::kHelipad: return offsetof(model::HelipadRecord, longitude);
-    case model::kStartLocation: return offsetof(model::StartLocationRecord, longitude);
-    case model::kTaxiNode: return offsetof(model::TaxiNodeRecord, longitude);
-    case model::kParkingSpot: return offsetof(model::ParkingSpotRecord, longitude);
-    case model::kMarkerBeacon: return offsetof(model::MarkerBeaconPayload, longitude);
-    case model::kNdb: return offsetof(model::NdbPayload, longitude);
-    default: break;
-    }
-    assert(model::KindOf(object) == model::kIls || model::KindOf(object) == model::kVorDme);
-    return offsetof(model::VorRecord, longitude);
-}
 
 void PutPoint(SceneryObject* object, size_t offset, model::EncodedPoint point) {
     assert(offset + sizeof point <= object->payloadSize);
@@ -44,13 +24,13 @@ void PutPoint(SceneryObject* object, size_t offset, model::EncodedPoint point) {
 }  // namespace
 
 SceneryObject* MakeProvisional(uint32_t kind, size_t payloadSize) {
-    assert(!state.provisional);
-    state.provisional = model::CreateObject(kind, static_cast<uint32_t>(payloadSize));
-    model::AppendObject(state.provisional);
-    return state.provisional;
+    assert(!model::state.provisional);
+    model::state.provisional = model::CreateObject(kind, static_cast<uint32_t>(payloadSize));
+    model::AppendObject(model::state.provisional);
+    return model::state.provisional;
 }
 
-bool IsProvisional(const SceneryObject* object) { return object && object == state.provisional; }
+bool IsProvisional(const SceneryObject* object) { return object && object == model::state.provisional; }
 
 int32_t AirportAltitude() {
     return model::state.airport ? model::PayloadAs<model::AirportRecord>(model::state.airport).altitude : 0;
@@ -58,22 +38,22 @@ int32_t AirportAltitude() {
 
 void CancelDialog() {
     EndPreview();
-    if (SceneryObject* object = state.provisional) {
+    if (SceneryObject* object = model::state.provisional) {
         model::UnlinkObject(object);
         model::FreeObject(object);
-        state.provisional = nullptr;
+        model::state.provisional = nullptr;
     }
     platform::RequestRepaint();
 }
 
 model::CoordinateTexts MoveToClick(SceneryObject* object, size_t offset, model::LatLon at) {
-    const auto moved = std::find_if(state.moved.begin(), state.moved.end(), [&](const MovedPoint& point) {
-        return point.object == object && point.offset == offset;
-    });
-    if (moved == state.moved.end()) {
-        MovedPoint point{ object, offset, {} };
+    const auto moved =
+        std::find_if(model::state.moved.begin(), model::state.moved.end(),
+                     [&](const model::MovedPoint& point) { return point.object == object && point.offset == offset; });
+    if (moved == model::state.moved.end()) {
+        model::MovedPoint point{ object, offset, {} };
         std::memcpy(&point.stored, object->payload + offset, sizeof point.stored);
-        state.moved.push_back(point);
+        model::state.moved.push_back(point);
     }
     const model::BglPoint code = model::LatLonToBgl(at);
     PutPoint(object, offset, { code.lonCode, code.latCode });
@@ -83,19 +63,19 @@ model::CoordinateTexts MoveToClick(SceneryObject* object, size_t offset, model::
 }
 
 model::CoordinateTexts MoveToClick(SceneryObject* object, model::LatLon at) {
-    return MoveToClick(object, OwnPositionOffset(object), at);
+    return MoveToClick(object, model::PositionOffset(KindOf(object)), at);
 }
 
 void EndPreview() {
-    if (state.moved.empty()) return;
-    for (const MovedPoint& point : state.moved) PutPoint(point.object, point.offset, point.stored);
-    state.moved.clear();
+    if (model::state.moved.empty()) return;
+    for (const model::MovedPoint& point : model::state.moved) PutPoint(point.object, point.offset, point.stored);
+    model::state.moved.clear();
     ++model::state.revision;
     platform::RequestRepaint();
 }
 
 void UndoPreviewIn(SceneryObject* copy, const SceneryObject* live) {
-    for (const MovedPoint& point : state.moved) {
+    for (const model::MovedPoint& point : model::state.moved) {
         if (point.object == live) PutPoint(copy, point.offset, point.stored);
     }
 }
@@ -118,7 +98,8 @@ void SelectOnly(SceneryObject* object) {
 void ShowPlace(model::LatLon place, bool onlyWhenOutside) {
     if (map::view.lockedToSim) return;
     const model::Point at = map::WorldToScreen(place);
-    const bool inside = at.x >= 0 && at.y >= 0 && at.x < map::view.clientWidth && at.y < map::view.clientHeight;
+    const map::PixelBox& seen = map::view.visible;
+    const bool inside = at.x >= seen.left && at.y >= seen.top && at.x < seen.right && at.y < seen.bottom;
     if (onlyWhenOutside && inside) return;
     map::view.centre = place;
     platform::RequestRepaint();

@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
 
 #include "model/CoordinateText.h"
 #include "model/Geodesy.h"
@@ -14,20 +13,6 @@
 namespace dialogs {
 
 using model::SceneryObject;
-
-// A position that a click on the map moved for as long as the dialog is open.
-struct MovedPoint {
-    SceneryObject* object = nullptr;
-    size_t offset = 0;           // of the position in the payload
-    model::EncodedPoint stored;  // what the record holds in truth
-};
-
-struct DialogState {
-    SceneryObject* provisional = nullptr;  // at the end of the list, not in the history
-    std::vector<MovedPoint> moved;
-};
-
-extern DialogState state;
 
 // A new record for a dialog: at the end of the list, so that the map shows it, but unrecorded. OK records
 // it (Edits.h), Cancel drops it. Only one at a time.

@@ -63,6 +63,10 @@ int VorPartsOf(const SceneryObject* vor) {
     return flags & kHasVor ? kBoth : kDmeOnly;
 }
 
+bool HasVorPart(int parts) { return parts != kDmeOnly; }
+
+bool HasDmePart(int parts) { return parts != kVorOnly; }
+
 VorFields LoadVorFields(const SceneryObject* vor) {
     const auto& payload = model::PayloadAs<VorDmePayload>(vor);
     VorFields fields;
@@ -98,6 +102,13 @@ bool StoreVorFields(const VorFields& shown, const VorFields& entered, SceneryObj
     if (entered.vorClass >= 0 && entered.vorClass != shown.vorClass) payload.body.type = kClassCodes[entered.vorClass];
     Commit(&edits);
     return true;
+}
+
+void ChooseVorParts(int parts, VorFields* fields) {
+    double range = 1;
+    const bool none = ReadNumber(fields->dmeRange, &range) && range == 0;
+    if (fields->parts == kVorOnly && parts != kVorOnly && none) fields->dmeRange = fields->range;
+    fields->parts = parts;
 }
 
 SceneryObject* InsertVor() {

@@ -27,9 +27,14 @@ struct VorFields {
 };
 
 int VorPartsOf(const SceneryObject* vor);  // position in kVorParts
+bool HasVorPart(int parts);
+bool HasDmePart(int parts);
 
 VorFields LoadVorFields(const SceneryObject* vor);
 bool StoreVorFields(const VorFields& shown, const VorFields& entered, SceneryObject* vor, BadField* bad);
+
+// The user chooses other parts: a DME that comes new reaches as far as the VOR.
+void ChooseVorParts(int parts, VorFields* fields);
 
 // "Insert VOR/DME": a provisional low-altitude VOR with a DME, unplaced, without identifier and frequency.
 SceneryObject* InsertVor();

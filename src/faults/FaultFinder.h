@@ -16,6 +16,9 @@ struct FinderState {
 
 extern FinderState state;
 
+// Opens the window beside the map, a new one each time.
+void OpenFaultFinder();
+
 // When the window opens: the next press begins a new pass. The boxes show state.search.switches.
 void OpenFinder();
 

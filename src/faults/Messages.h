@@ -7,6 +7,9 @@
 namespace faults {
 
 constexpr const char* kCheckingMessage = "Checking...";
+// A property dialog or a drag works on what is selected.
+constexpr const char* kEditUnderWayMessage = "Finish the edit that is open on the map first.";
+
 constexpr const char* kNoFaultsMessage = "No faults found.";
 constexpr const char* kNoMoreFaultsMessage = "No more faults found.";
 

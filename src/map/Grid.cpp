@@ -20,10 +20,9 @@ namespace map {
 
 namespace {
 
-constexpr int kDivisions[] = { 60, 30, 20, 15, 12, 10, 6, 5, 4, 3 };  // seconds, by the setting
 constexpr int kDefaultDivision = 1;
 constexpr int kLabelDivisors[] = { 1, 2, 3, 4, 5, 6, 10, 12, 15, 20 };
-constexpr double kClosestLines = 16, kClosestLabels = 70;  // pixels
+constexpr double kClosestLines = 16, kClosestLabels = 70;  // pixels of a screen
 constexpr int kMinute = 60, kDegree = 3600;                // seconds of arc
 constexpr int kBendPieces = 24;                            // of a line that covers more than a degree
 constexpr int kLabelHeight = 13, kLabelGap = 4;            // pixels
@@ -33,8 +32,8 @@ double MetresPerMinute() { return model::kMetresPerNauticalMile * std::cos(view.
 
 int BaseStep() {
     const int index = app::settings.latLongGridDivs;
-    const bool known = index >= 0 && index < static_cast<int>(std::size(kDivisions));
-    return kDivisions[known ? index : kDefaultDivision];
+    const bool known = index >= 0 && index < static_cast<int>(std::size(kGridDivisions));
+    return kGridDivisions[known ? index : kDefaultDivision];
 }
 
 int LabelStepFor(int step, double pixelsPerSecond) {
@@ -48,7 +47,7 @@ int LabelStepFor(int step, double pixelsPerSecond) {
         break;
     }
     const int limit = 90 * kDegree;  // a view of the whole earth and more
-    while (labelStep * pixelsPerSecond < kClosestLabels && labelStep < limit) labelStep += step;
+    while (labelStep * pixelsPerSecond < kClosestLabels * view.fineness && labelStep < limit) labelStep += step;
     return labelStep;
 }
 
@@ -60,7 +59,7 @@ struct Extent {
 bool FindExtents(Extent* latitudes, Extent* longitudes) {
     constexpr double kPole = 90.0 * kDegree;
     const double width = view.clientWidth, height = view.clientHeight;
-    double lats[4], lons[4];
+    double lats[4] = {}, lons[4] = {};
     int count = 0;
     for (const Point corner : { Point{ 0, 0 }, Point{ width, 0 }, Point{ width, height }, Point{ 0, height } }) {
         const LatLon at = ScreenToWorld(corner);
@@ -92,14 +91,15 @@ std::vector<Point> GridLine(bool isParallel, double at, const Extent& along) {
     return points;
 }
 
-// The piece of the line inside the client area decides where the label goes.
+// The piece of the line that can be seen decides where the label goes.
 void PaintGridLabel(const Painter& painter, const std::vector<Point>& line, const std::string& text) {
     for (size_t i = 1; i < line.size(); ++i) {
         Point from = line[i - 1], to = line[i];
-        if (!CutToBox(ClientBox(), &from, &to)) continue;
+        if (!CutToBox(VisibleBox(), &from, &to)) continue;
         const bool flat = std::abs(to.x - from.x) >= std::abs(to.y - from.y);
         if (flat ? from.x > to.x : from.y < to.y) std::swap(from, to);
-        if (flat ? from.x > 1 : from.y < view.clientHeight - 1) continue;  // the line begins farther on
+        if (flat ? from.x > view.visible.left + 1 : from.y < view.visible.bottom - 1)
+            continue;  // the line begins farther on
         platform::TextRun run;
         run.text = text;
         run.at = ToPixel(from + Point{ kLabelGap, flat ? 0.0 : -kLabelGap });
@@ -132,8 +132,8 @@ GridSpacing ChooseGridSpacing() {
     const double pixelsPerMinute = MetresPerMinute() * view.pixelsPerMetre;
     GridSpacing spacing;
     spacing.step = BaseStep();
-    if (pixelsPerMinute / kMinute * spacing.step < kClosestLines) spacing.step = kMinute;
-    if (pixelsPerMinute < kClosestLines) spacing.step = kDegree;
+    if (pixelsPerMinute / kMinute * spacing.step < kClosestLines * view.fineness) spacing.step = kMinute;
+    if (pixelsPerMinute < kClosestLines * view.fineness) spacing.step = kDegree;
     spacing.labelStep = LabelStepFor(spacing.step, pixelsPerMinute / kMinute);
     return spacing;
 }

@@ -6,6 +6,9 @@
 
 namespace map {
 
+// What the grid setting chooses from, by its value: seconds of arc between lines.
+inline constexpr int kGridDivisions[] = { 60, 30, 20, 15, 12, 10, 6, 5, 4, 3 };
+
 struct GridSpacing {
     int step = 0;       // seconds of arc between lines
     int labelStep = 0;  // seconds of arc between labelled lines; a multiple of `step`

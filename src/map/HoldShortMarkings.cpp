@@ -4,15 +4,13 @@
 // Dimensions follow FAA AC 150/5340-1. Seen from so far that the bars would run together, each group is
 // drawn as one bar.
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <limits>
-#include <utility>
+#include <vector>
 
 #include "map/HoldShort.h"
+#include "map/HoldShortRule.h"
 #include "map/MapView.h"
 #include "map/RunwayShape.h"
-#include "model/Positions.h"
 
 namespace map {
 
@@ -22,59 +20,23 @@ constexpr double kFoot = 0.3048;
 constexpr double kClearBars = 1.5;   // pixels that a bar needs to be drawn by itself
 constexpr double kShortestDash = 3;  // pixels
 constexpr double kRungStep = 10 * kFoot;
+constexpr double kMostHalf = 500;  // metres; wider is no taxiway
 constexpr double kLadderHalf = 4 * kFoot, kRail = 2 * kFoot;
 
-struct Runways {
-    std::vector<std::array<Point, 2>> centreLines;
-};
-
-Runways CollectRunways() {
-    Runways runways;
-    ForEachOfKind(model::kRunway, [&](SceneryObject* object) {
-        const RunwayShape shape = ShapeOfRunway(object);
-        runways.centreLines.push_back({ shape.ends[0].frame.origin, shape.ends[1].frame.origin });
-    });
-    return runways;
-}
-
-// From the point to the nearest point of any centre line; nothing when there is no runway.
-Point TowardRunway(const Runways& runways, Point from) {
-    Point best;
-    double nearest = std::numeric_limits<double>::infinity();
-    for (const auto& [start, end] : runways.centreLines) {
-        const Point line = end - start, offset = from - start;
-        const double square = line.x * line.x + line.y * line.y;
-        const double share = square > 0 ? std::clamp((offset.x * line.x + offset.y * line.y) / square, 0.0, 1.0) : 0;
-        const Point toward = start + line * share - from;
-        if (!(Length(toward) < nearest)) continue;
-        nearest = Length(toward);
-        best = toward;
-    }
-    return best;
-}
-
-// The marking's place: ahead points to the runway side. False when no taxiway runs through the node.
-bool FindFrame(const TaxiNetwork& network, const TaxiHub& hub, Point towardRunway, GroundFrame* frame, double* half) {
-    const TaxiArm* widest = nullptr;
-    const TaxiArm* second = nullptr;
+LinkList LinksOf(const TaxiNetwork& network, const TaxiHub& hub) {
+    LinkList links;
     for (uint32_t i = hub.firstArm; i < hub.firstArm + hub.armCount; ++i) {
-        const TaxiArm& arm = network.arms[i];
-        if (!(arm.half > 0) || IsAlongRunway(network.segments[arm.link])) continue;
-        if (!widest || arm.half > widest->half)
-            second = std::exchange(widest, &arm);
-        else if (!second || arm.half > second->half)
-            second = &arm;
+        links.push_back(network.segments[network.arms[i].link].object);
     }
-    if (!widest) return false;
-    Point ahead = widest->along;
-    // A taxiway that bends at the node is crossed halfway between its arms.
-    if (second && Length(widest->along - second->along) > 0.5) ahead = widest->along - second->along;
-    ahead = ahead * (1 / Length(ahead));
-    if (ahead.x * towardRunway.x + ahead.y * towardRunway.y < 0) ahead = ahead * -1;
-    if (model::PayloadAs<model::TaxiNodeRecord>(hub.object).reversed) ahead = ahead * -1;
-    *frame = { hub.at, TurnedRight(ahead), ahead, view.pixelsPerMetre };
-    *half = widest->half / view.pixelsPerMetre;
-    return true;
+    return links;
+}
+
+// Ahead points to the side of the dashed bars.
+GroundFrame FrameOf(const TaxiHub& hub, const HoldMarking& marking) {
+    const Point ahead = HeadingOnScreen(std::atan2(marking.dashed.x, marking.dashed.y));
+    const bool reversed = model::PayloadAs<model::TaxiNodeRecord>(hub.object).reversed != 0;
+    const Point turned = reversed ? ahead * -1 : ahead;
+    return { hub.at, TurnedRight(turned), turned, view.pixelsPerMetre };
 }
 
 void Bar(const Painter& painter, const GroundFrame& frame, double left, double right, double near, double far) {
@@ -122,17 +84,18 @@ void PaintLadder(const Painter& painter, const GroundFrame& frame, double half) 
 }  // namespace
 
 void PaintHoldShortMarkings(const Painter& painter) {
-    const Runways runways = CollectRunways();
+    const std::vector<model::RunwayArea> runways = model::RunwayAreas();
     FillOnly(painter, InkOf(Ink::TaxiwayLine));
     for (const uint8_t type : { model::kHoldShortNode, model::kIlsHoldShortNode }) {
         for (const TaxiHub& hub : painter.network.hubs) {
             if (model::KindOf(hub.object) != model::kTaxiNode) continue;
             if (model::PayloadAs<model::TaxiNodeRecord>(hub.object).type != type) continue;
-            GroundFrame frame;
-            double half = 0;
-            if (!FindFrame(painter.network, hub, TowardRunway(runways, hub.at), &frame, &half)) continue;
-            if (!Meets(BoundsOf(hub.at, (half + kLadderHalf) * frame.scale), painter.clip)) continue;
-            if (half > 500) continue;  // metres: no taxiway
+            HoldMarking marking;
+            if (!FindHoldMarking(hub.object, LinksOf(painter.network, hub), runways, &marking)) continue;
+            const double half = marking.halfWidth;
+            if (!Meets(BoundsOf(hub.at, (half + kLadderHalf) * view.pixelsPerMetre), painter.clip)) continue;
+            if (half > kMostHalf) continue;
+            const GroundFrame frame = FrameOf(hub, marking);
             type == model::kHoldShortNode ? PaintBars(painter, frame, half) : PaintLadder(painter, frame, half);
         }
     }

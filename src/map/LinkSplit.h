@@ -15,10 +15,19 @@ bool OnLinkTest(model::LatLon a, model::LatLon b, model::LatLon* point);
 // Adds a link made by a tool. A link that joins the same two objects, either way round, is removed first.
 void AddLink(model::SceneryObject* link);
 
+// The same for a link that stays but for one end: the others that join its two objects.
+void RemoveOtherLinks(const model::SceneryObject* start, const model::SceneryObject* end,
+                      const model::SceneryObject* kept);
+
 // Two new links, from the node to either end of the old link, take its place.
 void SplitLink(model::SceneryObject* link, model::SceneryObject* node);
 
-// Splits every link that passes under the node, which moves onto them.
-void JoinNodeIntoLinks(model::SceneryObject* node);
+// Moves the point onto the links that pass under it: onto one of them, or to where the two nearest cross. False when
+// none passes.
+bool SnapToLinks(model::LatLon* point, const model::SceneryObject* except);
+
+// Splits every link that passes under the node, which moves onto them, and turns the hold-short markings at their ends.
+// The order of the list makes no difference. `except` stays whole.
+void JoinNodeIntoLinks(model::SceneryObject* node, const model::SceneryObject* except = nullptr);
 
 }  // namespace map

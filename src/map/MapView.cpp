@@ -8,6 +8,8 @@
 
 #include "map/MapHost.h"
 #include "map/Shapes.h"
+#include "model/ObjectList.h"
+#include "model/Positions.h"
 #include "platform/Platform.h"
 
 namespace map {
@@ -51,8 +53,11 @@ void ResizeView(int32_t width, int32_t height) {
     const int32_t halfWidth = width / 2, halfHeight = height / 2;  // whole pixels
     view.screenCentreX = halfWidth;
     view.screenCentreY = halfHeight;
+    view.visible = { 0, 0, width, height };
     MeasureScale();
 }
+
+void SetVisible(const PixelBox& visible) { view.visible = visible; }
 
 model::Point WorldToScreen(LatLon position) {
     model::Polar polar = model::RangeAndBearing(view.centre, position);
@@ -118,9 +123,12 @@ void PanDrag(Pixel at) {
 }
 
 void SlewHome() {
+    if (model::state.airport) view.home = model::PositionOf(model::state.airport);  // it may have been moved
     if (!view.lockedToSim) {
         view.centre = view.home;
         view.rotation = 0;
+        simAircraft.position = view.home;  // where it is about to be
+        simAircraft.heading = 0;
         ShowRotation();
     }
     PlaceSimAircraft(view.home, 0);

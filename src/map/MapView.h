@@ -14,12 +14,18 @@ using model::Pixel;
 
 constexpr double kInitialSpan = 3704.3518;  // two nautical miles
 
+struct PixelBox {
+    int32_t left = 0, top = 0, right = 0, bottom = 0;  // right and bottom outside
+};
+
 struct MapView {
     LatLon centre, home;         // radians, west-positive; home is the airport reference point
     double span = kInitialSpan;  // metres of ground across the height of the client area
     double pixelsPerMetre = 0;   // clientHeight / span, computed whenever the client area is measured
     double rotation = 0;         // radians, [0, 2 pi); 0 is north up
     int32_t clientWidth = 0, clientHeight = 0;
+    PixelBox visible;     // what the bars of the window leave of the client area
+    double fineness = 1;  // how many pixels take the room of one of a screen: more on a printer, never fewer
     double screenCentreX = 0, screenCentreY = 0;  // client size halved with integer division
     Pixel lastDragPoint;
     bool lockedToSim = false;  // panning and rotation are refused, zoom still works
@@ -45,11 +51,13 @@ extern MapLayers layers;
 struct SimAircraft {
     bool active = false;  // the link is up
     LatLon position;
+    double heading = 0;  // radians true
 };
 
 extern SimAircraft simAircraft;
 
-void ResizeView(int32_t width, int32_t height);  // measures the client area
+void ResizeView(int32_t width, int32_t height);  // measures the client area, all of it visible
+void SetVisible(const PixelBox& visible);
 model::Point WorldToScreen(LatLon position);
 LatLon ScreenToWorld(model::Point pixel);
 Pixel WorldToPixel(LatLon position);  // truncated toward zero

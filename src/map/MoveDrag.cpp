@@ -3,131 +3,183 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
+#include <cstring>
 #include <unordered_set>
 #include <vector>
 
+#include "map/ApronShape.h"
+#include "map/HoldShortUpdate.h"
 #include "map/MapView.h"
+#include "map/MovedPoints.h"
+#include "map/Placing.h"
+#include "model/EdgeLights.h"
 #include "model/EditHistory.h"
 #include "model/ObjectList.h"
-#include "model/Positions.h"
+#include "model/Records.h"
+#include "model/Replacement.h"
+#include "model/Triangulate.h"
 #include "platform/Platform.h"
 
 namespace map {
 
+using model::KindOf;
+using model::PayloadAs;
 using model::SceneryObject;
 
 namespace {
 
 struct MovedObject {
     SceneryObject* object;
-    model::BglPoint home;    // encoded, so that an object put back is bit for bit what it was
-    model::LatLon position;  // where the move has brought it
+    std::vector<uint32_t> points;  // that move
+    bool whole;                    // or only a part of it
+    std::vector<uint8_t> home;     // the payload, so that what is put back is bit for bit what it was
 };
 
 struct MoveState {
-    bool armed = false, moving = false;
-    bool wasMoved = false;  // the pointer is over another place of the ground than at the press
-    Pixel press;
-    LatLon from;  // the place under the press
+    bool moving = false;
+    LatLon from;          // the place under the press
+    model::Local offset;  // from there to the pointer, the last that all objects could follow
     std::vector<MovedObject> objects;
 };
 
 MoveState move;
 
-bool IsMovable(const SceneryObject* object) {
-    const uint32_t kind = model::KindOf(object);
-    return kind == model::kTaxiNode || kind == model::kParkingSpot;
-}
+using Carried = std::unordered_set<const SceneryObject*>;
 
-void StoreCode(SceneryObject* object, model::BglPoint code) {
-    const model::EncodedPoint point = { code.lonCode, code.latCode };
-    if (model::KindOf(object) == model::kTaxiNode) {
-        auto& node = model::PayloadAs<model::TaxiNodeRecord>(object);
-        node.longitude = point.longitude;
-        node.latitude = point.latitude;
-    } else {
-        auto& spot = model::PayloadAs<model::ParkingSpotRecord>(object);
-        spot.longitude = point.longitude;
-        spot.latitude = point.latitude;
-    }
-}
-
-// A selection moves as a whole or not at all.
-bool IsSelectionMovable() {
+// What links and guidelines take with them.
+Carried CarriedObjects() {
+    Carried carried;
     for (const SceneryObject* o = model::state.head; o; o = o->next) {
-        if (model::IsSelected(o) && !IsMovable(o)) return false;
+        if (!model::IsSelected(o)) continue;
+        if (KindOf(o) == model::kTaxiLink) {
+            const auto& link = PayloadAs<model::TaxiLinkPayload>(o);
+            carried.insert({ link.start, link.end });
+        } else if (KindOf(o) == model::kGuideline) {
+            const auto& line = PayloadAs<model::GuidelinePayload>(o);
+            carried.insert({ line.from, line.to });
+        }
     }
-    return true;
+    return carried;
 }
 
-void Begin() {
-    move.armed = false;
-    if (!IsSelectionMovable()) return;
+bool MayMove(const SceneryObject* object) {
+    return !model::IsStock(object) || (layers.navaids && !model::IsReplacedStock(object));
+}
+
+void Collect() {
+    const Carried carried = CarriedObjects();
     for (SceneryObject* o = model::state.head; o; o = o->next) {
-        if (!model::IsSelected(o) || !IsMovable(o)) continue;
-        move.objects.push_back({ o, model::EncodedPositionOf(o), model::PositionOf(o) });
+        const bool taken = carried.contains(o);
+        if ((!taken && !model::IsSelected(o)) || !MayMove(o)) continue;
+        const bool whole = taken || (o->flags & model::kWholeSelected) != 0;
+        std::vector<uint32_t> points = MovingPoints(o, whole);
+        if (points.empty() && KindOf(o) != model::kReferenceMarker) continue;
+        move.objects.push_back({ o, std::move(points), whole, { o->payload, o->payload + o->payloadSize } });
     }
-    move.moving = !move.objects.empty();
-    model::state.busy = move.moving;
 }
 
-// Something else may have taken objects out of the list meanwhile: those are left alone.
-void DropAbsentObjects() {
+// Something else may have taken objects out of the list meanwhile, or changed them: those are left alone.
+void DropForeignObjects() {
     std::unordered_set<const SceneryObject*> live;
-    for (SceneryObject* o = model::state.head; o; o = o->next) live.insert(o);
-    std::erase_if(move.objects, [&](const MovedObject& moved) { return !live.contains(moved.object); });
+    for (const SceneryObject* o = model::state.head; o; o = o->next) live.insert(o);
+    std::erase_if(move.objects, [&](const MovedObject& moved) {
+        return !live.contains(moved.object) || moved.object->payloadSize != moved.home.size();
+    });
+}
+
+void PutHome(const MovedObject& moved) {
+    if (moved.points.empty()) std::memcpy(moved.object->payload, moved.home.data(), moved.home.size());
+    for (const uint32_t point : moved.points) {
+        std::memcpy(moved.object->payload + point, moved.home.data() + point, sizeof(model::EncodedPoint));
+    }
 }
 
 void PutBack() {
-    DropAbsentObjects();
-    for (const MovedObject& moved : move.objects) StoreCode(moved.object, moved.home);
+    DropForeignObjects();
+    for (const MovedObject& moved : move.objects) PutHome(moved);
     model::state.busy = false;
 }
 
-LatLon UnderPixel(Pixel at) { return ScreenToWorld({ double(at.x), double(at.y) }); }
-
-}  // namespace
-
-void ArmMove(Pixel press) {
-    move = {};
-    move.armed = true;
-    move.press = press;
-    move.from = UnderPixel(press);
-}
-
-bool FollowMove(Pixel pointer) {
-    const bool left =
-        std::abs(pointer.x - move.press.x) >= kDragThreshold || std::abs(pointer.y - move.press.y) >= kDragThreshold;
-    if (move.armed && left) Begin();
-    if (!move.moving) return false;
-    const model::Local offset = model::LatLonToLocal(move.from, UnderPixel(pointer));
-    if (!std::isfinite(offset.east) || !std::isfinite(offset.north)) return true;
-    const auto to = [&](const MovedObject& moved) {
-        return model::LocalToLatLon(model::BglToLatLon(moved.home), offset);
-    };
-    const auto isPastAPole = [&](const MovedObject& moved) { return std::fabs(to(moved).lat) >= model::kPi / 2; };
-    if (std::any_of(move.objects.begin(), move.objects.end(), isPastAPole)) return true;  // stays where it was
-    move.wasMoved = offset.east != 0 || offset.north != 0;
-    for (MovedObject& moved : move.objects) {
-        moved.position = to(moved);
-        model::SetPosition(moved.object, moved.position);
+bool ShiftAll(model::Local offset) {
+    for (const MovedObject& moved : move.objects) {
+        PutHome(moved);
+        if (!ShiftPoints(moved.object, moved.points, offset)) return false;
     }
-    platform::RequestRepaint();
     return true;
 }
 
-void FinishMove() {
-    move.armed = false;
-    if (!move.moving) return;
-    PutBack();
-    if (!move.wasMoved) move.objects.clear();  // back where it began: nothing to record
-    model::BeginAction();
-    for (const MovedObject& moved : move.objects) {
-        SceneryObject* edited = model::CopyObject(moved.object);
-        model::SetPosition(edited, moved.position);
-        model::ModifyObject(edited, moved.object);
+// The painted surface follows the outline; the selected corners stay selected.
+SceneryObject* WithSurface(SceneryObject* shifted) {
+    SceneryObject* apron = model::CopyWithOutline(shifted, model::ApronOutline(shifted));
+    std::memcpy(PayloadAs<model::ApronHead>(apron).selection, PayloadAs<model::ApronHead>(shifted).selection,
+                sizeof(model::ApronHead::selection));
+    model::FreeObject(shifted);
+    return apron;
+}
+
+bool StartMoved(const model::EdgeLightStrip& a, const model::EdgeLightStrip& b) {
+    return a.startLongitude != b.startLongitude || a.startLatitude != b.startLatitude;
+}
+
+bool EndMoved(const model::EdgeLightStrip& a, const model::EdgeLightStrip& b) {
+    return a.endLongitude != b.endLongitude || a.endLatitude != b.endLatitude;
+}
+
+// Strips whose length changed end at a lamp again, if that is wanted.
+void AdjustStrips(SceneryObject* lights, const SceneryObject* before) {
+    if (!model::state.edgeLights.adjust) return;
+    std::vector<model::EdgeLightStrip> strips = model::StripsOf(lights);
+    const std::vector<model::EdgeLightStrip> old = model::StripsOf(before);
+    for (size_t i = 0; i < strips.size() && i < old.size(); ++i) {
+        if (StartMoved(strips[i], old[i]) == EndMoved(strips[i], old[i])) continue;
+        strips[i].spacing = static_cast<float>(
+            model::AdjustedSpacing(model::StripLength(strips[i]), model::state.edgeLights.optimumSpacing));
     }
+    model::SetStrips(lights, strips);
+}
+
+void Record(const MovedObject& moved) {
+    SceneryObject* edited = model::CopyObject(moved.object);
+    if (!ShiftPoints(edited, moved.points, move.offset) ||
+        std::memcmp(edited->payload, moved.object->payload, edited->payloadSize) == 0)
+        return model::FreeObject(edited);
+    if (KindOf(edited) == model::kApron && !moved.whole) edited = WithSurface(edited);
+    if (KindOf(edited) == model::kApronEdgeLights) AdjustStrips(edited, moved.object);
+    if (model::IsStock(edited))
+        model::ReplaceStock(edited, moved.object);
+    else
+        model::ModifyObject(edited, moved.object);
+}
+
+}  // namespace
+
+void BeginMove(Pixel press) {
+    move = {};
+    move.from = UnderPixel(press);
+    Collect();
+    move.moving = model::state.busy = !move.objects.empty();
+}
+
+void FollowMove(Pixel pointer) {
+    if (!move.moving) return;
+    const model::Local offset = model::LatLonToLocal(move.from, UnderPixel(pointer));
+    if (!std::isfinite(offset.east) || !std::isfinite(offset.north)) return;
+    DropForeignObjects();
+    if (ShiftAll(offset))
+        move.offset = offset;
+    else
+        ShiftAll(move.offset);  // one would go past a pole: all stay where they were
+    platform::RequestRepaint();
+}
+
+void FinishMove() {
+    if (!move.moving) return ForgetMove();
+    PutBack();
+    if (move.offset.east == 0 && move.offset.north == 0) move.objects.clear();  // back where it began
+    const HoldShortSides before = NoteHoldShorts();
+    model::BeginAction();
+    for (const MovedObject& moved : move.objects) Record(moved);
+    if (!move.objects.empty()) FollowHoldShorts(before);
     ForgetMove();
     platform::RequestRepaint();
 }
@@ -141,5 +193,7 @@ void CancelMove() {
 }
 
 void ForgetMove() { move = {}; }
+
+bool IsMoving() { return move.moving; }
 
 }  // namespace map

@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kVertexReach = 3;            // pixels from the middle of a vertex mark to its sides
 constexpr double kLightReach = 0.4;        // metres, radius of a lamp
-constexpr double kClosestLights = 3;       // pixels; closer ones are not told apart and not drawn
+constexpr double kClosestLights = 6;       // pixels; closer ones are not told apart and not drawn
 constexpr double kLongestStrip = 200'000;  // metres; anything longer is a damaged record
 
 bool IsWholeSelected(const SceneryObject* apron) {

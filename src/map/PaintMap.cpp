@@ -12,7 +12,7 @@ namespace map {
 
 namespace {
 
-constexpr double kMarkingScale = 0.3;  // pixels per metre from which taxiway markings are drawn
+constexpr double kMarkingScale = 0.3;  // pixels per metre from which taxiway markings and lamps are drawn
 constexpr int kCrossHairReach = 22;    // pixels, each side of the aircraft
 
 void PaintBackground(const Painter& painter) {
@@ -40,7 +40,10 @@ void PaintPlaces(Painter* painter) {
         PaintTaxiNodes(painter);
         PaintTaxiLinks(painter);
     }
-    if (layers.lights) PaintRunwayLights(painter);
+    if (layers.lights) {
+        if (painter->scale >= kMarkingScale) PaintTaxiwayLights(painter);
+        PaintRunwayLights(painter);
+    }
     PaintReferencePoint(painter);
     PaintTower(painter);
     if (layers.starts) PaintStartLocations(painter);
@@ -103,6 +106,7 @@ void PaintMap(Canvas* canvas) {
 
 void PaintFeedback(Canvas* canvas) {
     if (simAircraft.active && !view.lockedToSim) PaintCrossHair(canvas);
+    PaintToolFeedback(canvas);
 }
 
 }  // namespace map

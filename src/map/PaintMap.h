@@ -14,5 +14,6 @@ void PaintMap(platform::Canvas* canvas);
 
 // Draws what belongs on the window itself after the copy: the feedback of the active mouse tool.
 void PaintFeedback(platform::Canvas* canvas);
+void PaintToolFeedback(platform::Canvas* canvas);  // the tool's part of it
 
 }  // namespace map

@@ -10,6 +10,7 @@
 #include "map/MapView.h"
 #include "map/Painter.h"
 #include "map/RunwayShape.h"
+#include "map/Selection.h"
 #include "model/Ident.h"
 #include "model/Positions.h"
 
@@ -18,6 +19,7 @@ namespace map {
 namespace {
 
 constexpr double kBeamLength = 5556;                     // 3 nautical miles of the beam are drawn
+constexpr int kBarbs = 36;                               // lines across the right half of the beam
 constexpr double kMostBeamWidth = 60;                    // degrees; more is no localizer
 constexpr double kAntennaHalf = 22, kAntennaDepth = 3;   // metres: the row of antennas across the course
 constexpr double kGlideSlopeReach = 18, kDmeReach = 11;  // metres from the middle to the corners
@@ -26,7 +28,6 @@ constexpr double kNdbRadius = 40, kVorRadius = 45;
 constexpr int kLeastSymbol = 9;                  // pixels
 constexpr int kLabelHeight = 13, kLabelGap = 3;  // pixels
 
-enum IlsPart : uint8_t { kLocalizer = 1, kGlideSlope = 2, kDme = 4 };
 constexpr uint8_t kNotDmeOnly = 0x01;
 
 double SymbolReach(double metres) { return std::max(ScaledPixels(metres), kLeastSymbol); }
@@ -68,39 +69,61 @@ double DistanceToThreshold(const model::IlsPayload& ils, Point antenna, Point co
     return distance;
 }
 
-// The chart's feather: the beam's outline, its right half filled, notched at the far end.
-void PaintLocalizer(const Painter& painter, const model::IlsPayload& ils, bool selected, ScreenParts* parts) {
-    const Point antenna = WorldToScreen(PositionOfCode(ils.body.latitude, ils.body.longitude));
-    const Point course = HeadingOnScreen(double{ ils.localizer.heading } * model::kRadiansPerDegree);
-    const Point right = TurnedRight(course);
+// An ILS on the screen: where the antenna stands and which way the course leads.
+struct Course {
+    Point antenna, along, right;
+    double spread = 0;  // half the beam's width at a distance of 1
+    Colour line, fill;
+};
+
+Course CourseOf(const model::IlsPayload& ils, bool selected) {
+    Course course;
+    course.antenna = WorldToScreen(PositionOfCode(ils.body.latitude, ils.body.longitude));
+    course.along = HeadingOnScreen(double{ ils.localizer.heading } * model::kRadiansPerDegree);
+    course.right = TurnedRight(course.along);
     const double width = std::clamp(double{ ils.localizer.width }, 0.0, kMostBeamWidth);
-    const double spread = std::tan(width / 2 * model::kRadiansPerDegree);
-    const double near = DistanceToThreshold(ils, antenna, course), far = near + kBeamLength * painter.scale;
+    course.spread = std::tan(width / 2 * model::kRadiansPerDegree);
+    course.line = InkOf(selected ? Ink::SelectedOutline : Ink::Navaid);
+    course.fill = InkOf(selected ? Ink::SelectedFill : Ink::NavaidFill);
+    return course;
+}
+
+// The chart's feather: the beam's outline, notched at the far end, with barbs on its right half that leave the
+// runway's name and its lights in sight. The selected beam is filled.
+void PaintBeam(const Painter& painter, const model::IlsPayload& ils, const Course& course, bool selected,
+               ScreenParts* parts) {
+    const double near = DistanceToThreshold(ils, course.antenna, course.along);
+    const double far = near + kBeamLength * painter.scale, notch = far - (far - near) * 0.08;
     const auto at = [&](double side, double distance) {
-        return antenna - course * distance + right * (side * distance * spread);
+        return course.antenna - course.along * distance + course.right * (side * distance * course.spread);
     };
-    const Colour line = InkOf(selected ? Ink::SelectedOutline : Ink::Navaid);
-    const Colour fill = InkOf(selected ? Ink::SelectedFill : Ink::NavaidFill);
     const std::array beam = { at(-1, near), at(1, near), at(1, far), at(-1, far) };
-    const double notch = far - (far - near) * 0.08;
-    if (Meets(BoundsOf(beam), painter.clip)) {
-        parts->beam = ToPixels(beam);
-        const std::array rightHalf = { at(0, near), beam[1], beam[2], at(0, notch) };
-        const std::array leftHalf = { at(0, near), beam[0], beam[3], at(0, notch) };
-        Fill(painter, fill, line);
-        FillPolygon(painter.canvas, rightHalf);
-        Stroke(painter, 1, line);
-        FillPolygon(painter.canvas, leftHalf);
+    if (!Meets(BoundsOf(beam), painter.clip)) return;
+    parts->beam = ToPixels(beam);
+    const std::array rightHalf = { at(0, near), beam[1], beam[2], at(0, notch) };
+    const std::array leftHalf = { at(0, near), beam[0], beam[3], at(0, notch) };
+    Stroke(painter, 1, course.line);
+    FillPolygon(painter.canvas, leftHalf);
+    if (selected) Fill(painter, course.fill, course.line);
+    FillPolygon(painter.canvas, rightHalf);
+    const double step = (notch - near) / kBarbs;
+    for (int i = 1; i < kBarbs && !selected; ++i) {
+        StrokeLine(painter.canvas, at(0, near + i * step), at(1, near + (i + 1) * step));
     }
-    const GroundFrame frame = { antenna, right, course, painter.scale };
+}
+
+void PaintLocalizer(const Painter& painter, const model::IlsPayload& ils, bool selected, ScreenParts* parts) {
+    const Course course = CourseOf(ils, selected);
+    PaintBeam(painter, ils, course, selected, parts);
+    const GroundFrame frame = { course.antenna, course.right, course.along, painter.scale };
     const double half = std::max(kAntennaHalf, kLeastSymbol / painter.scale);
     const double depth = std::max(kAntennaDepth, 2 / painter.scale);
     const auto row = Rectangle(frame, -half, half, -depth, depth);
     if (!Meets(BoundsOf(row), painter.clip)) return;
     parts->localizer = ToPixels(row);
-    Fill(painter, selected ? fill : line, line);
+    Fill(painter, selected ? course.fill : course.line, course.line);
     FillPolygon(painter.canvas, row);
-    PaintIdent(painter, ils.body.ident, antenna, half * painter.scale, line);
+    PaintIdent(painter, ils.body.ident, course.antenna, half * painter.scale, course.line);
 }
 
 void PaintGlideSlope(const Painter& painter, const model::IlsPayload& ils, bool selected, ScreenParts* parts) {
@@ -131,13 +154,11 @@ void PaintDme(const Painter& painter, const model::DmePart& dme, bool selected, 
 void PaintIls(const Painter& painter, SceneryObject* object) {
     const auto& ils = model::PayloadAs<model::IlsPayload>(object);
     const bool whole = (object->flags & model::kWholeSelected) != 0;
-    const auto lit = [&](IlsPart part) {
-        return model::IsSelected(object) && (whole || (ils.selectedParts & part) != 0);
-    };
+    const auto lit = [&](int part) { return model::IsSelected(object) && (whole || (ils.selectedParts & part) != 0); };
     ScreenParts& parts = PlaceParts(object);
-    PaintLocalizer(painter, ils, lit(kLocalizer), &parts);
-    if (ils.body.flags & model::kHasGlideSlope) PaintGlideSlope(painter, ils, lit(kGlideSlope), &parts);
-    if (ils.body.flags & model::kHasDme) PaintDme(painter, ils.dme, lit(kDme), &parts.dme);
+    PaintLocalizer(painter, ils, lit(kLocalizerPart), &parts);
+    if (ils.body.flags & model::kHasGlideSlope) PaintGlideSlope(painter, ils, lit(kGlideSlopePart), &parts);
+    if (ils.body.flags & model::kHasDme) PaintDme(painter, ils.dme, lit(kDmePart), &parts.dme);
 }
 
 // A lens across the course.

@@ -4,6 +4,7 @@
 
 #include "map/MapView.h"
 #include "map/Painter.h"
+#include "map/SpotColours.h"
 #include "model/Positions.h"
 #include "model/Records.h"
 
@@ -11,7 +12,6 @@ namespace map {
 
 namespace {
 
-constexpr double kNodeRadius = 6.096;        // 20 feet
 constexpr double kHoldShortLimit = 68.58;    // 225 feet: AI stops for good when it holds farther out
 constexpr double kLinkWidth = 0.4572;        // 1.5 feet
 constexpr double kClosedCrossReach = 15.24;  // 50 feet
@@ -59,13 +59,24 @@ void PaintPointer(const Painter& painter, Point at, double heading, double radiu
     FillPolygon(painter.canvas, corners);
 }
 
-void PaintSpot(const Painter& painter, SceneryObject* spot, Point at) {
+struct SpotInk {
+    Colour fill, outline;
+};
+
+SpotInk InkOfSpot(const SpecIndex& specs, const SceneryObject* spot) {
+    if (model::IsSelected(spot)) return { InkOf(Ink::SelectedFill), InkOf(Ink::SelectedOutline) };
+    const app::ParkingSpec* spec = SpecOfSpot(specs, spot);
+    if (!spec || !spec->hasColour) return { InkOf(Ink::ParkingFill), InkOf(Ink::ParkingOutline) };
+    return { ColourOfSpec(*spec), InkOf(Ink::SpecOutline) };
+}
+
+void PaintSpot(const Painter& painter, const SpecIndex& specs, SceneryObject* spot, Point at) {
     const auto& record = model::PayloadAs<model::ParkingSpotRecord>(spot);
     if (!Contains(painter.clip, at)) return;
     const int radius = ScaledPixels(double{ record.radius });
     PlaceCircle(spot, ToPixel(at), radius);
-    const Colour outline = OutlineInk(spot, Ink::ParkingOutline);
-    Fill(painter, FillInk(spot, Ink::ParkingFill), outline);
+    const SpotInk ink = InkOfSpot(specs, spot);
+    Fill(painter, ink.fill, ink.outline);
     FillCircle(painter.canvas, at, radius);
     PaintPointer(painter, at, double{ record.heading } * model::kRadiansPerDegree, radius);
 }
@@ -99,10 +110,11 @@ void PaintLink(const Painter& painter, const TaxiSegment& segment) {
 }  // namespace
 
 void PaintParkingSpots(Painter* painter) {
+    const SpecIndex specs = IndexSpecs();
     for (const bool selected : { false, true }) {
         for (const TaxiHub& hub : painter->network.hubs) {
             if (model::KindOf(hub.object) != model::kParkingSpot || model::IsSelected(hub.object) != selected) continue;
-            PaintSpot(*painter, hub.object, hub.at);
+            PaintSpot(*painter, specs, hub.object, hub.at);
         }
     }
 }

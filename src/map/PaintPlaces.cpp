@@ -6,6 +6,7 @@
 #include "map/FaultMarker.h"
 #include "map/MapView.h"
 #include "map/Painter.h"
+#include "map/Placing.h"
 #include "model/ObjectList.h"
 #include "model/Positions.h"
 #include "model/Records.h"
@@ -32,13 +33,6 @@ bool PlaceSymbol(const Painter& painter, SceneryObject* object, int radius, Poin
     if (!Meets(BoundsOf(*at, radius), painter.clip)) return false;
     PlaceCircle(object, ToPixel(*at), radius);
     return true;
-}
-
-bool IsTowerPlaced(const SceneryObject* tower) {
-    const auto& record = model::PayloadAs<model::TowerViewpointRecord>(tower);
-    const bool placeholder =
-        record.longitude == model::kPlaceholderLongitude && record.latitude == model::kPlaceholderLatitude;
-    return !placeholder && record.altitude != 0;
 }
 
 // A cab on a shaft, upright on the screen however the map is turned.

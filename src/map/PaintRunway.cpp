@@ -1,10 +1,12 @@
-// PaintRunway.cpp - runway surfaces with their shoulders, displaced thresholds and blast pads.
+// PaintRunway.cpp - runway surfaces with their shoulders, displaced thresholds, overruns and blast pads.
 #include <algorithm>
 #include <cmath>
 
+#include "map/ApproachLights.h"
 #include "map/MapView.h"
 #include "map/Painter.h"
 #include "map/RunwayShape.h"
+#include "map/SlopeLights.h"
 #include "model/Positions.h"
 
 namespace map {
@@ -20,13 +22,17 @@ constexpr uint32_t kSurfaceCodeMask = 0xFF;  // the high byte is no part of the 
 
 double Metres(float value) { return value > 0 && value < kMostMetres ? double{ value } : 0; }
 
-RunwayEnd MakeEnd(const model::RunwayAreaPart& threshold, const model::RunwayAreaPart& blastPad) {
+RunwayEnd MakeEnd(const model::RunwayAreaPart& threshold, const model::RunwayAreaPart& blastPad,
+                  const model::RunwayAreaPart& overrun) {
     RunwayEnd end;
     end.displaced = Metres(threshold.length);
     end.displacedSurface = threshold.surface & kSurfaceCodeMask;
     end.blastPad = Metres(blastPad.length);
     end.blastPadWidth = Metres(blastPad.width);
     end.blastPadSurface = blastPad.surface & kSurfaceCodeMask;
+    end.overrun = Metres(overrun.length);
+    end.overrunWidth = Metres(overrun.width);
+    end.overrunSurface = overrun.surface & kSurfaceCodeMask;
     return end;
 }
 
@@ -63,6 +69,11 @@ void PaintEnd(const Painter& painter, const RunwayShape& runway, const RunwayEnd
     if (end.displaced > 0 && !selected) {
         SelectPavement(painter, RunwayColour(end.displacedSurface));
         FillPolygon(painter.canvas, Rectangle(end.frame, -half, half, 0, end.displaced));
+    }
+    if (end.overrun > 0) {
+        const double beside = end.overrunWidth / 2;
+        SelectPavement(painter, selected ? InkOf(Ink::SelectedFill) : RunwayColour(end.overrunSurface));
+        FillPolygon(painter.canvas, Rectangle(end.frame, -beside, beside, -end.overrun, 0));
     }
     if (end.blastPad <= 0) return;
     const auto pad = Rectangle(end.frame, -end.blastPadWidth / 2, end.blastPadWidth / 2, -end.blastPad, 0);
@@ -112,8 +123,8 @@ RunwayShape ShapeOfRunway(const SceneryObject* object) {
     runway.frame = { WorldToScreen(model::PositionOf(object)), TurnedRight(ahead), ahead, view.pixelsPerMetre };
     RunwayEnd& primary = runway.ends[0];
     RunwayEnd& secondary = runway.ends[1];
-    primary = MakeEnd(payload.primaryThreshold, payload.primaryBlastPad);
-    secondary = MakeEnd(payload.secondaryThreshold, payload.secondaryBlastPad);
+    primary = MakeEnd(payload.primaryThreshold, payload.primaryBlastPad, payload.primaryOverrun);
+    secondary = MakeEnd(payload.secondaryThreshold, payload.secondaryBlastPad, payload.secondaryOverrun);
     primary.frame = runway.frame;
     primary.frame.origin = At(runway.frame, 0, -runway.length / 2);
     secondary.frame = { At(runway.frame, 0, runway.length / 2), runway.frame.right * -1, ahead * -1,
@@ -124,6 +135,8 @@ RunwayShape ShapeOfRunway(const SceneryObject* object) {
     secondary.designator = payload.body.secondaryDesignator;
     primary.approachLights = payload.primaryApproachLights;
     secondary.approachLights = payload.secondaryApproachLights;
+    primary.slope = { payload.primaryLeftVasi, payload.primaryRightVasi };
+    secondary.slope = { payload.secondaryLeftVasi, payload.secondaryRightVasi };
     primary.closed = (runway.marks & kPrimaryClosed) != 0;
     secondary.closed = (runway.marks & kSecondaryClosed) != 0;
     primary.stol = (runway.marks & kPrimaryStol) != 0;
@@ -131,11 +144,14 @@ RunwayShape ShapeOfRunway(const SceneryObject* object) {
     secondary.marked = !(runway.marks & kSingleEnd);
     const double half = runway.width / 2;
     runway.corners = Rectangle(runway.frame, -half, half, -runway.length / 2, runway.length / 2);
-    const double wide = std::max({ half + kShoulder, primary.blastPadWidth / 2, secondary.blastPadWidth / 2 });
-    runway.wholeArea = Rectangle(runway.frame, -wide, wide, -runway.length / 2 - primary.blastPad,
-                                 runway.length / 2 + secondary.blastPad);
+    const double wide = std::max({ half + kShoulder, primary.blastPadWidth / 2, secondary.blastPadWidth / 2,
+                                   primary.overrunWidth / 2, secondary.overrunWidth / 2 });
+    runway.wholeArea = Rectangle(runway.frame, -wide, wide, -runway.length / 2 - PavedReach(primary),
+                                 runway.length / 2 + PavedReach(secondary));
     return runway;
 }
+
+double PavedReach(const RunwayEnd& end) { return std::max(end.blastPad, end.overrun); }
 
 void PaintRunwayShoulders(Painter* painter) {
     ForEachOfKind(model::kRunway, [&](SceneryObject* runway) { PaintShoulders(*painter, ShapeOfRunway(runway)); });
@@ -147,16 +163,26 @@ void PaintRunwaySurfaces(Painter* painter) {
 
 void PaintRunwayMarkings(Painter* painter) {
     ForEachOfKind(model::kRunway, [&](SceneryObject* object) {
-        if (!IsDrawn(object)) return;
+        if (!IsDrawn(object)) {
+            PaintNamesOf(painter->canvas, ShapeOfRunway(object));
+            return;
+        }
         const RunwayShape runway = ShapeOfRunway(object);
         const Colour ground = model::IsSelected(object) ? InkOf(Ink::SelectedFill) : RunwayColour(runway.surface);
         PaintMarkingsOf(painter->canvas, runway, ground);
+        PaintNamesOf(painter->canvas, runway);
     });
 }
 
 void PaintRunwayLights(Painter* painter) {
     ForEachOfKind(model::kRunway, [&](SceneryObject* object) {
-        if (IsDrawn(object)) PaintLightsOf(painter->canvas, ShapeOfRunway(object));
+        const RunwayShape runway = ShapeOfRunway(object);
+        if (IsDrawn(object)) PaintLightsOf(painter->canvas, runway);
+        if (runway.length <= 0 || runway.width <= 0) return;
+        for (const RunwayEnd& end : runway.ends) {
+            PaintApproachLights(painter->canvas, runway, end);
+            PaintSlopeLights(painter->canvas, runway, end);
+        }
     });
 }
 

@@ -38,6 +38,7 @@ void PaintTaxiwayMarkings(Painter* painter);
 void PaintParkingSpots(Painter* painter);
 void PaintTaxiNodes(Painter* painter);
 void PaintTaxiLinks(Painter* painter);
+void PaintTaxiwayLights(Painter* painter);
 void PaintRunwayLights(Painter* painter);
 void PaintReferencePoint(Painter* painter);
 void PaintTower(Painter* painter);

@@ -30,6 +30,7 @@ constexpr InkPair kInks[] = {
     { Rgb(230, 230, 0), Rgb(100, 100, 0) },      // IlsHoldShortNode
     { Rgb(160, 255, 160), Rgb(80, 128, 80) },    // ParkingFill
     { Rgb(40, 170, 40), Rgb(20, 85, 20) },       // ParkingOutline
+    { Rgb(100, 100, 100), Rgb(50, 50, 50) },     // SpecOutline
     { Rgb(20, 80, 20), Rgb(25, 100, 25) },       // ParkingLabel
     { Rgb(140, 140, 255), Rgb(70, 70, 128) },    // TaxiLink
     { Rgb(40, 40, 40), Rgb(0, 0, 0) },           // RunwayLink
@@ -42,6 +43,7 @@ constexpr InkPair kInks[] = {
     { Rgb(255, 255, 255), Rgb(120, 120, 120) },  // RunwayMarking
     { Rgb(40, 40, 40), Rgb(120, 120, 120) },     // RunwayBorder
     { Rgb(236, 190, 40), Rgb(92, 74, 16) },      // RunwayYellow
+    { Rgb(20, 20, 20), Rgb(190, 190, 180) },     // RunwayName
     { Rgb(255, 255, 255), Rgb(120, 120, 120) },  // HelipadMarking
     { Rgb(200, 30, 30), Rgb(110, 20, 20) },      // HelipadMedical
     { Rgb(0, 70, 140), Rgb(40, 90, 140) },       // ReferencePoint
@@ -53,6 +55,7 @@ constexpr InkPair kInks[] = {
     { Rgb(220, 80, 190), Rgb(110, 40, 95) },     // Guideline
     { Rgb(230, 0, 60), Rgb(200, 0, 50) },        // FaultMarker
     { Rgb(255, 255, 255), Rgb(255, 250, 225) },  // LightWhite
+    { Rgb(200, 225, 255), Rgb(200, 225, 255) },  // LightFlash
     { Rgb(255, 200, 60), Rgb(255, 200, 60) },    // LightYellow
     { Rgb(255, 40, 30), Rgb(255, 50, 40) },      // LightRed
     { Rgb(30, 200, 70), Rgb(60, 230, 100) },     // LightGreen

@@ -20,6 +20,7 @@ enum class Ink {
     IlsHoldShortNode,
     ParkingFill,
     ParkingOutline,
+    SpecOutline,  // of a spot filled with the colour of its parking spec
     ParkingLabel,
     TaxiLink,     // normal and closed links
     RunwayLink,   // links along a runway
@@ -32,6 +33,7 @@ enum class Ink {
     RunwayMarking,
     RunwayBorder,
     RunwayYellow,  // chevrons and closed marks
+    RunwayName,    // before the ends of a runway whose painted name is too small to read
     HelipadMarking,
     HelipadMedical,
     ReferencePoint,
@@ -43,6 +45,7 @@ enum class Ink {
     Guideline,
     FaultMarker,
     LightWhite,
+    LightFlash,  // flashing lamps
     LightYellow,
     LightRed,
     LightGreen,

@@ -21,8 +21,6 @@ using model::KindOf;
 namespace {
 
 constexpr int kSegmentReach = 3;  // pixels, across the segment's major axis
-constexpr int32_t kMarkerReach = 5;
-constexpr int32_t kPointReach = 5;  // vertices of aprons, ends of light strips
 
 // Nonzero when the object is hit: the part, or kWhole.
 constexpr int kMiss = 0, kWhole = -1;

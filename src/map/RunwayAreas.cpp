@@ -44,6 +44,17 @@ bool MeetsRunway(const RunwayAreas& runways, std::span<const Point> figure) {
                        [&](const std::array<Point, 4>& area) { return Meets(BoundsOf(area), box); });
 }
 
+bool IsOnRunway(const RunwayAreas& runways, Point point) {
+    return std::any_of(runways.begin(), runways.end(), [&](const std::array<Point, 4>& area) {
+        const Point offset = point - area[0], across = area[1] - area[0], along = area[3] - area[0];
+        const auto within = [&](Point side) {
+            const double share = offset.x * side.x + offset.y * side.y;
+            return share >= 0 && share <= side.x * side.x + side.y * side.y;
+        };
+        return within(across) && within(along);
+    });
+}
+
 std::vector<std::pair<Point, Point>> OutsideRunways(const RunwayAreas& runways, Point from, Point to) {
     std::vector<Span> hidden;
     for (const auto& area : runways) {

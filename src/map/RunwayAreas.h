@@ -14,6 +14,7 @@ using RunwayAreas = std::vector<std::array<Point, 4>>;  // corners, in order aro
 RunwayAreas CollectRunwayAreas();                       // those that meet the page
 
 bool MeetsRunway(const RunwayAreas& runways, std::span<const Point> figure);  // by their bounding boxes
+bool IsOnRunway(const RunwayAreas& runways, Point point);
 
 // The pieces of the line that lie on no runway.
 std::vector<std::pair<Point, Point>> OutsideRunways(const RunwayAreas& runways, Point from, Point to);

@@ -1,11 +1,14 @@
-// RunwayLights.cpp - edge, threshold and centre-line lights of a runway, to scale.
+// RunwayLights.cpp - edge, threshold, end, touchdown zone and centre-line lights of a runway, to scale.
 //
 // Spacings follow FAA AC 150/5340-30. Edge lights turn yellow over the last 2000 feet of a runway with
-// precision markings, centre-line lights red over the last 1000 feet where the record says so; both as a
-// landing pilot sees them, so each half of the runway is lit for those coming from the other end.
+// precision markings, centre-line lights alternate with red from 3000 feet before the end and are all red
+// over the last 1000 feet where the record says so; both as a landing pilot sees them, so each half of the
+// runway is lit for those coming from the other end.
 #include <algorithm>
 #include <cmath>
 
+#include "map/ApproachLights.h"
+#include "map/Lamps.h"
 #include "map/MapView.h"
 #include "map/Painter.h"
 #include "map/RunwayShape.h"
@@ -14,41 +17,17 @@ namespace map {
 
 namespace {
 
-constexpr double Feet(double feet) { return feet * model::kMetresPerFoot; }
-
 constexpr double kEdgeSpacing = Feet(200), kEdgeOffset = Feet(8);  // beside the pavement
 constexpr double kCentreSpacing = Feet(50);
 constexpr double kEndSpacing = Feet(10);  // between the lights of a threshold row
-constexpr double kCautionZone = Feet(2000), kRedZone = Feet(1000);
-constexpr double kStrobeOffset = Feet(60);  // runway end identifier lights
-constexpr double kLampRadius = 0.5;         // metres
-constexpr double kClosestLamps = 3;         // pixels; closer rows are thinned out
+constexpr double kEndOffset = Feet(2), kThresholdOffset = Feet(10);
+constexpr int kEndGroup = 3, kPrecisionEndGroup = 4;  // lights at each side of a threshold
+constexpr double kCautionZone = Feet(2000), kMixedZone = Feet(3000), kRedZone = Feet(1000);
+constexpr double kZoneLength = Feet(3000), kZoneStep = Feet(100), kZoneInner = Feet(36), kZoneGap = Feet(5);
+constexpr int kZoneLamps = 3;
+constexpr double kFullWidth = Feet(150);  // of a runway whose touchdown zone lights stand where they should
+constexpr double kLampRadius = 0.5;       // metres
 constexpr uint8_t kEdgeLights = 0x03, kCentreLights = 0x0C, kCentreRed = 0x10;
-constexpr uint16_t kStrobes = 0x40;
-
-struct Lamps {
-    Canvas* canvas;
-    Box clip;
-    int radius;
-};
-
-void Lamp(const Lamps& lamps, Point at, Ink ink) {
-    if (!Meets(BoundsOf(at, lamps.radius), lamps.clip)) return;
-    platform::SetPen(lamps.canvas, platform::kNoPen, 0);
-    platform::SetBrush(lamps.canvas, InkOf(ink));
-    FillCircle(lamps.canvas, at, lamps.radius);
-}
-
-// Doubles the spacing until the lamps keep apart on the screen.
-double Thinned(double spacing) {
-    while (spacing * view.pixelsPerMetre < kClosestLamps && spacing < Feet(20'000)) spacing *= 2;
-    return spacing;
-}
-
-// An even spacing near the wanted one that ends exactly at the other end.
-int SpacesAlong(double length, double spacing) {
-    return std::max(1, static_cast<int>(std::lround(length / Thinned(spacing))));
-}
 
 void EdgeLights(const Lamps& lamps, const RunwayShape& runway) {
     const bool caution = (runway.marks & kPrecision) != 0 && runway.length > 2 * kCautionZone;
@@ -58,32 +37,55 @@ void EdgeLights(const Lamps& lamps, const RunwayShape& runway) {
         const double along = runway.length * i / spaces;
         const bool yellow = caution && std::min(along, runway.length - along) < kCautionZone;
         for (const double across : { -half, half }) {
-            Lamp(lamps, At(runway.ends[0].frame, across, along), yellow ? Ink::LightYellow : Ink::LightWhite);
+            PaintLamp(lamps, At(runway.ends[0].frame, across, along), yellow ? Ink::LightYellow : Ink::LightWhite);
         }
     }
+}
+
+bool IsCentreRed(const RunwayShape& runway, double along, int number) {
+    const double left = std::min(along, runway.length - along);
+    return (runway.lights & kCentreRed) && (left < kRedZone || (left < kMixedZone && number % 2 == 0));
 }
 
 void CentreLights(const Lamps& lamps, const RunwayShape& runway) {
     const int spaces = SpacesAlong(runway.length, kCentreSpacing);
     for (int i = 1; i < spaces; ++i) {
         const double along = runway.length * i / spaces;
-        const bool red = (runway.lights & kCentreRed) && std::min(along, runway.length - along) < kRedZone;
-        Lamp(lamps, At(runway.ends[0].frame, 0, along), red ? Ink::LightRed : Ink::LightWhite);
+        PaintLamp(lamps, At(runway.ends[0].frame, 0, along),
+                  IsCentreRed(runway, along, i) ? Ink::LightRed : Ink::LightWhite);
     }
 }
 
-// Red lights end the runway; green ones, outside them, mark the threshold for those who arrive.
-void EndLights(const Lamps& lamps, const RunwayShape& runway, const RunwayEnd& end) {
-    const int spaces = SpacesAlong(runway.width, kEndSpacing);
-    for (int i = 0; i <= spaces; ++i) {
-        const double across = runway.width * i / spaces - runway.width / 2;
-        Lamp(lamps, At(end.frame, across, Feet(-2)), Ink::LightRed);
-        Lamp(lamps, At(end.frame, across, end.displaced - Feet(10)), Ink::LightGreen);
+// A row across the runway, or a group at each side whose outermost light is in line with the edge lights.
+void Row(const Lamps& lamps, const RunwayShape& runway, const GroundFrame& frame, double near, int group, Ink ink) {
+    const double half = runway.width / 2;
+    if (group == 0) {
+        PaintLampBar(lamps, frame, -half, half, near, static_cast<int>(std::lround(2 * half / kEndSpacing)) + 1, ink);
+        return;
     }
-    if (!(end.approachLights & kStrobes)) return;
-    for (const double side : { -1.0, 1.0 }) {
-        const double across = side * (runway.width / 2 + kStrobeOffset);
-        Lamp(lamps, At(end.frame, across, end.displaced), Ink::LightWhite);
+    const int lights = std::min(group, static_cast<int>(half / kEndSpacing) + 1);
+    PaintLampWings(lamps, frame, half - kEndSpacing * (lights - 1), kEndSpacing, near, lights, ink);
+}
+
+// Red lights end the runway; green ones, outside them, mark the threshold for those who arrive. Aircraft roll over
+// a displaced threshold: its green lights stand beside the runway.
+void EndLights(const Lamps& lamps, const RunwayShape& runway, const RunwayEnd& end) {
+    const int group = end.approachLights & kApproachSystemMask ? kPrecisionEndGroup : kEndGroup;
+    Row(lamps, runway, end.frame, -kEndOffset, group, Ink::LightRed);
+    if (end.displaced > 0)
+        PaintLampWings(lamps, end.frame, runway.width / 2 + kEdgeOffset, kEndSpacing, end.displaced, group,
+                       Ink::LightGreen);
+    else
+        Row(lamps, runway, end.frame, -kThresholdOffset, group, Ink::LightGreen);
+}
+
+void TouchdownZone(const Lamps& lamps, const RunwayShape& runway, const RunwayEnd& end) {
+    const double shrink = std::min(1.0, runway.width / kFullWidth);
+    const double length = std::min(kZoneLength, runway.length / 2 - end.displaced);
+    const double step = ThinnedSpacing(kZoneStep);
+    for (int row = 1; row * step < length + kLampRadius; ++row) {
+        PaintLampWings(lamps, end.frame, kZoneInner * shrink, kZoneGap * shrink, end.displaced + row * step, kZoneLamps,
+                       Ink::LightWhite);
     }
 }
 
@@ -91,12 +93,15 @@ void EndLights(const Lamps& lamps, const RunwayShape& runway, const RunwayEnd& e
 
 void PaintLightsOf(Canvas* canvas, const RunwayShape& runway) {
     if (runway.length <= 0 || runway.width <= 0) return;
-    const Lamps lamps = { canvas, ClipBox(), ScaledPixels(kLampRadius) };
-    if (runway.lights & kEdgeLights) {
-        EdgeLights(lamps, runway);
-        for (const RunwayEnd& end : runway.ends) EndLights(lamps, runway, end);
-    }
+    const Lamps lamps = LampsOf(canvas, kLampRadius);
+    if (runway.lights & kEdgeLights) EdgeLights(lamps, runway);
     if (runway.lights & kCentreLights) CentreLights(lamps, runway);
+    for (const RunwayEnd& end : runway.ends) {
+        if (end.approachLights & kTouchdownLights) TouchdownZone(lamps, runway, end);
+        if (runway.lights & kEdgeLights) EndLights(lamps, runway, end);
+        if (end.approachLights & kGreenEndRow)
+            Row(lamps, runway, end.frame, end.displaced - kThresholdOffset, 0, Ink::LightGreen);
+    }
 }
 
 }  // namespace map

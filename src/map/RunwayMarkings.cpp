@@ -111,8 +111,7 @@ double Designation(const MarkPainter& marks, const RunwayEnd& end, double from) 
     const std::string name = model::RunwayEndName(end.number, end.designator);
     const size_t digits = std::min(name.find_first_not_of("0123456789"), name.size());
     const std::string number = name.substr(0, digits), letters = name.substr(digits);
-    const double room = marks.runway->width * kNumberShare;
-    const double size = std::min(1.0, room / GlyphLineWidth(2, 1, kDigitGap));
+    const double size = DesignationSize(marks.runway->width);
     Outline glyphs;
     double at = from;
     for (const std::string& line : { letters, number }) {
@@ -238,6 +237,10 @@ void EdgeLines(const MarkPainter& marks) {
 }
 
 }  // namespace
+
+double DesignationSize(double runwayWidth) {
+    return std::min(1.0, runwayWidth * kNumberShare / GlyphLineWidth(2, 1, kDigitGap));
+}
 
 void PaintMarkingsOf(Canvas* canvas, const RunwayShape& runway, Colour ground) {
     Outline outline;

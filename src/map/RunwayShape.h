@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "map/Palette.h"
 #include "map/RunwayGlyphs.h"
 #include "model/Records.h"
 
@@ -31,9 +32,12 @@ struct RunwayEnd {
     double displaced = 0;  // metres of displaced threshold, inside the runway
     double blastPad = 0;   // metres, outside the runway
     double blastPadWidth = 0;
-    uint32_t displacedSurface = 0, blastPadSurface = 0;
+    double overrun = 0;  // metres, outside the runway, under the blast pad
+    double overrunWidth = 0;
+    uint32_t displacedSurface = 0, blastPadSurface = 0, overrunSurface = 0;
     uint32_t number = 0, designator = 0;
     uint16_t approachLights = 0;
+    std::array<model::VasiPart, 2> slope = {};  // on the left and on the right of the landing pilot
     bool closed = false, stol = false, marked = true;
 };
 
@@ -51,10 +55,16 @@ struct RunwayShape {
 // Lengths that are no lengths count as 0.
 RunwayShape ShapeOfRunway(const model::SceneryObject* runway);
 
+double PavedReach(const RunwayEnd& end);  // metres of pavement outside the runway
+
+// The painted designation's share of its full size, for a runway of that width.
+double DesignationSize(double runwayWidth);
+
 // Corners of a rectangle of the frame, in order around it.
 std::array<Point, 4> Rectangle(const GroundFrame& frame, double left, double right, double near, double far);
 
 void PaintMarkingsOf(Canvas* canvas, const RunwayShape& runway, Colour ground);  // inside its outline
-void PaintLightsOf(Canvas* canvas, const RunwayShape& runway);
+void PaintLightsOf(Canvas* canvas, const RunwayShape& runway);                   // on the runway itself
+void PaintNamesOf(Canvas* canvas, const RunwayShape& runway);  // before its ends, while the paint cannot be read
 
 }  // namespace map

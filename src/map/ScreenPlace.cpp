@@ -4,7 +4,9 @@
 #include <cassert>
 #include <unordered_map>
 
+#include "map/MapView.h"
 #include "model/ObjectList.h"
+#include "model/Positions.h"
 
 namespace map {
 
@@ -51,6 +53,10 @@ Pixel ScreenPoint(const SceneryObject* object, int index) {
 }
 
 int32_t ScreenRadius(const SceneryObject* object) { return object->view[2]; }
+
+Pixel CentreOf(const SceneryObject* object) {
+    return IsDrawn(object) ? ScreenPoint(object, 0) : WorldToPixel(model::PositionOf(object));
+}
 
 ScreenParts& PlaceParts(SceneryObject* object) {
     MarkDrawn(object);

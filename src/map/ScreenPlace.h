@@ -22,6 +22,10 @@ namespace map {
 using model::Pixel;
 using model::SceneryObject;
 
+constexpr double kNodeRadius = 6.096;  // metres (20 feet), as nodes are drawn
+constexpr int32_t kMarkerReach = 5;    // pixels: pick radius of reference markers
+constexpr int32_t kPointReach = 5;     // pixels: of vertices of aprons and ends of light strips
+
 constexpr int kHubWord = 3;
 constexpr int kDrawnWord = 8;
 constexpr int32_t kDrawn = 1;
@@ -36,6 +40,9 @@ void PlaceCorners(SceneryObject* object, std::span<const Pixel> corners);  // fo
 
 Pixel ScreenPoint(const SceneryObject* object, int index);  // the words 2 x index and 2 x index + 1
 int32_t ScreenRadius(const SceneryObject* object);
+
+// Word 0-1 of what was drawn; of anything else where it lies, in sight or not.
+Pixel CentreOf(const SceneryObject* object);
 
 // What does not fit into the words. A part with no points was not drawn.
 struct ScreenParts {

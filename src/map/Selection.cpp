@@ -93,6 +93,27 @@ void SelectAt(model::Pixel at, bool extend) {
     if (pick.object || changed) platform::RequestRepaint();
 }
 
+bool IsInList(const SceneryObject* object) {
+    for (const SceneryObject* o = model::state.head; o; o = o->next) {
+        if (o == object) return true;
+    }
+    return false;
+}
+
+bool IsPickSelected(const Pick& pick) {
+    const SceneryObject* object = pick.object;
+    if (!object || !model::IsSelected(object)) return false;
+    switch (KindOf(object)) {
+    case model::kIls: return (SelectedPartsOf(object) & pick.part) != 0;
+    case model::kApron:
+        return pick.part == 0 ? (object->flags & kWholeSelected) != 0
+                              : IsVertexSelected(object, static_cast<uint32_t>(pick.part - 1));
+    case model::kApronEdgeLights:
+        return (object->flags & kWholeSelected) != 0 || IsStripPartSelected(object, pick.part);
+    default: return true;
+    }
+}
+
 bool DeselectAll() {
     bool any = false;
     for (SceneryObject* o = model::state.head; o; o = o->next) {

@@ -24,6 +24,12 @@ Pick PickObject(model::Pixel at);
 // The pointer tool's click. Without `extend` (Shift or Ctrl held) everything else is deselected first.
 void SelectAt(model::Pixel at, bool extend);
 
+// Whether the object is still one of the airport's.
+bool IsInList(const model::SceneryObject* object);
+
+// Whether what was picked is selected: the part, where one was picked.
+bool IsPickSelected(const Pick& pick);
+
 bool DeselectAll();  // whether anything was selected
 void SelectAll();
 

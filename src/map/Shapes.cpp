@@ -181,6 +181,11 @@ Box Grown(const Box& box, double dx, double dy) {
     return { box.left - dx, box.top - dy, box.right + dx, box.bottom + dy };
 }
 
+Box VisibleBox() {
+    const PixelBox& seen = view.visible;
+    return { double(seen.left), double(seen.top), double(seen.right), double(seen.bottom) };
+}
+
 Box ClientBox() { return { 0, 0, double(view.clientWidth), double(view.clientHeight) }; }
 Box ClipBox() {
     const int32_t besides = view.clientWidth / 10, above = view.clientHeight / 10;  // whole pixels

@@ -41,8 +41,9 @@ Box BoundsOf(Point centre, double radius);
 bool Meets(const Box& a, const Box& b);  // touching counts; not-a-number meets nothing
 bool Contains(const Box& box, Point point);
 Box Grown(const Box& box, double dx, double dy);
-Box ClientBox();  // the client rectangle
-Box ClipBox();    // grown by a tenth of its size on every side: what lies outside is not drawn
+Box ClientBox();   // the client rectangle
+Box VisibleBox();  // what the bars of the window leave of it
+Box ClipBox();     // grown by a tenth of its size on every side: what lies outside is not drawn
 
 // An outline of lines and curves; several closed figures may follow each other.
 struct Outline {

@@ -112,7 +112,7 @@ Corner Join(const Edge& a, const Edge& b, double gap, bool fillsOnly) {
     return CurveBetween(a, Softened(cutA, a), b, Softened(cutB, b), At(a, cutA));
 }
 
-// Moves a corner into the pavement; the ends keep their distances from the hub.
+// Moves a corner into the pavement, or out of it; the ends keep their distances from the hub.
 void Inset(Corner* corner, const Edge& a, const Edge& b, double inset) {
     if (corner->kind == Corner::Kind::None) return;
     const auto inward = [&](const Edge& edge) {
@@ -151,7 +151,7 @@ void LayCorners(TaxiNetwork* network, double inset) {
                      .room = arm.length * share };
     };
     for (const TaxiHub& hub : network->hubs) {
-        for (uint32_t i = 0; i < hub.edgeArms; ++i) {
+        for (uint32_t i = 0; hub.inView && i < hub.edgeArms; ++i) {
             TaxiArm& arm = network->arms[hub.firstArm + i];
             TaxiArm& next = network->arms[hub.firstArm + (i + 1) % hub.edgeArms];
             const bool wraps = i + 1 == hub.edgeArms;
@@ -161,7 +161,7 @@ void LayCorners(TaxiNetwork* network, double inset) {
             const Edge a = edgeOf(arm, 1), b = edgeOf(next, -1);
             // A runway's own pavement is no taxiway's business; only the fillets beside it are.
             arm.right = runways == 2 ? Corner{} : Join(a, b, gap, runways == 1);
-            if (inset > 0) Inset(&arm.right, a, b, inset);
+            if (inset != 0) Inset(&arm.right, a, b, inset);
             arm.rightCut = arm.right.fromCut;
             next.leftCut = arm.right.toCut;
             next.joinedLeft = arm.right.kind != Corner::Kind::None;

@@ -8,9 +8,11 @@
 #include <cmath>
 
 #include "map/HoldShort.h"
+#include "map/Lamps.h"
 #include "map/MapView.h"
 #include "map/Painter.h"
 #include "map/RunwayAreas.h"
+#include "map/TaxiwayLines.h"
 
 namespace map {
 
@@ -18,16 +20,11 @@ namespace {
 
 constexpr double kCentreLine = 0.3048, kThinEdgeLine = 0.1524, kBroadEdgeLine = 0.4572;  // metres
 constexpr double kTwoLineScale = 6;               // pixels per metre from which edge lines are two
-constexpr double kTurnReach = 2;                  // of the half width, where a turn leaves the centre line
-constexpr double kLeastReach = 6;                 // metres
-constexpr double kSharpestTurn = 0.2;             // cosine between two arms above which no line joins them
-constexpr uint32_t kMostTurningArms = 8;          // a hub with more is no junction of taxiways
 constexpr double kDash = 4.572, kDashGap = 7.62;  // metres: 15 and 25 feet
 constexpr double kShortestDash = 2;               // pixels; shorter dashes run together
 
 constexpr int kCurvePieces = 12;
 
-constexpr uint32_t kCentreLineBit = 1u << 16;
 constexpr int kLeftEdgeShift = 18, kRightEdgeShift = 21;
 
 enum EdgeStyle : uint32_t { kNoEdge = 0, kSolidEdge = 1, kDashedEdge = 2 };  // 3 is drawn solid too
@@ -39,81 +36,24 @@ uint32_t EdgeStyleOf(const TaxiNetwork& network, const TaxiArm& arm, bool right)
     return segment.flags >> (right == arm.atStart ? kRightEdgeShift : kLeftEdgeShift) & 3;
 }
 
-// How far along the arm the runway that it meets at its hub reaches; 0 when it meets none.
-double RunwayReach(const TaxiNetwork& network, const TaxiArm& arm) {
-    const TaxiHub& hub = network.hubs[arm.hub];
-    double reach = 0;
-    for (uint32_t i = hub.firstArm; i < hub.firstArm + hub.edgeArms; ++i) {
-        const TaxiArm& other = network.arms[i];
-        if (!IsAlongRunway(network.segments[other.link])) continue;
-        const double sine = std::abs(arm.along.x * other.along.y - arm.along.y * other.along.x);
-        if (sine * arm.length <= other.half) return arm.length;
-        reach = std::max(reach, other.half / sine);
-    }
-    return reach;
-}
-
-bool HasCentreLine(const TaxiNetwork& network, const TaxiArm& arm) {
-    const TaxiSegment& segment = network.segments[arm.link];
-    return (segment.flags & kCentreLineBit) && !IsAlongRunway(segment);
-}
-
-struct CentreLines {
-    const Painter* painter;
-    std::vector<double> cuts;  // by arm: where its straight line begins, pixels from the hub
-};
-
-// The turns at one hub; sets the cuts of its arms.
-void PaintTurns(CentreLines* lines, const TaxiHub& hub) {
-    const TaxiNetwork& network = lines->painter->network;
-    std::vector<uint32_t> lined;
-    for (uint32_t i = hub.firstArm; i < hub.firstArm + hub.armCount; ++i) {
-        const TaxiArm& arm = network.arms[i];
-        if (!HasCentreLine(network, arm)) continue;
-        const double runway = RunwayReach(network, arm);
-        lines->cuts[i] = runway;
-        if (runway == 0) lined.push_back(i);
-    }
-    if (lined.size() < 2 || lined.size() > kMostTurningArms) return;
-    const auto turnStart = [&](const TaxiArm& arm) {
-        const double wanted = std::max(kTurnReach * arm.half, kLeastReach * lines->painter->scale);
-        return std::min(wanted, arm.length / 2);
-    };
-    Outline turns;
-    for (size_t i = 0; i < lined.size(); ++i) {
-        for (size_t j = i + 1; j < lined.size(); ++j) {
-            const TaxiArm &a = network.arms[lined[i]], &b = network.arms[lined[j]];
-            if (a.along.x * b.along.x + a.along.y * b.along.y > kSharpestTurn) continue;
-            const double cutA = turnStart(a), cutB = turnStart(b);
-            lines->cuts[lined[i]] = cutA;
-            lines->cuts[lined[j]] = cutB;
-            MoveTo(&turns, hub.at + a.along * cutA);
-            QuadTo(&turns, hub.at, hub.at + b.along * cutB);
-        }
-    }
-    if (turns.points.empty() || !Meets(BoundsOf(turns.points), lines->painter->clip)) return;
-    FillOutline(lines->painter->canvas, turns);
-}
-
 void StrokeIfOnPage(const Painter& painter, Point from, Point to) {
     const std::array ends = { from, to };
     if (Meets(BoundsOf(ends), painter.clip)) StrokeLine(painter.canvas, from, to);
 }
 
 void PaintCentreLines(const Painter& painter) {
-    const TaxiNetwork& network = painter.network;
-    CentreLines lines = { &painter, std::vector<double>(network.arms.size()) };
+    const CentreLines lines = LayCentreLines(painter.network, kCentreLineBit, painter.scale);
     Stroke(painter, ScaledPixels(kCentreLine), InkOf(Ink::TaxiwayLine));
-    for (const TaxiHub& hub : network.hubs) {
-        if (hub.armCount > 0) PaintTurns(&lines, hub);
+    for (size_t i = 0; i < lines.turns.size();) {
+        Outline turns;
+        const uint32_t hub = lines.turns[i].hub;
+        for (; i < lines.turns.size() && lines.turns[i].hub == hub; ++i) {
+            MoveTo(&turns, lines.turns[i].curve[0]);
+            QuadTo(&turns, lines.turns[i].curve[1], lines.turns[i].curve[2]);
+        }
+        if (Meets(BoundsOf(turns.points), painter.clip)) FillOutline(painter.canvas, turns);
     }
-    for (const TaxiSegment& segment : network.segments) {
-        const TaxiArm &start = network.arms[segment.startArm], &end = network.arms[segment.endArm];
-        const double startCut = lines.cuts[segment.startArm], endCut = lines.cuts[segment.endArm];
-        if (!HasCentreLine(network, start) || startCut + endCut >= start.length) continue;
-        StrokeIfOnPage(painter, network.hubs[segment.startHub].at + start.along * startCut,
-                       network.hubs[segment.endHub].at + end.along * endCut);
-    }
+    for (const auto& [from, to] : lines.straights) StrokeIfOnPage(painter, from, to);
 }
 
 struct EdgePainter {
@@ -143,39 +83,29 @@ void StrokeDashes(const EdgePainter& edges, Point from, Point to) {
 
 void PaintEdge(const EdgePainter& edges, const TaxiSegment& segment, double inset, bool right) {
     const TaxiNetwork& network = edges.painter->network;
-    const TaxiArm &start = network.arms[segment.startArm], &end = network.arms[segment.endArm];
-    const uint32_t style = EdgeStyleOf(network, start, right);
-    if (style == kNoEdge || start.half <= inset) return;
-    double startCut = right ? start.rightCut : start.leftCut, endCut = right ? end.leftCut : end.rightCut;
-    if (startCut == 0) startCut = RunwayReach(network, start);
-    if (endCut == 0) endCut = RunwayReach(network, end);
-    if (startCut + endCut >= start.length) return;
-    const Point side = TurnedRight(start.along) * ((start.half - inset) * (right ? 1 : -1));
-    const Point from = network.hubs[segment.startHub].at + side + start.along * startCut;
-    const Point to = network.hubs[segment.endHub].at + side + end.along * endCut;
-    const std::array ends = { from, to };
+    const uint32_t style = EdgeStyleOf(network, network.arms[segment.startArm], right);
+    std::array<Point, 2> ends;
+    if (style == kNoEdge || !FindStraightEdge(network, segment, inset, right, &ends[0], &ends[1])) return;
     if (!Meets(BoundsOf(ends), edges.painter->clip)) return;
     if (style == kDashedEdge && kDash * edges.painter->scale >= kShortestDash)
-        StrokeDashes(edges, from, to);
+        StrokeDashes(edges, ends[0], ends[1]);
     else
-        StrokeEdge(edges, from, to);
+        StrokeEdge(edges, ends[0], ends[1]);
 }
 
 // A curve that touches a runway is drawn piece by piece, so that it can end at the runway's edge.
-void PaintCornerCurve(const EdgePainter& edges, Point from, Point control, Point to) {
-    const std::array curve = { from, control, to };
+void PaintCornerCurve(const EdgePainter& edges, const EdgeCurve& curve) {
     if (!Meets(BoundsOf(curve), edges.painter->clip)) return;
     if (!MeetsRunway(*edges.runways, curve)) {
         Outline outline;
-        MoveTo(&outline, from);
-        QuadTo(&outline, control, to);
+        MoveTo(&outline, curve[0]);
+        QuadTo(&outline, curve[1], curve[2]);
         FillOutline(edges.painter->canvas, outline);
         return;
     }
-    Point before = from;
+    Point before = curve[0];
     for (int i = 1; i <= kCurvePieces; ++i) {
-        const double t = static_cast<double>(i) / kCurvePieces;
-        const Point at = from * ((1 - t) * (1 - t)) + control * (2 * t * (1 - t)) + to * (t * t);
+        const Point at = PointOnLine(curve, static_cast<double>(i) / kCurvePieces);
         StrokeEdge(edges, before, at);
         before = at;
     }
@@ -190,13 +120,8 @@ void PaintEdgeCorners(const EdgePainter& edges, const TaxiHub& hub) {
         const Corner& corner = arm.right;
         const bool lined = EdgeStyleOf(network, arm, true) || IsAlongRunway(network.segments[arm.link]);
         const bool nextLined = EdgeStyleOf(network, next, false) || IsAlongRunway(network.segments[next.link]);
-        if (corner.kind == Corner::Kind::None || !lined || !nextLined) continue;
-        if (corner.kind == Corner::Kind::Cap) {
-            PaintCornerCurve(edges, corner.from, corner.control[0], corner.middle);
-            PaintCornerCurve(edges, corner.middle, corner.control[1], corner.to);
-        } else {
-            PaintCornerCurve(edges, corner.from, corner.control[0], corner.to);
-        }
+        if (!lined || !nextLined) continue;
+        for (const EdgeCurve& curve : CurvesOf(corner)) PaintCornerCurve(edges, curve);
     }
 }
 
@@ -209,7 +134,9 @@ void PaintEdgeLines(Painter* painter, const RunwayAreas& runways, double width, 
         PaintEdge(edges, segment, insetPixels, true);
         PaintEdge(edges, segment, insetPixels, false);
     }
-    for (const TaxiHub& hub : painter->network.hubs) PaintEdgeCorners(edges, hub);
+    for (const TaxiHub& hub : painter->network.hubs) {
+        if (hub.inView) PaintEdgeCorners(edges, hub);
+    }
 }
 
 }  // namespace

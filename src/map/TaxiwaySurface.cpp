@@ -2,6 +2,7 @@
 #include "map/TaxiwaySurface.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "map/MapView.h"
@@ -46,39 +47,70 @@ void AddSegment(TaxiNetwork* network, SceneryObject* object) {
     const Point from = network->hubs[segment.startHub].at, to = network->hubs[segment.endHub].at;
     const double length = Length(to - from);
     if (!(length > 0) || !std::isfinite(length)) return;
-    const Point along = (to - from) * (1 / length);
-    const float width = link.width;
-    const double half = width > 0 ? double{ width } * view.pixelsPerMetre / 2 : 0;
-    const auto number = static_cast<uint32_t>(network->segments.size());
-    for (const bool atStart : { true, false }) {
-        TaxiArm arm;
-        arm.link = number;
-        arm.hub = atStart ? segment.startHub : segment.endHub;
-        arm.atStart = atStart;
-        arm.along = atStart ? along : along * -1;
-        arm.angle = std::atan2(arm.along.y, arm.along.x);
-        arm.length = length;
-        arm.half = half;
-        network->arms.push_back(arm);
-    }
+    ++network->hubs[segment.startHub].armCount;
+    ++network->hubs[segment.endHub].armCount;
     network->segments.push_back(segment);
 }
 
-// Brings the arms of a hub together, those with edges first and clockwise.
-void GroupArms(TaxiNetwork* network) {
-    std::vector<TaxiArm>& arms = network->arms;
-    std::sort(arms.begin(), arms.end(), [&](const TaxiArm& a, const TaxiArm& b) {
-        if (a.hub != b.hub) return a.hub < b.hub;
+TaxiArm MakeArm(const TaxiNetwork& network, uint32_t link, bool atStart) {
+    const TaxiSegment& segment = network.segments[link];
+    TaxiArm arm;
+    arm.link = link;
+    arm.hub = atStart ? segment.startHub : segment.endHub;
+    arm.atStart = atStart;
+    const Point step = network.hubs[atStart ? segment.endHub : segment.startHub].at - network.hubs[arm.hub].at;
+    arm.length = Length(step);
+    arm.along = step * (1 / arm.length);
+    arm.angle = std::atan2(arm.along.y, arm.along.x);
+    const float width = model::PayloadAs<model::TaxiLinkPayload>(segment.object).width;
+    arm.half = width > 0 ? double{ width } * view.pixelsPerMetre / 2 : 0;
+    return arm;
+}
+
+// The arms of a hub, those with edges first and clockwise.
+void SortArms(TaxiNetwork* network, TaxiHub* hub) {
+    const auto first = network->arms.begin() + hub->firstArm;
+    std::sort(first, first + hub->armCount, [&](const TaxiArm& a, const TaxiArm& b) {
         const bool edgesA = HasEdges(*network, a), edgesB = HasEdges(*network, b);
         if (edgesA != edgesB) return edgesA;
         return a.angle != b.angle ? a.angle < b.angle : a.link < b.link;
     });
-    for (uint32_t i = 0; i < arms.size(); ++i) {
-        TaxiHub& hub = network->hubs[arms[i].hub];
-        if (hub.armCount++ == 0) hub.firstArm = i;
-        hub.edgeArms += HasEdges(*network, arms[i]);
-        TaxiSegment& segment = network->segments[arms[i].link];
-        (arms[i].atStart ? segment.startArm : segment.endArm) = i;
+    for (uint32_t i = hub->firstArm; i < hub->firstArm + hub->armCount; ++i) {
+        const TaxiArm& arm = network->arms[i];
+        hub->edgeArms += HasEdges(*network, arm);
+        TaxiSegment& segment = network->segments[arm.link];
+        (arm.atStart ? segment.startArm : segment.endArm) = i;
+    }
+}
+
+// Brings the arms of each hub together.
+void GroupArms(TaxiNetwork* network) {
+    std::vector<uint32_t> next(network->hubs.size());  // where the next arm of a hub goes
+    uint32_t count = 0;
+    for (size_t i = 0; i < network->hubs.size(); ++i) {
+        next[i] = network->hubs[i].firstArm = count;
+        count += network->hubs[i].armCount;
+    }
+    network->arms.resize(count);
+    for (uint32_t link = 0; link < network->segments.size(); ++link) {
+        for (const bool atStart : { true, false }) {
+            const TaxiArm arm = MakeArm(*network, link, atStart);
+            network->arms[next[arm.hub]++] = arm;
+        }
+    }
+    for (TaxiHub& hub : network->hubs) SortArms(network, &hub);
+}
+
+// Corners are computed only where they can be seen. The margin holds all that is painted along a link.
+void MarkInView(TaxiNetwork* network) {
+    const Box page = ClipBox();
+    for (TaxiSegment& segment : network->segments) {
+        const std::array ends = { network->hubs[segment.startHub].at, network->hubs[segment.endHub].at };
+        const double wide = 2 * network->arms[segment.startArm].half;
+        const Box box = Grown(BoundsOf(ends), wide, wide);
+        segment.inView =
+            Meets(Grown(box, (box.right - box.left) * kCullShare, (box.bottom - box.top) * kCullShare), page);
+        if (segment.inView) network->hubs[segment.startHub].inView = network->hubs[segment.endHub].inView = true;
     }
 }
 
@@ -133,7 +165,7 @@ void AddEnd(std::vector<Point>* figure, const TaxiNetwork& network, const TaxiAr
 
 void PaintSegment(Canvas* canvas, const TaxiNetwork& network, const TaxiSegment& segment) {
     const TaxiArm &start = network.arms[segment.startArm], &end = network.arms[segment.endArm];
-    if (!IsPaved(segment) || !(start.half > 0)) return;
+    if (!segment.inView || !IsPaved(segment) || !(start.half > 0)) return;
     // A chamfer at most: beyond it the link may be the only pavement there is.
     const auto leftOf = [](const TaxiArm& arm) { return arm.joinedLeft ? std::min(arm.leftCut, arm.half) : 0; };
     const auto rightOf = [](const TaxiArm& arm) {
@@ -165,12 +197,14 @@ TaxiNetwork BuildTaxiNetwork() {
         if (model::KindOf(o) == model::kTaxiLink) AddSegment(&network, o);
     }
     GroupArms(&network);
+    MarkInView(&network);
     return network;
 }
 
 void PaintTaxiwaySurfaces(Canvas* canvas, const TaxiNetwork& network) {
     Outline outline;
     for (const TaxiHub& hub : network.hubs) {
+        if (!hub.inView) continue;
         Clear(&outline);
         uint32_t surface = 0;
         if (!JunctionOutline(network, hub, &outline, &surface) || !IsOnPage(outline.points)) continue;

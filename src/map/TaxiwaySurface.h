@@ -46,6 +46,7 @@ struct TaxiHub {
     Point at;
     uint32_t firstArm = 0, armCount = 0;
     uint32_t edgeArms = 0;  // the first so many arms have paved edges (runways included), in angle order
+    bool inView = false;    // a link that may reach the page meets here
 };
 
 struct TaxiSegment {
@@ -53,6 +54,7 @@ struct TaxiSegment {
     uint32_t type = 0, flags = 0, surface = 0;
     uint32_t startHub = 0, endHub = 0;
     uint32_t startArm = 0, endArm = 0;
+    bool inView = false;  // may reach the page
 };
 
 struct TaxiNetwork {
@@ -68,7 +70,8 @@ bool IsAlongRunway(const TaxiSegment& segment);
 
 TaxiNetwork BuildTaxiNetwork();
 
-// Computes the corners for edges that lie `inset` pixels inside the pavement.
+// Computes the corners for edges that lie `inset` pixels inside the pavement, or outside when it is negative.
+// Hubs that are not in view keep what they have.
 void LayCorners(TaxiNetwork* network, double inset);
 
 void PaintTaxiwaySurfaces(Canvas* canvas, const TaxiNetwork& network);

@@ -1,13 +1,19 @@
-// Tools.cpp - what presses, moves and releases of the mouse mean, by the tool in force.
+// Tools.cpp - see Tools.h.
 #include "map/Tools.h"
 
-#include <cmath>
+#include <array>
 
-#include "map/LinkSplit.h"
+#include "map/ApronTool.h"
+#include "map/EdgeLightsTool.h"
+#include "map/LinkTool.h"
+#include "map/MapHost.h"
 #include "map/MapView.h"
-#include "map/MoveDrag.h"
-#include "map/ScreenPlace.h"
+#include "map/MarkerTool.h"
+#include "map/NewObjects.h"
+#include "map/Placing.h"
+#include "map/PointerTool.h"
 #include "map/Selection.h"
+#include "map/TurnDrag.h"
 #include "model/EditHistory.h"
 #include "model/ObjectList.h"
 #include "model/Positions.h"
@@ -15,134 +21,205 @@
 
 namespace map {
 
+using model::SceneryObject;
+
 ToolState tools;
 
 namespace {
 
-LatLon UnderPixel(Pixel at) { return ScreenToWorld({ double(at.x), double(at.y) }); }
+constexpr int32_t kScrollEdge = 12;  // pixels from the edge of the map
 
-// What a link can end at; links end nowhere else.
-bool HitsLinkEnd(Pixel at) {
-    if (!layers.network) return false;
-    for (SceneryObject* o = model::state.head; o; o = o->next) {
-        const uint32_t kind = model::KindOf(o);
-        if ((kind != model::kTaxiNode && kind != model::kParkingSpot) || !IsDrawn(o)) continue;
-        const int margin = kind == model::kTaxiNode ? 1 : 0;
-        if (HitsCircle(at, ScreenPoint(o, 0), ScreenRadius(o) + margin)) return true;
-    }
-    return false;
+// Nothing is made unseen.
+void ShowNetwork() {
+    if (!layers.network) platform::RequestRepaint();
+    layers.network = true;
 }
 
-// A place that the file can hold: on the earth, the longitude within half a turn.
-bool IsPlaceable(LatLon* position) {
-    if (!std::isfinite(position->lat) || !std::isfinite(position->lon)) return false;
-    if (std::fabs(position->lat) >= model::kPi / 2 || std::fabs(position->lon) > 2 * model::kTwoPi) return false;
-    while (position->lon > model::kPi) position->lon -= model::kTwoPi;
-    while (position->lon <= -model::kPi) position->lon += model::kTwoPi;
-    return true;
-}
+bool MakesNetwork(Tool tool) { return tool == Tool::Nodes || tool == Tool::Links || tool == Tool::Parking; }
 
-void PressPointer(Pixel at, KeyState keys) {
-    SelectAt(at, keys.shift || keys.ctrl);
-    const Pick pick = PickObject(at);
-    if (pick.object && model::IsSelected(pick.object)) ArmMove(at);
-}
-
-void PressNodes(Pixel at) {
-    LatLon position = UnderPixel(at);
-    if (!layers.network) {  // no node may be made unseen, perhaps on top of another
-        layers.network = true;
-        return platform::RequestRepaint();
-    }
-    if (HitsLinkEnd(at) || !IsPlaceable(&position)) return;
+void PressNodes(Pixel at, KeyState) {
+    LatLon position;
+    if (LinkEndObjectAt(at) || !PlaceUnder(at, &position)) return;
+    if (!HasRoomFor(model::kTaxiNode)) return;
     DeselectAll();  // what is selected afterwards is what was made
-    SceneryObject* node = model::CreateObject(model::kTaxiNode, sizeof(model::TaxiNodeRecord));
-    model::PayloadAs<model::TaxiNodeRecord>(node).type = tools.nodeKind;
-    model::SetPosition(node, position);
-    node->flags |= model::kSelected | model::kNewNode;
     model::BeginAction();
-    model::AddObject(node);
-    JoinNodeIntoLinks(node);
+    AddNode(position, tools.nodeKind);
     platform::RequestRepaint();
 }
 
-bool IsNamed(const SceneryObject* designator) {
-    return model::PayloadAs<model::TaxiDesignatorRecord>(designator).name[0] != '\0';
+void PressLinks(Pixel at, KeyState) { BeginLink(at); }
+
+void PressParking(Pixel at, KeyState) {
+    LatLon position;
+    if (!PlaceUnder(at, &position) || !HasRoomFor(model::kParkingSpot)) return;
+    DeselectAll();
+    model::BeginAction();
+    AddSpot(position, view.rotation);
+    platform::RequestRepaint();
+}
+
+void PressApron(Pixel at, KeyState) { AddOutlinePoint(at); }
+void PressApronPoint(Pixel at, KeyState) { InsertApronPoint(at); }
+void PressEdgeLights(Pixel at, KeyState) { BeginStrip(at); }
+void PressMarkers(Pixel at, KeyState) { PlaceMarker(at); }
+void PressGuidelines(Pixel at, KeyState) { BeginGuideline(at); }
+
+void Nothing() {}
+void Nowhere(Pixel) {}
+
+struct ToolRow {
+    void (*press)(Pixel at, KeyState keys);
+    void (*follow)(Pixel at);  // the button is held
+    void (*release)(Pixel at);
+    void (*cancel)();  // everything back where it was
+    bool drags;        // a press may begin a drag
+};
+
+// By Tool.
+constexpr std::array<ToolRow, 9> kTools = { {
+    { PressPointer, FollowPointer, ReleasePointer, CancelPointer, true },
+    { PressNodes, Nowhere, Nowhere, Nothing, false },
+    { PressLinks, FollowLink, FinishLink, CancelLink, true },
+    { PressParking, Nowhere, Nowhere, Nothing, false },
+    { PressApron, Nowhere, Nowhere, Nothing, false },
+    { PressApronPoint, Nowhere, Nowhere, Nothing, false },
+    { PressEdgeLights, FollowStrip, FinishStrip, CancelStrip, true },
+    { PressMarkers, Nowhere, Nowhere, Nothing, false },
+    { PressGuidelines, FollowGuideline, FinishGuideline, CancelGuideline, true },
+} };
+
+const ToolRow& Row() { return kTools[static_cast<size_t>(tools.tool)]; }
+
+void EndPress() {
+    if (tools.pressed && Row().drags) StopDragTimer();
+    tools.pressed = tools.dragging = false;
+}
+
+void Follow(Pixel at) {
+    tools.dragging = tools.dragging || IsDrag(tools.press, at);
+    Row().follow(at);
+}
+
+// A drag at the edge of the map takes the map along.
+bool Scroll() {
+    const Pixel at = tools.cursor;
+    const PixelBox& seen = view.visible;
+    const bool left = at.x < seen.left + kScrollEdge, right = at.x >= seen.right - kScrollEdge;
+    const bool up = at.y < seen.top + kScrollEdge, down = at.y >= seen.bottom - kScrollEdge;
+    if (view.lockedToSim || (left == right && up == down)) return false;
+    if (left != right) PanStep(left ? PanDirection::Left : PanDirection::Right);
+    if (up != down) PanStep(up ? PanDirection::Up : PanDirection::Down);
+    return true;
 }
 
 }  // namespace
 
 void SetTool(Tool tool) {
-    CancelMove();
+    CancelDrag();
+    if (tool != Tool::Apron) DropOutline();
+    if (tool == Tool::EdgeLights && !layers.lights) {  // what is being placed must be seen
+        layers.lights = true;
+        platform::RequestRepaint();
+    }
+    if (MakesNetwork(tool)) ShowNetwork();
     tools.tool = tool;
-    tools.pressed = false;
+    RequestFeedback();  // the handles belong to the pointer
 }
 
 void ResetTools() {
-    ForgetMove();
+    ForgetPointer();
+    ForgetLink();
+    ForgetStrip();
+    ForgetGuideline();
+    EndPress();
+    model::state.busy = false;
+    tools.outline.clear();
     tools.tool = Tool::Pointer;
-    tools.panning = tools.pressed = tools.hasClick = false;
+    tools.panning = tools.hasClick = false;
     layers.highlightedDesignator = nullptr;
 }
 
 void OnButtonDown(Pixel at, KeyState keys) {
     tools.cursor = at;
     if (view.lockedToSim || !model::state.airport) return;
+    CancelDrag();  // a release that was never seen
+    ShowRemark("");
     tools.pressed = true;
     tools.press = at;
     tools.hasClick = true;
     tools.lastClick = UnderPixel(at);
-    switch (tools.tool) {
-    case Tool::Pointer: PressPointer(at, keys); break;
-    case Tool::Nodes: PressNodes(at); break;
-    default: break;
-    }
+    if (MakesNetwork(tools.tool)) ShowNetwork();  // it may have been hidden since
+    if (Row().drags) StartDragTimer();
+    Row().press(at, keys);
 }
 
 void OnMouseMove(Pixel at, KeyState) {
     tools.cursor = at;
     if (tools.panning) PanDrag(at);
-    if (tools.pressed && tools.tool == Tool::Pointer) FollowMove(at);
+    if (tools.pressed) Follow(at);
+    if (tools.tool == Tool::Apron && HasOutline()) RequestFeedback();
+    if (tools.tool == Tool::Pointer && !tools.pressed) MoveHandle();
 }
 
 void OnButtonUp(Pixel at, KeyState) {
     tools.cursor = at;
     if (!tools.pressed) return;
-    tools.pressed = false;
-    if (tools.tool != Tool::Pointer) return;
-    FollowMove(at);
-    FinishMove();
+    EndPress();
+    Row().release(at);
+}
+
+void OnDoubleClick(Pixel at, KeyState keys) {
+    tools.cursor = at;
+    if (view.lockedToSim || !model::state.airport) return;
+    if (tools.tool == Tool::Apron) return CloseOutline();
+    if (!Row().drags) return;  // the first press has made what was wanted
+    const Pick pick = tools.tool == Tool::Pointer ? PickObject(at) : Pick{};
+    if (!pick.object) return OnButtonDown(at, keys);
+    CancelDrag();
+    OpenProperties(pick.object);
 }
 
 void OnMiddleDown(Pixel at) {
     tools.cursor = at;
+    if (view.lockedToSim) return;
     tools.panning = true;
     PanDragStart(at);
 }
 
 void OnMiddleUp() { tools.panning = false; }
 
-void CycleHighlight(bool backwards) {
-    SceneryObject* first = nullptr;
-    SceneryObject* last = nullptr;
-    SceneryObject* before = nullptr;
-    SceneryObject* after = nullptr;
-    bool found = false;
-    for (SceneryObject* o = model::FirstOfKind(model::state.head, model::kTaxiDesignator); o;
-         o = model::NextOfKind(o, model::kTaxiDesignator)) {
-        if (!IsNamed(o)) continue;
-        if (!first) first = o;
-        if (found && !after) after = o;
-        if (o == layers.highlightedDesignator) {
-            found = true;
-            before = last;
-        }
-        last = o;
+void OnDragTimer() {
+    if (!tools.pressed || !tools.dragging || !Row().drags) return;
+    if (Scroll()) Follow(tools.cursor);
+}
+
+void CancelDrag() {
+    if (!tools.pressed) return;
+    EndPress();
+    Row().cancel();
+    model::state.busy = false;
+}
+
+bool CanEscape() { return (tools.pressed && Row().drags) || HasOutline(); }
+
+void Escape() {
+    if (tools.pressed) return CancelDrag();
+    if (CanCloseOutline()) CloseOutline();
+    DropOutline();  // what could not be closed; a remark has said why
+}
+
+bool ReadOutOrigin(LatLon* origin) {
+    if (const SceneryObject* marker = LastMarker()) {
+        *origin = model::PositionOf(marker);
+        return true;
     }
-    if (found)
-        layers.highlightedDesignator = backwards ? before : after;
-    else
-        layers.highlightedDesignator = backwards ? last : first;
+    *origin = tools.lastClick;
+    return tools.hasClick;
+}
+
+void SetHighlight(SceneryObject* designator) {
+    if (layers.highlightedDesignator == designator) return;
+    layers.highlightedDesignator = designator;
     platform::RequestRepaint();
 }
 

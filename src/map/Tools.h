@@ -1,10 +1,16 @@
-// Tools.h - the mouse tools of the map.
+// Tools.h - the mouse tools of the map: what presses, moves and releases mean, by the tool in force.
+//
+// A press may begin a drag: then the model counts as busy and the drag timer runs until the button is released. A
+// drag that is cancelled (Esc, the mouse captured by something else, another tool) leaves no trace.
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <vector>
 
 #include "model/Geodesy.h"
 #include "model/Geometry.h"
+#include "model/SceneryObject.h"
 
 namespace map {
 
@@ -20,16 +26,22 @@ enum class Tool : int {
     Guidelines = 8,
 };
 
+constexpr int kDragThreshold = 3;  // pixels in x or y that make a press a drag
+
 struct ToolState {
     Tool tool = Tool::Pointer;
-    uint8_t nodeKind = 1;   // 1 normal, 2 hold-short, 4 ILS hold-short
-    uint32_t linkKind = 1;  // 1 normal, 2 runway, 4 apron, 5 closed
+    uint8_t nodeKind = 1;                   // 1 normal, 2 hold-short, 4 ILS hold-short
+    uint32_t linkKind = 1;                  // 1 normal, 2 runway, 4 apron, 5 closed
+    int lastParkingType = 9;                // code of the type of new parking spots; 9 Gate Medium
+    std::vector<std::string> parkingCodes;  // airline codes of new spots, Windows-1252, at most 4 characters each
+    std::vector<model::LatLon> outline;     // corners of the apron under construction, in order
     bool panning = false;
     bool pressed = false;     // the left button went down on the map and is still held
+    bool dragging = false;    // and the pointer has left the press
     model::Pixel press;       // where
     model::Pixel cursor;      // last position of the pointer
     bool hasClick = false;    // lastClick holds a position
-    model::LatLon lastClick;  // origin of the distance and angle read-out
+    model::LatLon lastClick;  // the place of the last press
 };
 
 extern ToolState tools;
@@ -44,10 +56,25 @@ void ResetTools();  // on loading an airport
 void OnButtonDown(model::Pixel at, KeyState keys);
 void OnMouseMove(model::Pixel at, KeyState keys);
 void OnButtonUp(model::Pixel at, KeyState keys);
+void OnDoubleClick(model::Pixel at, KeyState keys);  // in place of the second press
 void OnMiddleDown(model::Pixel at);
 void OnMiddleUp();
 
-// The next (or previous) taxiway name stands out on the map; after the last one none does.
-void CycleHighlight(bool backwards);
+// The drag timer: at the edge of the map the view moves on, and the drag with it.
+void OnDragTimer();
+
+// The button will not be released here: what was dragged is back where it was.
+void CancelDrag();
+
+// Esc: cancels a drag; else closes the apron outline, or drops it when it has fewer than three corners or the file has
+// no room for another apron.
+bool CanEscape();
+void Escape();
+
+// Where distances are read out from: the last reference marker, else the last press. False when there is neither.
+bool ReadOutOrigin(model::LatLon* origin);
+
+// The taxiway name that new links get and whose links stand out; null none.
+void SetHighlight(model::SceneryObject* designator);
 
 }  // namespace map

@@ -12,8 +12,10 @@
 #include <unordered_set>
 #include <vector>
 
+#include "model/EdgeLights.h"
 #include "model/EditHistory.h"
 #include "model/Ident.h"
+#include "model/Links.h"
 #include "model/ObjectList.h"
 #include "model/Records.h"
 #include "model/Triangulate.h"
@@ -28,7 +30,6 @@ using platform::Buttons;
 using platform::Icon;
 
 constexpr uint32_t kApronSelectableVertices = 160;  // bits of the selection bitmap
-constexpr int kRegionAirportShift = 11;
 
 // Links by the node, spot, runway or designator that they point to, guidelines by their markers.
 using Users = std::unordered_map<const SceneryObject*, std::vector<SceneryObject*>>;
@@ -80,12 +81,31 @@ void RemoveUsers(const SceneryObject* object, Deletion* deletion) {
     for (SceneryObject* user : UsersOf(object, *deletion)) Remove(user, deletion);
 }
 
-// Links named after a runway or designator that goes keep their way but lose the name.
+bool WillGo(const SceneryObject* object, const Deletion& deletion) {
+    return deletion.gone.contains(object) || IsSelected(object);
+}
+
+// A blank designator that stays, made when there is none.
+SceneryObject* LastingBlankDesignator(Deletion* deletion) {
+    for (SceneryObject* name = FirstOfKind(state.head, kTaxiDesignator); name;
+         name = NextOfKind(name, kTaxiDesignator)) {
+        if (IsBlankDesignator(name) && !WillGo(name, *deletion)) return name;
+    }
+    SceneryObject* blank = CreateObject(kTaxiDesignator, sizeof(TaxiDesignatorRecord));
+    AddObject(blank);
+    ++deletion->edits;
+    return blank;
+}
+
+// Links named after a runway or designator that goes keep their way but lose the name. A runway link then has none
+// at all, any other the blank designator: links without one would be numbered like those of the first.
 void ForgetDesignator(const SceneryObject* designator, Deletion* deletion) {
     for (SceneryObject* link : UsersOf(designator, *deletion)) {
-        if (deletion->gone.contains(link)) continue;
+        if (WillGo(link, *deletion)) continue;
+        const bool isRunwayLink = LinkTypeOf(PayloadAs<TaxiLinkPayload>(link)) == kRunwayLink;
+        SceneryObject* heir = isRunwayLink ? nullptr : LastingBlankDesignator(deletion);
         SceneryObject* edited = CopyObject(link);
-        PayloadAs<TaxiLinkPayload>(edited).designator = nullptr;
+        PayloadAs<TaxiLinkPayload>(edited).designator = heir;
         Change(edited, link, deletion);
     }
 }
@@ -166,7 +186,7 @@ void DeleteApron(SceneryObject* apron, Deletion* deletion) {
         if (!selected) kept.push_back(outline[i]);
     }
     if (kept.size() == outline.size()) return;
-    if (kept.size() < 3) return Remove(apron, deletion);
+    if (kept.empty()) return Remove(apron, deletion);
     SceneryObject* edited = CopyWithOutline(apron, kept);
     edited->flags &= ~kSelected;
     Change(edited, apron, deletion);
@@ -174,9 +194,8 @@ void DeleteApron(SceneryObject* apron, Deletion* deletion) {
 
 void DeleteEdgeLights(SceneryObject* lights, Deletion* deletion) {
     if (lights->flags & kWholeSelected) return Remove(lights, deletion);
-    const uint32_t count = PayloadAs<EdgeLightsHead>(lights).stripCount;
-    std::vector<EdgeLightStrip> strips(count);
-    if (count > 0) std::memcpy(strips.data(), lights->payload + sizeof(EdgeLightsHead), count * sizeof(EdgeLightStrip));
+    std::vector<EdgeLightStrip> strips = StripsOf(lights);
+    const size_t count = strips.size();
     std::erase_if(strips, [](const EdgeLightStrip& strip) {
         return strip.segmentSelected != 0 || strip.startSelected != 0 || strip.endSelected != 0;
     });
@@ -228,8 +247,6 @@ bool LocalizerNamesOther(const SceneryObject* ils, uint32_t ident) {
     return false;
 }
 
-uint32_t AirportIdent() { return state.airport ? PayloadAs<AirportRecord>(state.airport).ident >> kIdentShift : 0; }
-
 }  // namespace
 
 bool IlsBelongsTo(const SceneryObject* ils, const SceneryObject* runway, RunwayEnd end) {
@@ -239,15 +256,16 @@ bool IlsBelongsTo(const SceneryObject* ils, const SceneryObject* runway, RunwayE
     const uint32_t ident = payload.body.ident >> kIdentShift;
     if (named != 0) return named == ident && (LocalizerNames(ils, body, end) || !LocalizerNamesOther(ils, ident));
     return !IsStock(ils) && state.airport && LocalizerNames(ils, body, end) &&
-           payload.body.region >> kRegionAirportShift == AirportIdent();
+           RegionWordNamesAirport(payload.body.region, PayloadAs<AirportRecord>(state.airport).ident);
 }
 
-int DeleteSelected(const SceneryObject* dragged) {
+int DeleteSelected() {
+    if (state.busy) return 0;
     Deletion deletion;
     deletion.users = UsersOfAll();
     BeginAction();
     for (SceneryObject *object = state.head, *next = nullptr; object; object = next) {
-        if (IsSelected(object) && object != dragged) DeleteByKind(object, &deletion);
+        if (IsSelected(object) && object != state.provisional) DeleteByKind(object, &deletion);
         next = object->next;
     }
     platform::RequestRepaint();

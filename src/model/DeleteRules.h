@@ -5,9 +5,9 @@
 
 namespace model {
 
-// Deletes what is selected, apart from `dragged` (null when no drag is in progress), as one user action.
-// Asks and refuses by message boxes. Returns the number of recorded edits; 0 when nothing changed.
-int DeleteSelected(const SceneryObject* dragged);
+// Deletes what is selected as one user action. Asks and refuses by message boxes. Returns the number of
+// recorded edits; 0 when nothing changed. Does nothing during a drag: all that is selected is in the mouse then.
+int DeleteSelected();
 
 // Deletes every guideline and reference marker, selected or not, as one user action, and returns how many
 // there were. The caller forgets the marker that it measures distances from.

@@ -61,6 +61,20 @@ void TrimUndo() {
     }
 }
 
+// The entries know their neighbours, and a dialog's provisional record must be none of them: it may go without a
+// trace. It is out of the list while the history works, and at its end again afterwards.
+struct ProvisionalAside {
+    SceneryObject* const object = state.provisional;
+    ProvisionalAside() {
+        if (object) UnlinkObject(object);
+    }
+    ~ProvisionalAside() {
+        if (object) AppendObject(object);
+    }
+    ProvisionalAside(const ProvisionalAside&) = delete;
+    ProvisionalAside& operator=(const ProvisionalAside&) = delete;
+};
+
 void Record(SceneryObject* entry, HistoryOperation operation) {
     MarkEntry(entry, operation, state.groupStart);
     Push(entry, &state.undoHead);
@@ -139,17 +153,22 @@ void ReplayModification(SceneryObject* entry, SceneryObject** otherChain) {
 void BeginAction() { state.groupStart = true; }
 
 void AddObject(SceneryObject* object) {
+    const ProvisionalAside aside;
     MarkLive(object);
     AppendObject(object);
     Record(CopyObject(object), kOpAdded);
 }
 
 void DeleteObject(SceneryObject* object) {
+    assert(object != state.provisional);
+    const ProvisionalAside aside;
     UnlinkObject(object);
     Record(object, kOpDeleted);
 }
 
 void ModifyObject(SceneryObject* edited, SceneryObject* live) {
+    assert(live != state.provisional);
+    const ProvisionalAside aside;
     assert(KindOf(edited) == KindOf(live));
     ExchangeHeaders(edited, live);
     MarkLive(live);
@@ -165,6 +184,7 @@ void ModifyAirport(SceneryObject* edited, const PlaceTexts& texts) {
 
 void Undo() {
     if (state.busy) return;
+    const ProvisionalAside aside;
     while (state.undoHead) {
         SceneryObject* entry = Pop(&state.undoHead);
         const bool startsGroup = StartsGroup(entry);
@@ -181,6 +201,7 @@ void Undo() {
 
 void Redo() {
     if (state.busy) return;
+    const ProvisionalAside aside;
     while (state.redoHead) {
         SceneryObject* entry = Pop(&state.redoHead);
         switch (OperationOf(entry)) {

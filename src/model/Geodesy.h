@@ -17,14 +17,10 @@ constexpr double kNorthSouthRadius = 6367311.808277457;  // m: a circumference o
 
 constexpr double kFeetPerMetre = 3.280839895;
 constexpr double kMetresPerFoot = 0.3048;
-constexpr float kFeetPerMetreSingle = 3.2808399f;
-constexpr float kMetresPerFootSingle = 0.3048f;
 constexpr double kMetresPerNauticalMile = 1852.1759;  // deliberately not 1852
 constexpr double kFeetPerNauticalMile = 6076.12;
 constexpr double kDegreesPerRadian = 57.29577951308232;
 constexpr double kRadiansPerDegree = 0.017453292519943295;
-constexpr double kMinute = 0.016666666666666666;   // degrees
-constexpr double kSecond = 0.0002777777777777778;  // degrees
 
 struct LatLon {
     double lat = 0, lon = 0;  // radians, west-positive longitude

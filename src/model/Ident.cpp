@@ -10,6 +10,8 @@ namespace {
 
 constexpr uint32_t kBase = 38;
 constexpr size_t kMaxCharacters = 5;
+constexpr int kRegionBits = 11;
+constexpr uint32_t kRegionMask = (1u << kRegionBits) - 1;
 
 uint32_t CodeOf(char c) {
     if (c >= '0' && c <= '9') return static_cast<uint32_t>(c - '0') + 2;
@@ -42,6 +44,14 @@ std::string UnpackIdent(uint32_t packed) {
     }
     std::reverse(text.begin(), text.end());
     return text;
+}
+
+uint32_t RegionWordWithAirport(uint32_t regionWord, uint32_t airportIdentWord) {
+    return airportIdentWord >> kIdentShift << kRegionBits | (regionWord & kRegionMask);
+}
+
+bool RegionWordNamesAirport(uint32_t regionWord, uint32_t airportIdentWord) {
+    return (regionWord & ~kRegionMask) == RegionWordWithAirport(0, airportIdentWord);
 }
 
 }  // namespace model

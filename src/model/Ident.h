@@ -1,7 +1,7 @@
 // Ident.h - identifiers of up to five characters packed in base 38, as scenery files store them.
 //
 // Most ident fields hold the packed value shifted left by five bits; the low bits tell the kind of
-// object. Runway ILS idents and region codes are stored unshifted.
+// object. Runway ILS idents and region codes are stored unshifted. An "ident word" is the shifted one.
 #pragma once
 
 #include <cstdint>
@@ -19,5 +19,10 @@ uint32_t PackIdent(std::string_view text);
 
 // Upper-case text of at most five characters; empty for 0.
 std::string UnpackIdent(uint32_t packed);
+
+// Navaids name their airport in the upper 21 bits of their region word, above the region's eleven; 0 names none.
+// An identifier of five characters may need more bits: the low ones are kept, and only they are compared.
+uint32_t RegionWordWithAirport(uint32_t regionWord, uint32_t airportIdentWord);  // the region stays
+bool RegionWordNamesAirport(uint32_t regionWord, uint32_t airportIdentWord);     // also when both name none
 
 }  // namespace model

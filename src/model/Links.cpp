@@ -1,11 +1,11 @@
 // Links.cpp - see Links.h.
 #include "model/Links.h"
 
-#include <array>
 #include <cstdint>
 #include <unordered_map>
 #include <vector>
 
+#include "model/EditHistory.h"
 #include "model/ObjectList.h"
 
 namespace model {
@@ -17,15 +17,6 @@ constexpr int kDesignatorShift = 12;
 constexpr uint32_t kDesignatorMask = 0xF;  // what a link can hold of a runway's designator
 constexpr uint32_t kIndexByteMask = 0x0000FF00;
 constexpr int kIndexByteShift = 8;
-
-// The objects of the list by kind, each kind in list order. One walk: the list is long and scattered in memory.
-using KindLists = std::array<std::vector<SceneryObject*>, kKindMask + 1>;
-
-KindLists SortByKind() {
-    KindLists lists;
-    for (SceneryObject* object = state.head; object; object = object->next) lists[KindOf(object)].push_back(object);
-    return lists;
-}
 
 SceneryObject* At(const std::vector<SceneryObject*>& objects, uint32_t index) {
     return index < objects.size() ? objects[index] : nullptr;
@@ -73,6 +64,23 @@ void ResolveLinks() {
     }
 }
 
+bool IsBlankDesignator(const SceneryObject* designator) {
+    return PayloadAs<TaxiDesignatorRecord>(designator).name[0] == '\0';
+}
+
+SceneryObject* BlankDesignator() {
+    SceneryObject* designator = FirstOfKind(state.head, kTaxiDesignator);
+    while (designator && !IsBlankDesignator(designator)) designator = NextOfKind(designator, kTaxiDesignator);
+    return designator;
+}
+
+SceneryObject* BlankDesignatorForEdit() {
+    if (SceneryObject* blank = BlankDesignator()) return blank;
+    SceneryObject* blank = CreateObject(kTaxiDesignator, sizeof(TaxiDesignatorRecord));
+    AddObject(blank);
+    return blank;
+}
+
 void UpdateLinkIndices() {
     const KindLists all = SortByKind();
     const IndexMap nodes = IndicesOf(all[kTaxiNode]), spots = IndicesOf(all[kParkingSpot]);
@@ -83,11 +91,11 @@ void UpdateLinkIndices() {
         uint32_t endField = link.endField & ~uint32_t{ kIndexMask };
         endField |= IndexIn(type == kParkingLink ? spots : nodes, link.end) & kIndexMask;
         uint32_t indexByte = 0;
+        const SceneryObject* named = link.designator;
         if (type != kRunwayLink) {
-            indexByte = IndexIn(designators, link.designator);
+            indexByte = IndexIn(designators, named);
         } else {
             uint32_t designator = 0;
-            const SceneryObject* named = link.designator;
             if (runways.contains(named)) {
                 const RunwayRecord& runway = PayloadAs<RunwayPayload>(named).body;
                 indexByte = runway.primaryNumber;

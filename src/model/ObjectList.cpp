@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "model/Blocks.h"
 #include "model/EditHistory.h"
 
 namespace model {
@@ -40,6 +41,7 @@ void ClearModel() {
         state.head = object->next;
         FreeObject(object);
     }
+    ReleaseBlocks();
     const uint64_t revision = state.revision + 1;
     state = ModelState{};
     state.revision = revision;
@@ -66,6 +68,12 @@ uint32_t CountKind(uint32_t kind) {
     uint32_t count = 0;
     for (SceneryObject* object = state.head; object; object = object->next) count += KindOf(object) == kind;
     return count;
+}
+
+KindLists SortByKind() {
+    KindLists lists;
+    for (SceneryObject* object = state.head; object; object = object->next) lists[KindOf(object)].push_back(object);
+    return lists;
 }
 
 }  // namespace model

@@ -5,9 +5,12 @@
 // the reader and for the history itself.
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 #include "model/PlaceTexts.h"
 #include "model/Records.h"
@@ -19,6 +22,13 @@ namespace model {
 struct EdgeLightDefaults {
     bool adjust = false;            // every strip ends at a lamp
     double optimumSpacing = 60.96;  // metres (200 ft), the stock value
+};
+
+// A position that a dialog shows elsewhere for as long as it is open.
+struct MovedPoint {
+    SceneryObject* object = nullptr;
+    size_t offset = 0;    // of the position in the payload
+    EncodedPoint stored;  // what the record holds in truth
 };
 
 struct ModelState {
@@ -34,6 +44,8 @@ struct ModelState {
     SceneryObject* redoHead = nullptr;
     std::unordered_map<const SceneryObject*, PlaceTexts> otherTexts;  // of history entries that changed them
     bool groupStart = false;                                          // the next recorded edit opens a user action
+    SceneryObject* provisional = nullptr;  // of an open dialog: at the end of the list, unknown to the history
+    std::vector<MovedPoint> moved;         // by an open dialog, unknown to the history
     bool modified = false;
     bool loaded = false;    // an airport is open
     bool busy = false;      // a mouse drag is in progress
@@ -58,5 +70,9 @@ void SetAirportName(const std::string& windows1252);  // cut to 48 characters
 SceneryObject* FirstOfKind(SceneryObject* from, uint32_t kind);
 SceneryObject* NextOfKind(SceneryObject* object, uint32_t kind);
 uint32_t CountKind(uint32_t kind);
+
+// The objects of the list by kind, each kind in list order. One walk: the list is long and scattered in memory.
+using KindLists = std::array<std::vector<SceneryObject*>, kKindMask + 1>;
+KindLists SortByKind();
 
 }  // namespace model

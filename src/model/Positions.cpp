@@ -8,12 +8,7 @@
 
 namespace model {
 
-namespace {
-
-constexpr uint32_t kNoPlace = UINT32_MAX;
-
-// Payload offset of the encoded longitude; the latitude follows it.
-uint32_t PlaceOffset(uint32_t kind) {
+uint32_t PositionOffset(uint32_t kind) {
     switch (kind) {
     case kAirport: return offsetof(AirportRecord, longitude);
     case kTowerViewpoint: return offsetof(TowerViewpointRecord, longitude);
@@ -26,19 +21,17 @@ uint32_t PlaceOffset(uint32_t kind) {
     case kVorDme: return offsetof(VorRecord, longitude);
     case kMarkerBeacon: return offsetof(MarkerBeaconPayload, longitude);
     case kNdb: return offsetof(NdbPayload, longitude);
-    default: return kNoPlace;
+    default: return kNoPosition;
     }
 }
 
-}  // namespace
-
 bool HasPosition(const SceneryObject* object) {
-    return KindOf(object) == kReferenceMarker || PlaceOffset(KindOf(object)) != kNoPlace;
+    return KindOf(object) == kReferenceMarker || PositionOffset(KindOf(object)) != kNoPosition;
 }
 
 BglPoint EncodedPositionOf(const SceneryObject* object) {
-    const uint32_t offset = PlaceOffset(KindOf(object));
-    assert(offset != kNoPlace && offset + sizeof(EncodedPoint) <= object->payloadSize);
+    const uint32_t offset = PositionOffset(KindOf(object));
+    assert(offset != kNoPosition && offset + sizeof(EncodedPoint) <= object->payloadSize);
     EncodedPoint point;
     std::memcpy(&point, object->payload + offset, sizeof point);
     return { point.latitude, point.longitude };
@@ -53,8 +46,8 @@ LatLon PositionOf(const SceneryObject* object) {
 }
 
 void SetEncodedPosition(SceneryObject* object, BglPoint code) {
-    const uint32_t offset = PlaceOffset(KindOf(object));
-    assert(offset != kNoPlace && offset + sizeof(EncodedPoint) <= object->payloadSize);
+    const uint32_t offset = PositionOffset(KindOf(object));
+    assert(offset != kNoPosition && offset + sizeof(EncodedPoint) <= object->payloadSize);
     const EncodedPoint point = { code.lonCode, code.latCode };
     std::memcpy(object->payload + offset, &point, sizeof point);
 }

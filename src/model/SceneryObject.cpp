@@ -5,46 +5,59 @@
 
 #include <algorithm>
 #include <cassert>
-#include <cstring>
+#include <new>
+
+#include "model/Blocks.h"
 
 namespace model {
 
+namespace {
+
+SceneryObject* NewHeader(const SceneryObject& words) { return new (TakeBlock(sizeof words)) SceneryObject(words); }
+
+// The first bytes are those of `from`, the others zero.
+uint8_t* NewPayload(uint32_t size, const uint8_t* from, uint32_t fromSize) {
+    auto* payload = static_cast<uint8_t*>(TakeBlock(size));
+    const uint32_t kept = std::min(size, fromSize);
+    std::fill(std::copy_n(from, kept, payload), payload + size, uint8_t{});
+    return payload;
+}
+
+}  // namespace
+
 SceneryObject* CreateObject(uint32_t kind, uint32_t payloadSize) {
     assert((kind & ~kKindMask) == 0);
-    auto* object = new SceneryObject{};
+    SceneryObject* object = NewHeader({});
     object->flags = kind;
     object->payloadSize = payloadSize;
-    object->payload = new uint8_t[payloadSize]();
+    object->payload = NewPayload(payloadSize, nullptr, 0);
     return object;
 }
 
 SceneryObject* CopyObject(const SceneryObject* object) {
-    auto* copy = new SceneryObject(*object);
-    copy->payload = new uint8_t[object->payloadSize];
-    std::copy_n(object->payload, object->payloadSize, copy->payload);
+    SceneryObject* copy = NewHeader(*object);
+    copy->payload = NewPayload(object->payloadSize, object->payload, object->payloadSize);
     return copy;
 }
 
 SceneryObject* ResizeCopy(const SceneryObject* object, uint32_t n) {
     constexpr uint32_t kFixedPart = 20;
     assert(object->payloadSize >= kFixedPart);
-    auto* copy = new SceneryObject(*object);
+    SceneryObject* copy = NewHeader(*object);
     copy->payloadSize = 4 * n + kFixedPart;
-    copy->payload = new uint8_t[copy->payloadSize]();
-    std::copy_n(object->payload, kFixedPart, copy->payload);
+    copy->payload = NewPayload(copy->payloadSize, object->payload, kFixedPart);
     return copy;
 }
 
 void FreeObject(SceneryObject* object) {
     if (!object) return;
-    delete[] object->payload;
-    delete object;
+    GiveBlock(object->payload, object->payloadSize);
+    GiveBlock(object, sizeof *object);
 }
 
 void ResizePayload(SceneryObject* object, uint32_t payloadSize) {
-    auto* payload = new uint8_t[payloadSize]();
-    std::copy_n(object->payload, std::min(payloadSize, object->payloadSize), payload);
-    delete[] object->payload;
+    uint8_t* payload = NewPayload(payloadSize, object->payload, object->payloadSize);
+    GiveBlock(object->payload, object->payloadSize);
     object->payload = payload;
     object->payloadSize = payloadSize;
 }

@@ -95,6 +95,8 @@ bool IsEar(const std::vector<Corner>& corners, const std::vector<size_t>& ring, 
     });
 }
 
+// None when no ear is left too early. A polygon that does not cross itself always has one, but nothing that comes from
+// a file shall rest on a proof.
 std::vector<ApronTriangle> ClipEars(const std::vector<Corner>& corners) {
     std::vector<size_t> ring(corners.size());
     for (size_t i = 0; i < ring.size(); ++i) ring[i] = i;
@@ -112,7 +114,7 @@ std::vector<ApronTriangle> ClipEars(const std::vector<Corner>& corners) {
         ring.erase(ring.begin() + static_cast<ptrdiff_t>(place));
         tried = 0;
     }
-    assert(ring.size() == 3);  // a polygon that does not cross itself always has an ear
+    if (ring.size() != 3) return {};
     triangles.push_back(Clockwise(corners, ring[0], ring[1], ring[2]));
     return triangles;
 }
@@ -128,7 +130,9 @@ std::vector<ApronTriangle> Fan(const std::vector<Corner>& corners) {
 std::vector<ApronTriangle> Triangulate(std::span<const EncodedPoint> outline) {
     if (outline.size() < 3) return {};
     const std::vector<Corner> corners = CornersOf(outline);
-    return corners.size() > kMostCorners || CrossesItself(corners) ? Fan(corners) : ClipEars(corners);
+    if (corners.size() > kMostCorners || CrossesItself(corners)) return Fan(corners);
+    std::vector<ApronTriangle> triangles = ClipEars(corners);
+    return triangles.empty() ? Fan(corners) : triangles;
 }
 
 std::vector<EncodedPoint> ApronOutline(const SceneryObject* apron) {

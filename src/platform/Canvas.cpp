@@ -1,6 +1,8 @@
 // Canvas.cpp - the pen and brush caches, and the calls handed through to the target.
 #include "platform/Canvas.h"
 
+#include <algorithm>
+
 namespace platform {
 
 void MoveTo(Path* path, Pixel to) {
@@ -21,7 +23,10 @@ void CurveTo(Path* path, Pixel control1, Pixel control2, Pixel to) {
 void ClosePath(Path* path) { path->steps.push_back(Path::Step::Close); }
 
 void SetPen(Canvas* canvas, int width, Colour colour) {
-    if (width == kNoPen) colour = 0;  // no pen is no pen, whatever its colour
+    if (width == kNoPen)
+        colour = 0;  // no pen is no pen, whatever its colour
+    else
+        width = std::max(width, canvas->thinnestPen);
     if (canvas->penWidth == width && canvas->penColour == colour) return;
     canvas->penWidth = width;
     canvas->penColour = colour;

@@ -39,7 +39,7 @@ struct TextRun {
     Pixel at;
     AlignX alignX = AlignX::Left;
     AlignY alignY = AlignY::Top;
-    int height = 14;  // of the font, pixels
+    int height = 14;  // of the font, pixels; negative: of its letters, without the space between lines
     bool bold = false;
     Colour colour = 0;
     double angle = 0;  // radians, clockwise; the text turns about `at`
@@ -64,6 +64,7 @@ struct Canvas {
     const CanvasCalls* calls = nullptr;
     int penWidth = -1;  // nothing selected yet
     Colour penColour = 0;
+    int thinnestPen = 1;  // thinner pens become so wide: on a fine printer one pixel is next to nothing
     bool brushKnown = false;
     Colour brushColour = 0;
 };

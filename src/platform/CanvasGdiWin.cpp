@@ -165,7 +165,8 @@ HFONT FontFor(int height, bool bold, int tenths) {
 }
 
 int ScaledHeight(const GdiTarget& gdi, const TextRun& run) {
-    return std::max(1, static_cast<int>(std::lround(run.height * gdi.textScale)));
+    const int height = static_cast<int>(std::lround(run.height * gdi.textScale));
+    return height != 0 ? height : 1;
 }
 
 SIZE MeasureText(const GdiTarget& gdi, const TextRun& run, const std::wstring& text) {

@@ -7,6 +7,7 @@
 #include <iterator>
 
 #include "platform/PlatformWin.h"
+#include "platform/TabPagesWin.h"
 #include "platform/WideTextWin.h"
 
 namespace platform {
@@ -14,6 +15,12 @@ namespace platform {
 namespace {
 
 std::vector<HWND> modeless;  // some may be destroyed by now
+
+struct DialogKeys {
+    HWND dialog;
+    HACCEL keys;
+};
+std::vector<DialogKeys> dialogKeys;  // of modeless dialogs
 
 struct OverMap {
     HWND dialog = nullptr;
@@ -23,15 +30,16 @@ OverMap overMap;
 
 HINSTANCE Program() { return GetModuleHandleW(nullptr); }
 
-// A dialog that was started from a dialog lies over that one.
-HWND OwnerOfDialogs() {
-    const HWND owner = MainWindow();
-    const HWND active = owner ? GetLastActivePopup(owner) : nullptr;
-    return active && IsWindowVisible(active) ? active : owner;
-}
-
 void ForgetClosed() {
     std::erase_if(modeless, [](HWND dialog) { return !IsWindow(dialog); });
+    std::erase_if(dialogKeys, [](const DialogKeys& row) { return !IsWindow(row.dialog); });
+}
+
+bool TookKey(const DialogKeys& row, MSG* message) {
+    if (!IsWindow(row.dialog)) return false;
+    const HWND at = message->hwnd;
+    if (at != row.dialog && !IsChild(row.dialog, at) && at != MainWindow()) return false;
+    return TranslateAcceleratorW(row.dialog, row.keys, message) != 0;
 }
 
 void AddChoice(HWND dialog, int control, UINT add, std::string_view text) {
@@ -54,8 +62,9 @@ void Fill(HWND dialog, int control, const Texts& texts) {
 }  // namespace
 
 INT_PTR RunDialog(int resource, DLGPROC procedure, void* data) {
-    return DialogBoxParamW(Program(), MAKEINTRESOURCEW(resource), OwnerOfDialogs(), procedure,
-                           reinterpret_cast<LPARAM>(data));
+    const HWND owner = OwnerOfDialogs();
+    const OthersDisabled others(owner, nullptr);
+    return DialogBoxParamW(Program(), MAKEINTRESOURCEW(resource), owner, procedure, reinterpret_cast<LPARAM>(data));
 }
 
 HWND OpenDialog(int resource, DLGPROC procedure, void* data) {
@@ -72,6 +81,7 @@ INT_PTR RunDialogOverMap(int resource, DLGPROC procedure, void* data) {
     if (!dialog) return -1;
     overMap = { dialog, 0 };
     ShowWindow(dialog, SW_SHOW);
+    const OthersDisabled others(dialog, MainWindow());
     MSG message;
     while (IsWindow(dialog)) {
         if (GetMessageW(&message, nullptr, 0, 0) <= 0) {  // the program is to end: so do the loops around this one
@@ -96,9 +106,15 @@ void EndDialogOverMap(HWND dialog, INT_PTR result) {
 
 HWND DialogOverMap() { return overMap.dialog; }
 
+void UseKeys(HWND dialog, HACCEL keys) { dialogKeys.push_back({ dialog, keys }); }
+
 bool DialogTookMessage(MSG* message) {
+    for (size_t i = dialogKeys.size(); i-- > 0;) {
+        if (TookKey(dialogKeys[i], message)) return true;
+    }
     for (size_t i = 0; i < modeless.size(); ++i) {
-        if (IsWindow(modeless[i]) && IsDialogMessageW(modeless[i], message)) return true;
+        if (!IsWindow(modeless[i])) continue;
+        if (TurnedPage(modeless[i], *message) || IsDialogMessageW(modeless[i], message)) return true;
     }
     return false;
 }
@@ -170,20 +186,28 @@ void SetChoice(HWND dialog, int control, int choice) {
 }
 
 void SetColumns(HWND list, std::span<const Column> columns) {
-    RECT area{};
-    GetClientRect(list, &area);
-    const int whole = area.right - GetSystemMetrics(SM_CXVSCROLL);
-    int left = whole;
     for (size_t i = 0; i < columns.size(); ++i) {
-        const bool last = i + 1 == columns.size();
         std::wstring title = WideFromUtf8(columns[i].title);
         LVCOLUMNW column{};
-        column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_SUBITEM;
+        column.mask = LVCF_TEXT | LVCF_SUBITEM;
         column.pszText = title.data();
         column.iSubItem = static_cast<int>(i);
-        column.cx = last ? left : whole * columns[i].share / 100;
-        left -= column.cx;
         SendMessageW(list, LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
+    }
+    FitColumns(list, columns);
+}
+
+void FitColumns(HWND list, std::span<const Column> columns) {
+    RECT area{};
+    GetClientRect(list, &area);
+    const bool scrolls = GetWindowLongW(list, GWL_STYLE) & WS_VSCROLL;  // then its bar is not in the area
+    const int bar = MulDiv(GetSystemMetrics(SM_CXVSCROLL), DpiOf(list), DpiOf(nullptr));
+    const int whole = scrolls ? area.right : area.right - bar;
+    int left = whole;
+    for (size_t i = 0; i < columns.size(); ++i) {
+        const int width = i + 1 == columns.size() ? left : whole * columns[i].share / 100;
+        left -= width;
+        SendMessageW(list, LVM_SETCOLUMNWIDTH, i, width);
     }
 }
 

@@ -27,6 +27,10 @@ INT_PTR RunDialogOverMap(int resource, DLGPROC procedure, void* data);
 void EndDialogOverMap(HWND dialog, INT_PTR result);
 HWND DialogOverMap();  // null when there is none
 
+// Keys of a modeless dialog beyond those that every dialog has; they also hold while the main window has the focus. Of
+// several dialogs the one that was opened last gets them.
+void UseKeys(HWND dialog, HACCEL keys);
+
 // The message loop asks first: whether the message was one for an open modeless dialog, which now has it.
 bool DialogTookMessage(MSG* message);
 
@@ -58,5 +62,6 @@ struct Column {
     int share;
 };
 void SetColumns(HWND list, std::span<const Column> columns);
+void FitColumns(HWND list, std::span<const Column> columns);  // again, after the control's size has changed
 
 }  // namespace platform

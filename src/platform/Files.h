@@ -33,8 +33,17 @@ size_t ReadAt(OpenFile* file, uint64_t offset, void* buffer, size_t size);
 bool ReadWholeFile(const std::string& path, uint64_t limit, std::vector<uint8_t>* bytes);
 
 // Writes the bytes to a sibling of the target, flushes them to the disk and renames the sibling over
-// the target. False, with the old file untouched and no sibling left behind, when any step fails.
+// the target. A symbolic link stays and the file that it leads to is the target. False, with the old file
+// untouched and no sibling left behind, when any step fails.
 bool WriteFileWhole(const std::string& path, std::span<const uint8_t> bytes);
+
+// Tells this process from all others that run now, for the name of a file that must be its own.
+uint32_t ProcessNumber();
+
+// Makes the file, if there is none, and holds it: nobody else gets it from here until the handle is closed or this
+// process has ended, however it ends. Empty when somebody has it, or it cannot be made. On Windows it goes with the
+// handle.
+FileHandle HoldFile(const std::string& path);
 
 struct FileEntry {
     std::string name;        // last path component, UTF-8
@@ -46,6 +55,13 @@ struct FileEntry {
 // compared without regard to case, sorted by name without regard to case. A folder that does not
 // exist or may not be read yields an empty list.
 std::vector<FileEntry> ListFiles(const std::string& folder, const std::string& extension);
+
+// Lists the names of the folders of a folder in the same way.
+std::vector<std::string> ListFolders(const std::string& folder);
+
+// The path of the folder's entry of that name as the disk spells it, where the system tells upper from lower case.
+// Where it does not, and where there is no such entry, the name as it stands; the disk is then not asked, or in vain.
+std::string SpelledPath(const std::string& folder, const std::string& name);
 
 bool FileExists(const std::string& path);  // a file, not a folder
 bool FolderExists(const std::string& path);

@@ -2,11 +2,13 @@
 // from scenery libraries work; names are matched as the system matches them.
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
+#include <climits>
 #include <cstdio>
 
 #include "platform/Files.h"
@@ -44,6 +46,24 @@ bool WriteAll(int descriptor, std::span<const uint8_t> bytes) {
 
 bool EndsWithNoCase(std::string_view text, std::string_view end) {
     return text.size() >= end.size() && EqualNoCase(text.substr(text.size() - end.size()), end);
+}
+
+void SortNames(std::vector<std::string>* names) {
+    std::sort(names->begin(), names->end(),
+              [](const std::string& a, const std::string& b) { return UpperCased(a) < UpperCased(b); });
+}
+
+// The file that a symbolic link leads to in the end, whether it exists or not; "" when the links go round in circles.
+std::string BehindLinks(std::string path) {
+    constexpr int kMostLinks = 40;  // as many as the system itself follows
+    for (int i = 0; i <= kMostLinks; ++i) {
+        char target[PATH_MAX];
+        const ssize_t size = ::readlink(path.c_str(), target, sizeof target);
+        if (size < 0) return path;
+        const std::string next(target, static_cast<size_t>(size));
+        path = next.starts_with('/') ? next : path.substr(0, path.rfind('/') + 1) + next;
+    }
+    return "";
 }
 
 void FlushFolderOf(const std::string& path) {
@@ -103,8 +123,9 @@ bool ReadWholeFile(const std::string& path, uint64_t limit, std::vector<uint8_t>
 }
 
 bool WriteFileWhole(const std::string& path, std::span<const uint8_t> bytes) {
-    const std::string target = NativePath(path);
+    const std::string target = BehindLinks(NativePath(path));
     struct stat info;
+    if (target.empty()) return false;
     const bool exists = ::stat(target.c_str(), &info) == 0;
     if (exists && !S_ISREG(info.st_mode)) return false;  // renaming would replace a device
     const mode_t mode = exists ? info.st_mode & 07777 : 0644;
@@ -122,6 +143,16 @@ bool WriteFileWhole(const std::string& path, std::span<const uint8_t> bytes) {
     return ok;
 }
 
+uint32_t ProcessNumber() { return static_cast<uint32_t>(::getpid()); }
+
+FileHandle HoldFile(const std::string& path) {
+    const int descriptor = ::open(NativePath(path).c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
+    if (descriptor < 0) return nullptr;
+    if (::flock(descriptor, LOCK_EX | LOCK_NB) == 0) return FileHandle(new OpenFile{ descriptor });
+    ::close(descriptor);
+    return nullptr;
+}
+
 std::vector<FileEntry> ListFiles(const std::string& folder, const std::string& extension) {
     std::vector<FileEntry> files;
     const std::string path = NativePath(folder);
@@ -137,6 +168,35 @@ std::vector<FileEntry> ListFiles(const std::string& folder, const std::string& e
     std::sort(files.begin(), files.end(),
               [](const FileEntry& a, const FileEntry& b) { return UpperCased(a.name) < UpperCased(b.name); });
     return files;
+}
+
+std::vector<std::string> ListFolders(const std::string& folder) {
+    std::vector<std::string> names;
+    DIR* directory = ::opendir(NativePath(folder).c_str());
+    if (!directory) return names;
+    while (const dirent* entry = ::readdir(directory)) {
+        const std::string name = entry->d_name;
+        struct stat info;
+        if (name == "." || name == "..") continue;
+        if (::fstatat(::dirfd(directory), entry->d_name, &info, 0) == 0 && S_ISDIR(info.st_mode)) names.push_back(name);
+    }
+    ::closedir(directory);
+    SortNames(&names);
+    return names;
+}
+
+std::string SpelledPath(const std::string& folder, const std::string& name) {
+    const std::string path = folder + "\\" + name;
+    struct stat info;
+    if (::stat(NativePath(path).c_str(), &info) == 0) return path;
+    DIR* directory = ::opendir(NativePath(folder).c_str());
+    if (!directory) return path;
+    std::vector<std::string> found;
+    while (const dirent* entry = ::readdir(directory)) {
+        if (EqualNoCase(entry->d_name, name)) found.push_back(entry->d_name);
+    }
+    ::closedir(directory);
+    return found.empty() ? path : folder + "\\" + *std::min_element(found.begin(), found.end());
 }
 
 bool FileExists(const std::string& path) {

@@ -51,10 +51,52 @@ bool WriteAll(HANDLE file, std::span<const uint8_t> bytes) {
     return true;
 }
 
+// The file that a symbolic link leads to; the path itself when it is no link, "" when that file is out of reach.
+std::wstring BehindLinks(const std::wstring& path) {
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES || !(attributes & FILE_ATTRIBUTE_REPARSE_POINT)) return path;
+    const HANDLE file = CreateFileW(path.c_str(), 0, kShareAll, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) return L"";
+    const DWORD size = GetFinalPathNameByHandleW(file, nullptr, 0, VOLUME_NAME_DOS);
+    std::wstring target(size, L'\0');
+    target.resize(GetFinalPathNameByHandleW(file, target.data(), size, VOLUME_NAME_DOS));
+    CloseHandle(file);
+    return target.size() > size ? L"" : target;
+}
+
+uint64_t Joined(DWORD high, DWORD low) { return static_cast<uint64_t>(high) << 32 | low; }
+
+// "~tv", eight hexadecimal digits and ".tmp", as CreateSibling makes them. The system's patterns match more.
+bool IsSiblingName(std::wstring_view name) {
+    constexpr std::wstring_view kStart = L"~tv", kEnd = L".tmp", kDigits = L"0123456789ABCDEF";
+    if (name.size() != kStart.size() + 8 + kEnd.size() || !name.starts_with(kStart) || !name.ends_with(kEnd))
+        return false;
+    return name.substr(kStart.size(), 8).find_first_not_of(kDigits) == std::wstring_view::npos;
+}
+
+// What a process that was killed while it wrote has left in the folder. A file that is being written is not shared and
+// stays; one that waits for its new name is younger.
+void RemoveLeftSiblings(const std::wstring& folder) {
+    constexpr uint64_t kLeftAfter = 60 * 10000000ull;  // a minute, in units of FILETIME
+    FILETIME now;
+    GetSystemTimeAsFileTime(&now);
+    WIN32_FIND_DATAW found;
+    const HANDLE search = FindFirstFileW((folder + L"~tv????????.tmp").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return;
+    do {
+        if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) || !IsSiblingName(found.cFileName)) continue;
+        const uint64_t written = Joined(found.ftLastWriteTime.dwHighDateTime, found.ftLastWriteTime.dwLowDateTime);
+        if (written + kLeftAfter < Joined(now.dwHighDateTime, now.dwLowDateTime))
+            DeleteFileW((folder + found.cFileName).c_str());
+    } while (FindNextFileW(search, &found));
+    FindClose(search);
+}
+
 // A new file in the folder of the target. Its short name fits even where that of the target fills the limit.
 HANDLE CreateSibling(const std::wstring& target, std::wstring* sibling) {
     const size_t slash = target.find_last_of(L"\\:");
     const std::wstring folder = slash == std::wstring::npos ? L"" : target.substr(0, slash + 1);
+    RemoveLeftSiblings(folder);
     const DWORD start = GetCurrentProcessId() * 1000 + GetTickCount() % 1000;
     for (DWORD attempt = 0; attempt < 100; ++attempt) {
         wchar_t name[32];
@@ -70,8 +112,6 @@ HANDLE CreateSibling(const std::wstring& target, std::wstring* sibling) {
 bool EndsWithNoCase(std::string_view text, std::string_view end) {
     return text.size() >= end.size() && EqualNoCase(text.substr(text.size() - end.size()), end);
 }
-
-uint64_t Joined(DWORD high, DWORD low) { return static_cast<uint64_t>(high) << 32 | low; }
 
 }  // namespace
 
@@ -126,7 +166,8 @@ bool ReadWholeFile(const std::string& path, uint64_t limit, std::vector<uint8_t>
 
 bool WriteFileWhole(const std::string& path, std::span<const uint8_t> bytes) {
     if (!IsUsable(path)) return false;
-    const std::wstring target = NativePath(path);
+    const std::wstring target = BehindLinks(NativePath(path));
+    if (target.empty()) return false;
     const DWORD attributes = GetFileAttributesW(target.c_str());
     // A file that its owner has protected stays, also where the system would let us replace it.
     constexpr DWORD kKept = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY;
@@ -139,6 +180,15 @@ bool WriteFileWhole(const std::string& path, std::span<const uint8_t> bytes) {
     ok = ok && MoveFileExW(sibling.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
     if (!ok) DeleteFileW(sibling.c_str());
     return ok;
+}
+
+uint32_t ProcessNumber() { return GetCurrentProcessId(); }
+
+FileHandle HoldFile(const std::string& path) {
+    if (!IsUsable(path)) return nullptr;
+    const HANDLE handle = CreateFileW(NativePath(path).c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
+                                      FILE_ATTRIBUTE_NORMAL | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+    return handle == INVALID_HANDLE_VALUE ? nullptr : FileHandle(new OpenFile{ handle });
 }
 
 std::vector<FileEntry> ListFiles(const std::string& folder, const std::string& extension) {
@@ -160,6 +210,25 @@ std::vector<FileEntry> ListFiles(const std::string& folder, const std::string& e
               [](const FileEntry& a, const FileEntry& b) { return UpperCased(a.name) < UpperCased(b.name); });
     return files;
 }
+
+std::vector<std::string> ListFolders(const std::string& folder) {
+    std::vector<std::string> names;
+    if (!IsUsable(folder)) return names;
+    WIN32_FIND_DATAW found;
+    const HANDLE search = FindFirstFileW(NativePath(folder + "\\*").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return names;
+    do {
+        const std::wstring_view name = found.cFileName;
+        const bool isFolder = found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY;
+        if (isFolder && name != L"." && name != L"..") names.push_back(Utf8FromWide(name));
+    } while (FindNextFileW(search, &found));
+    FindClose(search);
+    std::sort(names.begin(), names.end(),
+              [](const std::string& a, const std::string& b) { return UpperCased(a) < UpperCased(b); });
+    return names;
+}
+
+std::string SpelledPath(const std::string& folder, const std::string& name) { return folder + "\\" + name; }
 
 bool FileExists(const std::string& path) {
     const DWORD attributes = AttributesOf(path);

@@ -1,6 +1,8 @@
 // PlatformWin.cpp - messages, repaints and the clock of the program.
 #include "platform/PlatformWin.h"
 
+#include <utility>
+
 #include "platform/WideTextWin.h"
 
 namespace platform {
@@ -8,6 +10,7 @@ namespace platform {
 namespace {
 
 HWND mainWindow;
+bool repaintRequested = true;
 
 UINT BoxStyle(Buttons buttons, Icon icon) {
     constexpr UINT kButtons[] = { MB_OK, MB_OKCANCEL, MB_YESNO, MB_YESNOCANCEL };
@@ -33,9 +36,33 @@ void UseMainWindow(HWND window) { mainWindow = window; }
 
 HWND MainWindow() { return mainWindow; }
 
+HWND OwnerOfDialogs() {
+    const HWND active = mainWindow ? GetLastActivePopup(mainWindow) : nullptr;
+    return active && IsWindowVisible(active) ? active : mainWindow;
+}
+
+OthersDisabled::OthersDisabled(HWND keep, HWND keepToo) {
+    const auto collect = [](HWND window, LPARAM list) -> BOOL {
+        const bool takesInput = IsWindowVisible(window) && IsWindowEnabled(window);
+        const bool ours = window == mainWindow || GetWindow(window, GW_OWNER) == mainWindow;
+        if (takesInput && ours && (GetWindowLongW(window, GWL_STYLE) & WS_CAPTION) == WS_CAPTION)
+            reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+        return TRUE;
+    };
+    if (mainWindow) EnumThreadWindows(GetCurrentThreadId(), collect, reinterpret_cast<LPARAM>(&disabled));
+    std::erase_if(disabled, [=](HWND window) { return window == keep || window == keepToo; });
+    for (const HWND window : disabled) EnableWindow(window, FALSE);
+}
+
+OthersDisabled::~OthersDisabled() {
+    for (const HWND window : disabled) EnableWindow(window, TRUE);
+}
+
 Answer ShowTitledMessage(std::string_view title, std::string_view text, Buttons buttons, Icon icon) {
+    const HWND owner = OwnerOfDialogs();
+    const OthersDisabled others(owner, nullptr);
     const int button =
-        MessageBoxW(mainWindow, WideFromUtf8(text).c_str(), WideFromUtf8(title).c_str(), BoxStyle(buttons, icon));
+        MessageBoxW(owner, WideFromUtf8(text).c_str(), WideFromUtf8(title).c_str(), BoxStyle(buttons, icon));
     return AnswerFrom(button, buttons);
 }
 
@@ -44,13 +71,25 @@ Answer ShowMessage(std::string_view text, Buttons buttons, Icon icon) {
 }
 
 void RequestRepaint() {
+    repaintRequested = true;
     if (mainWindow) InvalidateRect(mainWindow, nullptr, FALSE);
 }
+
+bool TakeRepaintRequest() { return std::exchange(repaintRequested, false); }
 
 uint64_t SystemFileTime() {
     FILETIME time;
     GetSystemTimeAsFileTime(&time);
     return static_cast<uint64_t>(time.dwHighDateTime) << 32 | time.dwLowDateTime;
+}
+
+HFONT MakeSystemFont(SystemFont font, int dpi) {
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof metrics;
+    if (!SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0)) return nullptr;
+    LOGFONTW shape = font == SystemFont::Message ? metrics.lfMessageFont : metrics.lfStatusFont;
+    shape.lfHeight = MulDiv(shape.lfHeight, dpi, DpiOf(nullptr));  // given for the system's resolution
+    return CreateFontIndirectW(&shape);
 }
 
 int DpiOf(HWND window) {

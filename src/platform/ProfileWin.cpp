@@ -2,16 +2,20 @@
 //
 // Those keep a file in the encoding that it has, and make a new one in the 8-bit encoding of the system, where a
 // path may lose characters. So a missing file is made as an empty UTF-16 one first, and an 8-bit one becomes
-// UTF-16 when it is to take such a text.
+// UTF-16 when it is to take such a text. They know a byte order mark only where it is that of little-endian UTF-16;
+// any other one they take for a part of the first line, and lose the section that begins there. A file with such a
+// mark is read here, and becomes UTF-16 before anything is written to it.
 #include <windows.h>
 
 #include <algorithm>
 #include <cstdint>
+#include <string_view>
 #include <vector>
 
 #include "platform/Files.h"
 #include "platform/IniText.h"
 #include "platform/Profile.h"
+#include "platform/Text.h"
 #include "platform/WideTextWin.h"
 
 namespace platform {
@@ -19,6 +23,32 @@ namespace platform {
 namespace {
 
 constexpr uint64_t kLargestFile = 16u << 20;  // bytes
+
+bool HasForeignMark(std::string_view start) {
+    return start.starts_with("\xEF\xBB\xBF") || start.starts_with("\xFE\xFF");
+}
+
+std::string_view TextOf(const std::vector<uint8_t>& bytes) {
+    return { reinterpret_cast<const char*>(bytes.data()), bytes.size() };
+}
+
+bool IsReadHere(const std::string& path) {
+    const FileHandle file = OpenForReading(path);
+    char start[3];
+    return file && HasForeignMark({ start, ReadAt(file.get(), 0, start, sizeof start) });
+}
+
+std::string ReadHere(const std::string& file, const std::string& section, const std::string& key,
+                     const std::string& fallback) {
+    const std::string text = ReadIniText(file);
+    for (const IniSection& found : ParseIni(text)) {
+        if (!EqualNoCase(found.name, section)) continue;
+        for (const auto& [name, value] : found.values) {
+            if (EqualNoCase(name, key)) return std::string(value);
+        }
+    }
+    return fallback;
+}
 
 bool FitsSystemText(const std::wstring& text) {
     BOOL replaced = FALSE;
@@ -38,6 +68,7 @@ bool PrepareFile(const std::string& file, const std::wstring& text) {
     std::vector<uint8_t> bytes;
     if (!ReadWholeFile(file, kLargestFile, &bytes)) return FileExists(file) || WriteAsUtf16(file, "");
     if (bytes.empty()) return WriteAsUtf16(file, "");
+    if (HasForeignMark(TextOf(bytes))) return WriteAsUtf16(file, DecodeIniText(bytes));
     const bool isUtf16 = bytes.size() >= 2 && bytes[0] == 0xFF && bytes[1] == 0xFE;
     return isUtf16 || FitsSystemText(text) || WriteAsUtf16(file, DecodeIniText(bytes));
 }
@@ -55,6 +86,7 @@ std::wstring Protected(std::wstring value) {
 
 std::string ReadProfile(const std::string& file, const std::string& section, const std::string& key,
                         const std::string& fallback, size_t limit) {
+    if (IsReadHere(file)) return Utf8FromWide(WideFromUtf8(ReadHere(file, section, key, fallback)).substr(0, limit));
     std::wstring value(limit + 1, L'\0');
     value.resize(GetPrivateProfileStringW(WideFromUtf8(section).c_str(), WideFromUtf8(key).c_str(),
                                           WideFromUtf8(fallback).c_str(), value.data(),

@@ -55,6 +55,8 @@ int Windows1252Byte(uint32_t code) {
     return found == std::end(kUpperControls) ? -1 : static_cast<int>(0x80 + (found - kUpperControls));
 }
 
+bool StartsCharacter(char c) { return (static_cast<uint8_t>(c) & 0xC0) != 0x80; }
+
 char UpperCase(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
 }  // namespace
@@ -79,6 +81,17 @@ std::string Windows1252FromUtf8(std::string_view text, bool* lossless) {
     }
     if (lossless) *lossless = !lost;
     return result;
+}
+
+size_t CharacterCount(std::string_view text) {
+    return static_cast<size_t>(std::count_if(text.begin(), text.end(), StartsCharacter));
+}
+
+std::string_view FirstCharacters(std::string_view text, size_t count) {
+    for (size_t at = 0; at < text.size(); ++at) {
+        if (StartsCharacter(text[at]) && count-- == 0) return text.substr(0, at);
+    }
+    return text;
 }
 
 std::string UpperCased(std::string_view text) {

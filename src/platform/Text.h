@@ -1,6 +1,7 @@
 // Text.h - text encodings: UTF-8 inside the program, Windows-1252 in scenery files.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -11,6 +12,10 @@ std::string Utf8FromWindows1252(std::string_view text);
 
 // Characters that Windows-1252 lacks, and broken UTF-8, become "?". *lossless tells whether none did.
 std::string Windows1252FromUtf8(std::string_view text, bool* lossless = nullptr);
+
+// Of UTF-8: how many characters it has, and its first ones.
+size_t CharacterCount(std::string_view text);
+std::string_view FirstCharacters(std::string_view text, size_t count);
 
 // ASCII letters only; all other bytes stay.
 std::string UpperCased(std::string_view text);

@@ -4,6 +4,7 @@
 // turns the whole into the objects of the model.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -76,7 +77,7 @@ struct RunwayEndPlan {
 };
 
 struct RunwayPlan {
-    RunwayEndPlan ends[2];  // primary, secondary
+    std::array<RunwayEndPlan, 2> ends;  // primary, secondary
     Local centre;
     double heading = 0;            // degrees true, seen from the primary end
     double length = 0, width = 0;  // metres

@@ -11,6 +11,7 @@
 #include "fakes/BuildObjects.h"
 #include "fakes/FakeDialogHost.h"
 #include "fakes/FakePlatform.h"
+#include "map/MapView.h"
 #include "model/EditHistory.h"
 #include "model/ObjectList.h"
 
@@ -24,6 +25,7 @@ protected:
         ResetFakes();
         ResetDialogFakes();
         app::settings = app::Settings{};
+        map::view = {};
     }
 
     static std::vector<uint8_t> Bytes(const model::SceneryObject* object) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <vector>
 
 #include "model/Records.h"
@@ -9,6 +10,7 @@
 struct FakeDialogHost {
     std::vector<model::TaxiLinkPayload> linkTemplates;
     std::vector<uint32_t> parkingTypes;
+    std::vector<std::string> helpTopics;
 };
 
 extern FakeDialogHost fakeDialogs;

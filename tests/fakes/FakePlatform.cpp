@@ -36,6 +36,12 @@ namespace map {
 
 void RotationChanged() { ++fake.rotationChanges; }
 
-void PlaceSimAircraft(model::LatLon, double) { ++fake.placedAircraft; }
+void StartDragTimer() { fake.dragTimer = true; }
+void StopDragTimer() { fake.dragTimer = false; }
+void RequestFeedback() { ++fake.feedbackRequests; }
+void OpenProperties(model::SceneryObject* object) { fake.openedProperties.push_back(object); }
+void ShowRemark(std::string_view text) { fake.remark = text; }
+
+void PlaceSimAircraft(model::LatLon position, double heading) { fake.placedAircraft.push_back({ position, heading }); }
 
 }  // namespace map

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "model/Geodesy.h"
+#include "model/SceneryObject.h"
 #include "platform/Platform.h"
 
 struct FakeMessage {
@@ -14,13 +16,22 @@ struct FakeMessage {
     platform::Icon icon;
 };
 
+struct PlacedAircraft {
+    model::LatLon position;
+    double heading = 0;  // radians true
+};
+
 struct FakePlatform {
     std::vector<FakeMessage> messages;
     std::deque<platform::Answer> answers;  // taken in order by boxes with more than an OK button
     int repaints = 0;
     uint64_t fileTime = 0x01C4000000000000;
     int rotationChanges = 0;
-    int placedAircraft = 0;
+    int feedbackRequests = 0;
+    bool dragTimer = false;  // runs
+    std::vector<model::SceneryObject*> openedProperties;
+    std::string remark;
+    std::vector<PlacedAircraft> placedAircraft;
 };
 
 extern FakePlatform fake;

@@ -1,12 +1,11 @@
-// FakeProfile.h - INI files in memory, keyed by path, section and key without regard to case.
+// FakeProfile.h - INI files as a system without our care keeps them: on the disk, changed in place key by key, in
+// the encoding UTF-8.
 #pragma once
 
-#include <map>
 #include <string>
 
 struct FakeProfiles {
-    std::map<std::string, std::string> values;  // "FILE|SECTION|KEY", upper case
-    bool readOnly = false;                      // writes fail
+    int writesLeft = -1;  // from then on writes fail; below 0: never
 };
 
 extern FakeProfiles fakeProfiles;

@@ -1,9 +1,11 @@
 // FakeShell.cpp - see FakeShell.h.
 #include "FakeShell.h"
 
+#include "aircraft/AircraftEditor.h"
 #include "app/AppState.h"
 #include "app/Settings.h"
 #include "FakePlatform.h"
+#include "faults/FaultFinder.h"
 #include "map/MapView.h"
 #include "map/Tools.h"
 #include "model/ObjectList.h"
@@ -20,6 +22,12 @@ void ResetProgram() {
     map::tools = {};
     fakeShell = {};
 }
+
+namespace faults {
+
+void OpenFaultFinder() { ++fakeShell.faultFinders; }
+
+}  // namespace faults
 
 namespace app {
 
@@ -39,10 +47,51 @@ void ShowText(std::string_view title, std::string_view text, platform::Icon) {
     fakeShell.texts.emplace_back(text);
 }
 
+void ShowOpenAirportDialog() { ++fakeShell.openDialogs; }
+
+void ShowRecentAirports() { ++fakeShell.recentRefreshes; }
+
 void OpenDocument(const std::string& path) { fakeShell.documents.push_back(path); }
+
+void ShowOptionsDialog() { ++fakeShell.optionsDialogs; }
+
+void OpenHelp(std::string_view topic) { fakeShell.helpTopics.emplace_back(topic); }
+
+void ShowPageSetup() { ++fakeShell.pageSetups; }
+
+void PrintAirportMap() { ++fakeShell.prints; }
 
 void CloseMainWindow() { ++fakeShell.closeRequests; }
 
 std::vector<std::string> RegisteredSimulatorFolders() { return fakeShell.registeredFolders; }
 
+bool WriteRegisteredSimulatorFolder(const std::string& folder) {
+    if (fakeShell.registryRefuses) return false;
+    fakeShell.registeredFolders = { folder };
+    return true;
+}
+
+bool AskSimulatorFolder(std::string* folder) {
+    ++fakeShell.folderQuestions;
+    if (fakeShell.browsedFolder) *folder = *fakeShell.browsedFolder;
+    return fakeShell.browsedFolder.has_value();
+}
+
+void ShowNoticeText(std::string_view text) { fakeShell.notice = text; }
+
+void ShowWaitCursor(bool shown) {
+    fakeShell.waitCursors += !shown && fakeShell.waiting;
+    fakeShell.waiting = shown;
+}
+
+bool IsMainWindowMaximized() { return fakeShell.maximized; }
+
+std::string LocalTimeText(uint64_t fileTime) { return fileTime ? "(time)" : "(no time)"; }
+
 }  // namespace app
+
+namespace aircraft {
+
+void ShowAircraftEditor(const std::string& simulatorFolder) { fakeShell.aircraftEditors.push_back(simulatorFolder); }
+
+}  // namespace aircraft

@@ -14,8 +14,20 @@ struct FakeShell {
     int stateRefreshes = 0;
     std::vector<std::string> textTitles, texts;
     std::vector<std::string> documents;
+    std::vector<std::string> helpTopics;
+    int openDialogs = 0, recentRefreshes = 0;
+    int optionsDialogs = 0;
+    std::vector<std::string> aircraftEditors;  // the simulator folder of each
+    int pageSetups = 0, prints = 0, faultFinders = 0;
     int closeRequests = 0;
     std::vector<std::string> registeredFolders;
+    std::optional<std::string> browsedFolder;  // the answer of the folder browser; none: the user cancels
+    int folderQuestions = 0;
+    bool registryRefuses = false;
+    std::string notice;
+    int waitCursors = 0;   // shown and taken away again
+    bool waiting = false;  // one is shown now
+    bool maximized = false;
 };
 
 extern FakeShell fakeShell;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "model/Ident.h"
+#include "model/Links.h"
 #include "model/ObjectList.h"
 #include "model/Records.h"
 
@@ -122,8 +123,7 @@ SceneryObject* MakeSpot(Random* random) {
     return object;
 }
 
-SceneryObject* MakeApron(Random* random, uint32_t mostVertices) {
-    const uint32_t a = Below(random, mostVertices + 1), b = OneIn(random, 2) ? a : Below(random, mostVertices + 1);
+SceneryObject* MakeApronOf(Random* random, uint32_t a, uint32_t b) {
     const uint32_t t = b < 3 ? 0 : b - 2;
     SceneryObject* object =
         Make(kApron, sizeof(ApronHead) + sizeof(EncodedPoint) * (a + b) + sizeof(ApronTriangle) * t);
@@ -133,6 +133,11 @@ SceneryObject* MakeApron(Random* random, uint32_t mostVertices) {
     head.vertexCount = static_cast<uint16_t>(b);
     head.triangleCount = static_cast<uint16_t>(t);
     return object;
+}
+
+SceneryObject* MakeApron(Random* random, uint32_t mostVertices) {
+    const uint32_t a = Below(random, mostVertices + 1), b = OneIn(random, 2) ? a : Below(random, mostVertices + 1);
+    return MakeApronOf(random, a, b);
 }
 
 SceneryObject* MakeEdgeLights(Random* random, uint32_t count) {
@@ -369,6 +374,7 @@ void MakeRandomAirport(uint64_t seed, const AirportCounts& counts) {
     for (uint32_t i = 0; i < counts.aprons; ++i) Keep(MakeApron(&random, counts.apronVertices), &parts);
     for (uint32_t i = 0; i < counts.openAprons; ++i)
         Keep(MakeApron(&random, counts.apronVertices), &parts)->flags |= kOutlineOpen;
+    if (const uint32_t exact = counts.exactApronVertices) Keep(MakeApronOf(&random, exact, exact), &parts);
     if (counts.strips > 0) Keep(MakeEdgeLights(&random, counts.strips), &parts);
     MakeNavaids(&random, seed, counts, &parts);
     if (OneIn(&random, 3)) Keep(MakePlain<ReferenceMarkerPayload>(&random, kReferenceMarker), &parts);

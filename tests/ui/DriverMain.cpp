@@ -33,6 +33,7 @@ constexpr char kHelp[] =
     "driver wheel   WINDOW X Y DELTA    wheel message\n"
     "driver shot    WINDOW FILE         picture of the window, BMP\n"
     "driver close   WINDOW              as if its close button was pressed\n"
+    "driver note    FILE TEXT           adds a line to a file\n"
     "WINDOW is a title, @Class or 0xHANDLE. Result 0 done, 1 not found, 2 wrong call.\n";
 
 void Print(const std::wstring& text) { printf("%s\n", ui::Utf8(text).c_str()); }
@@ -185,6 +186,14 @@ int Close(HWND window, const Arguments&) {
     return kOk;
 }
 
+// Registered as a browser, it tells what it was asked to open.
+int Note(const wchar_t* path, const wchar_t* text) {
+    FILE* file = _wfopen(path, L"ab");
+    if (!file) return kNotFound;
+    const bool written = fprintf(file, "%s\n", ui::Utf8(text).c_str()) > 0;
+    return (fclose(file) == 0) && written ? kOk : kNotFound;
+}
+
 struct Step {
     const wchar_t* name;
     size_t arguments;  // least number behind WINDOW
@@ -216,6 +225,7 @@ int RunStep(const std::wstring& name, const std::wstring& target, const Argument
 
 int wmain(int count, wchar_t** values) {
     if (count == 2 && std::wstring(values[1]) == L"list") return ListWindows();
+    if (count == 4 && std::wstring(values[1]) == L"note") return Note(values[2], values[3]);
     if (count < 3 || !values[2][0]) {
         fputs(kHelp, stderr);
         return kUsage;

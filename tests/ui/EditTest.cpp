@@ -85,8 +85,8 @@ TEST_F(EditTest, ANodeIsNotMadeOnTheToolbarOrTheStatusBar) {
 
 TEST_F(EditTest, TheMiddleOfTheMapIsTheAirportsReferencePoint) {
     StartWithSample("hub");
-    const RECT area = MapArea(mainWindow);
-    SendMouse(mainWindow, WM_MOUSEMOVE, (area.left + area.right) / 2, (area.top + area.bottom) / 2);
+    const POINT centre = MapMiddle(mainWindow);
+    SendMouse(mainWindow, WM_MOUSEMOVE, centre.x, centre.y);
     const std::wstring middle = StatusText(mainWindow, kPositionPart);
     PostKey(mainWindow, VK_RIGHT);
     SettlePosted(agent);

@@ -3,6 +3,7 @@
 
 #include "ProgramParts.h"
 #include "Resource.h"
+#include "StandInBrowser.h"
 #include "UiHarness.h"
 
 namespace ui {
@@ -60,6 +61,13 @@ constexpr ExpectedEntry kEntries[] = {
 };
 
 constexpr UINT kNeedAirport[] = { IDM_CLOSE, IDM_SAVE, IDM_SAVE_AS };
+constexpr UINT kGreyedWithoutAirport[] = {
+    IDM_CLOSE,          IDM_SAVE,         IDM_SAVE_AS,      IDM_AIRPORT_PROPERTIES, IDM_PAGE_SETUP,
+    IDM_PRINT,          IDM_UNDO,         IDM_REDO,         IDM_SELECT_ALL,         IDM_INSERT_RUNWAY,
+    IDM_INSERT_HELIPAD, IDM_INSERT_TOWER, IDM_INSERT_START, IDM_INSERT_ILS,         IDM_INSERT_MARKER_BEACON,
+    IDM_INSERT_NDB,     IDM_INSERT_VOR,   IDM_LIST_PARKING, IDM_LIST_DESIGNATORS,   IDM_LIST_RUNWAYS,
+    IDM_LIST_STARTS,    IDM_LIST_COMMS,   IDM_LIST_NAVAIDS, IDM_FAULT_FINDER,
+};
 
 TEST_F(MenuTest, EveryEntryHasItsTextAndNoOtherIsThere) {
     Start();
@@ -81,7 +89,66 @@ TEST_F(MenuTest, WhatNeedsAnAirportIsGreyedUntilOneIsOpenAndAfterItIsClosed) {
     for (UINT id : kNeedAirport) EXPECT_FALSE(IsGreyed(id)) << id;
     Command(IDM_CLOSE);
     ASSERT_TRUE(WaitUntil([&] { return Title() == L"Tarvo        "; })) << Utf8(Title());
-    for (UINT id : kNeedAirport) EXPECT_TRUE(IsGreyed(id)) << id;
+    for (UINT id : kGreyedWithoutAirport) EXPECT_TRUE(IsGreyed(id)) << id;
+}
+
+static wchar_t Mnemonic(const std::wstring& text) {
+    const size_t mark = text.find(L'&');
+    return mark + 1 < text.size() ? static_cast<wchar_t>(towupper(text[mark + 1])) : L'\0';
+}
+
+TEST_F(MenuTest, EveryEntryHasALetterOfItsOwnInItsMenu) {
+    Start();
+    std::wstring bar, popup;
+    for (const MenuEntry& entry : ReadMenu(agent)) {
+        if (entry.depth > 0 && entry.id == 0) continue;  // a separator
+        if (entry.depth == 0) popup.clear();
+        std::wstring& letters = entry.depth == 0 ? bar : popup;
+        const wchar_t letter = Mnemonic(entry.text);
+        EXPECT_TRUE(iswalnum(letter)) << Utf8(entry.text);
+        EXPECT_EQ(letters.find(letter), std::wstring::npos) << Utf8(entry.text);
+        letters += letter;
+    }
+    EXPECT_EQ(bar, L"FEVILTH");
+}
+
+// Real keys: Alt and the letter of the menu, then the letter of the entry. An entry that is grey gives nothing.
+TEST_F(MenuTest, EveryEntryIsReachedByTheKeyboardAndAGreyOneIsDead) {
+    StartWithSample("hub");
+    ASSERT_TRUE(BringToFront(mainWindow));
+    CatchCommands(agent, true);
+    wchar_t menu = 0;
+    int given = 0;
+    for (const MenuEntry& entry : ReadMenu(agent)) {
+        if (entry.depth == 0) menu = Mnemonic(entry.text);
+        if (entry.depth == 0 || entry.id == 0) continue;
+        const bool greyed = IsGreyed(entry.id);
+        TapKey(menu, { VK_MENU });
+        ASSERT_TRUE(WaitUntil([&] { return InMenu(mainWindow); })) << Utf8(entry.text);
+        TapKey(Mnemonic(entry.text));
+        if (!greyed) {
+            ASSERT_TRUE(WaitUntil([&] { return !InMenu(mainWindow); })) << Utf8(entry.text);
+            ASSERT_TRUE(SettlePosted(agent));
+            EXPECT_EQ(CaughtCommand(agent), entry.id) << Utf8(entry.text);
+            ++given;
+            continue;
+        }
+        ASSERT_TRUE(WaitUntil([&] {
+            if (InMenu(mainWindow)) TapKey(VK_ESCAPE);
+            return !InMenu(mainWindow);
+        })) << Utf8(entry.text);
+        ASSERT_TRUE(SettlePosted(agent));
+        EXPECT_EQ(CaughtCommand(agent), 0u) << Utf8(entry.text);
+    }
+    CatchCommands(agent, false);
+    EXPECT_GE(given, 15);
+}
+
+TEST_F(MenuTest, HelpOpensTheManual) {
+    const StandInBrowser browser;
+    Start();
+    Command(IDM_HELP);
+    EXPECT_TRUE(browser.WaitForOpened("C:\\UiTest\\Tarvo\\ReadMe.htm\n")) << browser.Opened();
 }
 
 TEST_F(MenuTest, AGreyedCommandDoesNothingThoughItIsSent) {
@@ -138,7 +205,10 @@ TEST_F(MenuTest, TheToolbarShowsTheActiveToolAndGreysWhatHasNothingBehindIt) {
     const HWND toolbar = ToolbarOf(mainWindow);
     ASSERT_NE(toolbar, nullptr);
     EXPECT_EQ(GetDlgCtrlID(toolbar), IDC_FIRST_TOOLBAR);
-    EXPECT_EQ(SendMessageW(toolbar, TB_BUTTONCOUNT, 0, 0), 23);
+    for (int id : { IDT_OPEN, IDT_SAVE, IDT_PRINT, IDT_UNDO, IDT_REDO, IDT_ZOOM_IN, IDT_ZOOM_OUT, IDT_LOCK, IDT_POINTER,
+                    IDT_NORMAL_NODE, IDT_HOLD_SHORT_NODE, IDT_ILS_HOLD_SHORT_NODE, IDT_NORMAL_LINK, IDT_RUNWAY_LINK,
+                    IDT_APRON_LINK, IDT_CLOSED_LINK })
+        EXPECT_NE(ToolButtonState(toolbar, id), -1) << id;
     EXPECT_EQ(ToolButtonState(toolbar, IDT_POINTER), TBSTATE_ENABLED | TBSTATE_CHECKED);
     EXPECT_EQ(ToolButtonState(toolbar, IDT_PRINT), 0);
     EXPECT_EQ(ToolButtonState(toolbar, IDT_UNDO), 0);

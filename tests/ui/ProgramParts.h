@@ -1,4 +1,4 @@
-// ProgramParts.h - the parts of the main window: map, toolbar, status bar, and how to work on the map.
+// ProgramParts.h - the parts of the main window: map, toolbars, status bar, and how to work on the map.
 #pragma once
 
 #include <windows.h>
@@ -6,6 +6,7 @@
 #include <commctrl.h>
 #include <string>
 
+#include "Resource.h"
 #include "UiControls.h"
 #include "UiDriver.h"
 #include "UiInput.h"
@@ -19,10 +20,18 @@ inline HWND ChildOfClass(HWND parent, const wchar_t* className) {
     return nullptr;
 }
 
-inline HWND ToolbarOf(HWND mainWindow) { return ChildOfClass(mainWindow, TOOLBARCLASSNAMEW); }
+inline HWND ToolbarOf(HWND mainWindow) { return ChildWithId(mainWindow, IDC_FIRST_TOOLBAR); }
+inline HWND SecondToolbarOf(HWND mainWindow) { return ChildWithId(mainWindow, IDC_SECOND_TOOLBAR); }
+
+// The toolbar that has the button.
+inline HWND ToolbarWith(HWND mainWindow, int id) {
+    const HWND first = ToolbarOf(mainWindow);
+    return ToolButtonState(first, id) >= 0 ? first : SecondToolbarOf(mainWindow);
+}
+
 inline HWND StatusBarOf(HWND mainWindow) { return ChildOfClass(mainWindow, STATUSCLASSNAMEW); }
 
-// The map, in client coordinates of the main window: what lies between the toolbar and the status bar.
+// What can be seen of the map, in client coordinates of the main window: between the toolbars and the status bar.
 inline RECT MapArea(HWND mainWindow) {
     RECT area{}, bar{};
     GetClientRect(mainWindow, &area);
@@ -33,7 +42,22 @@ inline RECT MapArea(HWND mainWindow) {
     return area;
 }
 
-enum StatusPart { kPositionPart, kDistancePart, kAnglePart, kRotationPart };
+// The place that the view looks at: the map has the whole client area.
+inline POINT MapMiddle(HWND mainWindow) {
+    RECT client{};
+    GetClientRect(mainWindow, &client);
+    return { client.right / 2, client.bottom / 2 };
+}
+
+inline int MapHeight(HWND mainWindow) {
+    RECT client{};
+    GetClientRect(mainWindow, &client);
+    return client.bottom;
+}
+
+enum StatusPart { kPositionPart, kDistancePart, kAnglePart, kSimulatorPart, kNoticePart };
+
+inline std::wstring RotationText(HWND mainWindow) { return TextOf(ChildWithId(mainWindow, IDC_ROTATION)); }
 
 inline std::wstring StatusText(HWND mainWindow, StatusPart part) {
     const HWND bar = StatusBarOf(mainWindow);
@@ -48,7 +72,7 @@ inline std::wstring StatusText(HWND mainWindow, StatusPart part) {
 
 // Presses a toolbar button as the mouse does: a greyed one then does nothing.
 inline void ClickToolButton(HWND mainWindow, int id) {
-    const HWND toolbar = ToolbarOf(mainWindow);
+    const HWND toolbar = ToolbarWith(mainWindow, id);
     const RECT button = ToolButtonRect(toolbar, id);
     SendClick(toolbar, (button.left + button.right) / 2, (button.top + button.bottom) / 2);
     Settle(mainWindow);
@@ -83,8 +107,8 @@ inline int CountColourAround(const Picture& picture, POINT at, uint32_t colour) 
 // Ground without anything on it: the corner of the map, after zooming out far enough to leave the airport behind.
 inline POINT GoToEmptyGround(HWND mainWindow) {
     const RECT area = MapArea(mainWindow);
-    const int x = (area.left + area.right) / 2, y = (area.top + area.bottom) / 2;
-    SendWheel(mainWindow, x, y, -6 * 120);
+    const POINT middle = MapMiddle(mainWindow);
+    SendWheel(mainWindow, middle.x, middle.y, -6 * 120);
     Settle(mainWindow);
     return { area.left + 37, area.top + 41 };
 }

@@ -22,6 +22,10 @@ enum AgentMessage : UINT {
     kAgentGdiLevel,                // -> how far the program's table of GDI objects is filled
     kAgentMark,                    // posted: counted when its turn comes
     kAgentMarks,                   // -> how many marks have been counted
+    kAgentDrop,                    // wParam main window, lParam path: as if that file were dropped on it
+    kAgentCatch,                   // wParam: from now on commands are caught on their way (1) or obeyed (0)
+    kAgentEndTimer,                // wParam timer, lParam window -> whether it ran; it runs no more
+    kAgentCaught,                  // -> the command caught last, 0 none; forgets it
 };
 
 constexpr UINT kAgentBufferBytes = 131072;

@@ -90,6 +90,17 @@ int StockCursor(const Agent& agent) { return static_cast<int>(SendMessageW(agent
 
 int GdiLevel(const Agent& agent) { return static_cast<int>(SendMessageW(agent.window, kAgentGdiLevel, 0, 0)); }
 
+void CatchCommands(const Agent& agent, bool on) { SendMessageW(agent.window, kAgentCatch, on ? 1 : 0, 0); }
+
+UINT CaughtCommand(const Agent& agent) { return static_cast<UINT>(SendMessageW(agent.window, kAgentCaught, 0, 0)); }
+
+bool DropFile(const Agent& agent, const std::wstring& path) {
+    const RemoteMemory memory(agent.window, (path.size() + 1) * sizeof(wchar_t));
+    return memory.Put(path.c_str(), (path.size() + 1) * sizeof(wchar_t)) &&
+           SendMessageW(agent.window, kAgentDrop, reinterpret_cast<WPARAM>(agent.target),
+                        reinterpret_cast<LPARAM>(memory.address)) != 0;
+}
+
 HWND FocusOf(const Agent& agent) { return reinterpret_cast<HWND>(SendMessageW(agent.window, kAgentFocus, 0, 0)); }
 
 }  // namespace ui

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
+#include <cwchar>
+#include <shlobj.h>
 
 #include "UiAgent.h"
 
@@ -13,6 +15,8 @@ namespace {
 HWND agentWindow;
 HINSTANCE instance;
 LRESULT marks;
+bool catching;
+WPARAM caught;
 
 wchar_t* DumpMenu(HMENU menu, int depth, wchar_t* out, const wchar_t* end) {
     constexpr int kLineCharacters = 400;
@@ -78,6 +82,32 @@ LRESULT GdiLevel() {
     return highest;
 }
 
+// A posted command, as menus give it, is taken away from the program and remembered.
+void Catch(MSG* message) {
+    if (!catching || message->message != WM_COMMAND) return;
+    caught = LOWORD(message->wParam);
+    message->message = WM_NULL;
+}
+
+LRESULT TakeCaught() {
+    const WPARAM command = caught;
+    caught = 0;
+    return static_cast<LRESULT>(command);
+}
+
+// The block belongs to whom takes the message, so it must be made in that process.
+LRESULT DropFile(HWND window, const wchar_t* path) {
+    const size_t characters = wcslen(path) + 2;  // a list of paths ends with a second zero
+    const HGLOBAL block = GlobalAlloc(GHND, sizeof(DROPFILES) + characters * sizeof(wchar_t));
+    if (!block) return FALSE;
+    auto* drop = static_cast<DROPFILES*>(GlobalLock(block));
+    drop->pFiles = sizeof(DROPFILES);
+    drop->fWide = TRUE;
+    wcscpy(reinterpret_cast<wchar_t*>(drop + 1), path);
+    GlobalUnlock(block);
+    return PostMessageW(window, WM_DROPFILES, reinterpret_cast<WPARAM>(block), 0);
+}
+
 LRESULT CALLBACK AgentProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case kAgentMenuState:
@@ -89,8 +119,12 @@ LRESULT CALLBACK AgentProc(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     case kAgentFocus: return reinterpret_cast<LRESULT>(GetFocus());
     case kAgentCursor: return StockCursor();
     case kAgentGdiLevel: return GdiLevel();
+    case kAgentDrop: return DropFile(reinterpret_cast<HWND>(wParam), reinterpret_cast<const wchar_t*>(lParam));
     case kAgentMark: ++marks; return 0;
     case kAgentMarks: return marks;
+    case kAgentCatch: catching = wParam != 0; return 0;
+    case kAgentEndTimer: return KillTimer(reinterpret_cast<HWND>(lParam), wParam);
+    case kAgentCaught: return TakeCaught();
     default: return DefWindowProcW(window, message, wParam, lParam);
     }
 }
@@ -112,6 +146,7 @@ void CreateAgentWindow() {
 // The first message that the hooked thread takes creates the window there, so its answers come from that thread.
 extern "C" __declspec(dllexport) LRESULT CALLBACK AgentHook(int code, WPARAM wParam, LPARAM lParam) {
     if (!ui::agentWindow) ui::CreateAgentWindow();
+    if (code == HC_ACTION && wParam == PM_REMOVE) ui::Catch(reinterpret_cast<MSG*>(lParam));
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 

@@ -67,6 +67,17 @@ std::wstring ListText(HWND list, int row, int column) {
     return ReadItemText(memory);
 }
 
+std::wstring ListColumnTitle(HWND list, int column) {
+    RemoteMemory memory(list, kItemBytes);
+    LVCOLUMNW title = {};
+    title.mask = LVCF_TEXT;
+    title.cchTextMax = kTextCharacters;
+    title.pszText = TextAddress(memory);
+    memory.Put(&title, sizeof title);
+    SendMessageW(list, LVM_GETCOLUMNW, static_cast<WPARAM>(column), Address(memory));
+    return ReadItemText(memory);
+}
+
 void SelectListRow(HWND list, int row) {
     RemoteMemory memory(list, kItemBytes);
     LVITEMW item = {};

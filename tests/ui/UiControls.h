@@ -24,6 +24,7 @@ struct RemoteMemory {
 
 int ListRows(HWND list);
 std::wstring ListText(HWND list, int row, int column);
+std::wstring ListColumnTitle(HWND list, int column);
 void SelectListRow(HWND list, int row);
 RECT ListRowRect(HWND list, int row);  // client coordinates of the list
 

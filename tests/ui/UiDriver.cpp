@@ -144,6 +144,12 @@ bool Settle(HWND window, DWORD milliseconds) {
 
 void PostCommand(HWND window, UINT id) { PostMessageW(window, WM_COMMAND, id, 0); }
 
+bool InMenu(HWND window) {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    return GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info) && (info.flags & GUI_INMENUMODE) != 0;
+}
+
 void PressButton(HWND dialog, int id) {
     PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(GetDlgItem(dialog, id)));
 }

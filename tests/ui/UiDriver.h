@@ -40,6 +40,8 @@ HWND WaitForDialog(DWORD processId, const wchar_t* title = nullptr, DWORD millis
 bool WaitUntilGone(HWND window, DWORD milliseconds = kPatience);
 bool WaitForTitlePart(HWND window, const std::wstring& part, DWORD milliseconds = kPatience);
 
+bool InMenu(HWND window);  // a menu of that window is open
+
 // The program answers again. Not that it has done what was posted: sent messages overtake posted ones.
 bool Settle(HWND window, DWORD milliseconds = kPatience);
 
@@ -83,7 +85,11 @@ int KeyState(const Agent& agent, int key);
 void HoldKey(const Agent& agent, int key, bool down);  // what GetKeyState tells the program from now on
 int StockIcon(const Agent& agent, HICON icon);         // 32513 error, 32514 question, 32515 warning, 32516 information
 int StockCursor(const Agent& agent);                   // 32512 arrow, 32515 cross, ...
+bool DropFile(const Agent& agent, const std::wstring& path);  // as if it were dropped on the main window
 HWND FocusOf(const Agent& agent);
-int GdiLevel(const Agent& agent);  // how far the program's table of GDI objects is filled, roughly
+// While commands are caught, the program gets none: what a menu gives can be read instead of obeyed.
+void CatchCommands(const Agent& agent, bool on);
+UINT CaughtCommand(const Agent& agent);  // the last one, which is then forgotten; 0 none
+int GdiLevel(const Agent& agent);        // how far the program's table of GDI objects is filled, roughly
 
 }  // namespace ui

@@ -41,6 +41,7 @@ void UiTest::Launch(const std::wstring& arguments, const char* settings) {
     if (settings) {
         ASSERT_TRUE(WriteTextFile(kSettingsFile, settings));
     }
+    ParkPointer();  // under a new window it would send moves of its own
     std::wstring folder = kProgramFolder;
     std::wstring line = L"\"" + folder + L"\\Tarvo.exe\"" + (arguments.empty() ? L"" : L" " + arguments);
     ASSERT_TRUE(StartProgram(line, folder, &program)) << "cannot start " << Utf8(line);

@@ -182,6 +182,19 @@ TEST_F(AirportDialog, OwnNavaidsFollowTheIdInTheSameAction) {
     EXPECT_EQ(+As<model::IlsPayload>(own).body.region, word);
 }
 
+TEST_F(AirportDialog, NavaidsOfAnIdOfFiveCharactersFollowToo) {
+    Airport().ident = model::PackIdent("ZZZZZ") << model::kIdentShift | 1;
+    model::state.icao = "ZZZZZ";
+    SceneryObject *own = build::Ils("ISEA"), *foreign = build::Ils("ISNQ");
+    As<model::IlsPayload>(own).body.region = model::PackIdent("ZZZZZ") << 11 | 0x123;
+    As<model::IlsPayload>(foreign).body.region = model::PackIdent("ZZZZY") << 11 | 0x123;
+    const auto beforeForeign = Bytes(foreign);
+    fake.answers = { Answer::Yes };
+    EXPECT_TRUE(Edit([](AirportFields& entered) { entered.id = "KXYZ"; }));
+    EXPECT_EQ(+As<model::IlsPayload>(own).body.region, model::PackIdent("KXYZ") << 11 | 0x123);
+    EXPECT_EQ(Bytes(foreign), beforeForeign);
+}
+
 TEST_F(AirportDialog, TextsAreOneActionWithTheRecord) {
     EXPECT_TRUE(Edit([](AirportFields& entered) {
         entered.country = "\xC3\x96sterreich";

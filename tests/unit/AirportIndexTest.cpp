@@ -135,6 +135,33 @@ TEST_F(AirportIndex, OneFileHasOneNumberHoweverItsPathIsSpelled) {
     EXPECT_EQ(library.files[0].path, "C:\\FS9\\a.bgl");
 }
 
+TEST_F(AirportIndex, APathHasOneKeyHoweverItIsSpelled) {
+    const std::string key = bgl::PathKey("C:\\Fl\xC3\xBCge\\\xC3\xA9.bgl");
+    for (const char* spelling :
+         { "c:/FL\xC3\x9CGE/\xC3\x89.BGL", "C:\\\\Fl\xC3\xBCge\\.\\\xC3\xA9.bgl",
+           "C:\\x\\..\\Fl\xC3\xBCge/\xC3\xA9.bgl", "C:\\..\\.\\Fl\xC3\xBCge\\y\\.//..\\\xC3\xA9.bgl" }) {
+        EXPECT_EQ(bgl::PathKey(spelling), key) << spelling;
+    }
+    EXPECT_EQ(bgl::PathKey("\\\\server\\share\\\\a.bgl"), bgl::PathKey("//SERVER/share/a.bgl"));
+}
+
+TEST_F(AirportIndex, PathsOfDifferentFilesHaveDifferentKeys) {
+    const char* const paths[] = { "C:\\a.bgl",
+                                  "\\C:\\a.bgl",
+                                  "\\\\C:\\a.bgl",
+                                  "D:\\a.bgl",
+                                  "C:\\a\\.bgl",
+                                  "C:\\a..bgl",
+                                  "C:\\\xC3\x97.bgl",
+                                  "C:\\\xC3\xB7.bgl",
+                                  "C:\\\xC3\x9F.bgl",
+                                  "C:\\\xC3\xBF.bgl",
+                                  "" };
+    for (const char* a : paths) {
+        for (const char* b : paths) EXPECT_EQ(bgl::PathKey(a) == bgl::PathKey(b), a == b) << a << ' ' << b;
+    }
+}
+
 TEST_F(AirportIndex, ReleasingKeepsWhatWasNotedAsSaved) {
     bgl::FileNumberOf("a.bgl");
     Add("A", "", "", "AAAA");

@@ -23,7 +23,7 @@ protected:
     void TearDown() override { ClearModel(); }
 
     // Reads an airport record with these records inside it.
-    static void Read(const std::vector<ByteList>& records) { bgl::ReadAirportBytes(AirportRecordWith(records)); }
+    static void Read(const std::vector<ByteList>& records) { bgl::ReadAirport(AirportRecordWith(records)); }
 
     static SceneryObject* Only(uint32_t kind) {
         EXPECT_EQ(CountKind(kind), 1u);
@@ -56,7 +56,7 @@ ByteList LinkEntry(uint32_t start, uint32_t end, uint32_t type, uint32_t indexBy
 
 TEST_F(AirportReader, AirportBodyIsKeptByteForByte) {
     const ByteList body = Join({ Numbered(34), U32(0x0262E681), U32(77), U32(0xC0000000) });
-    bgl::ReadAirportBytes(Record(0x03, body));
+    bgl::ReadAirport(Record(0x03, body));
     EXPECT_EQ(PayloadOf(Only(kAirport)), HexOf(body));
     EXPECT_EQ(state.airport, Only(kAirport));
     EXPECT_EQ(state.icao, "KSEA");
@@ -66,7 +66,7 @@ TEST_F(AirportReader, AirportBodyIsKeptByteForByte) {
 }
 
 TEST_F(AirportReader, TowerComesFromTheAirportBodyAndFollowsTheAirport) {
-    bgl::ReadAirportBytes(Record(0x03, Numbered(46)));
+    bgl::ReadAirport(Record(0x03, Numbered(46)));
     EXPECT_EQ(PayloadOf(Only(kTowerViewpoint)), HexOf(Numbered(12, 19)));
     EXPECT_EQ(state.airport->next, Only(kTowerViewpoint));
 }
@@ -292,7 +292,7 @@ TEST_F(AirportReader, NothingIsReadBehindTheStretch) {
     ByteList bytes = AirportRecordWith({ RecordOfSize(0x1A, 0x7FFFFFFF, Join({ U16(3), Node(0) })) });
     const size_t end = bytes.size();
     bytes = Join({ bytes, Node(1), Node(2), Nodes(3) });
-    bgl::ReadAirportBytes(std::span(bytes).first(end));
+    bgl::ReadAirport(std::span(bytes).first(end));
     EXPECT_EQ(CountKind(kTaxiNode), 1u);
 }
 
@@ -316,10 +316,10 @@ TEST_F(AirportReader, ClaimsThatOverlapDoNotMultiplyTheObjects) {
 
 TEST_F(AirportReader, AirportRecordCutShortMakesNothing) {
     const ByteList whole = AirportRecordWith({});
-    bgl::ReadAirportBytes(std::span(whole).first(whole.size() - 1));
+    bgl::ReadAirport(std::span(whole).first(whole.size() - 1));
     EXPECT_EQ(state.head, nullptr);
     EXPECT_FALSE(state.loaded);
-    bgl::ReadAirportBytes({});
+    bgl::ReadAirport({});
     EXPECT_EQ(state.head, nullptr);
 }
 
@@ -347,13 +347,13 @@ protected:
 };
 
 TEST_F(DamagedAirport, CutAtEveryByteWhatWasReadStays) {
-    bgl::ReadAirportBytes(record);
+    bgl::ReadAirport(record);
     const std::vector<uint32_t> whole = KindsInOrder();
     size_t before = 0;
     for (size_t size = 0; size <= record.size(); ++size) {
         ClearModel();
         const ByteList cut(record.begin(), record.begin() + static_cast<ptrdiff_t>(size));  // a block of its own
-        bgl::ReadAirportBytes(cut);
+        bgl::ReadAirport(cut);
         const std::vector<uint32_t> kinds = KindsInOrder();
         ASSERT_LE(kinds.size(), whole.size()) << size;
         ASSERT_TRUE(std::equal(kinds.begin(), kinds.end(), whole.begin())) << size;
@@ -370,7 +370,7 @@ TEST_F(DamagedAirport, EveryByteMayHoldAnythingAndTheResultCanBeWritten) {
             ByteList damaged = record;
             damaged[at] = static_cast<uint8_t>(value);
             ClearModel();
-            bgl::ReadAirportBytes(damaged);
+            bgl::ReadAirport(damaged);
             ASSERT_EQ(CountKind(kAirport), state.airport ? 1u : 0u);
             if (state.airport) BuildFile();
         }

@@ -8,9 +8,12 @@
 
 #include "app/AppState.h"
 #include "bgl/AirportWriter.h"
+#include "bgl/FileBuilder.h"
+#include "bgl/RecordIds.h"
 #include "fakes/BuildObjects.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/FakeShell.h"
+#include "fakes/SceneryBytes.h"
 #include "map/MapView.h"
 #include "map/Tools.h"
 #include "model/EditHistory.h"
@@ -113,6 +116,24 @@ TEST_F(AirportTest, AnAirportThatTheFileLacksIsNamedAndTheOpenOneStays) {
     EXPECT_EQ(app::state.sourceFile, path);
 }
 
+TEST_F(AirportTest, WhatHindersSavingIsToldOnceTheAirportIsShown) {
+    std::vector<uint8_t> records;
+    for (const char* ident : { "KAAA", "KBBB" }) {
+        const std::vector<uint8_t> record = AirportRecordWith({}, ident);
+        records.insert(records.end(), record.begin(), record.end());
+    }
+    const bgl::SectionContent sections[] = { { bgl::kAirportSection, bgl::kByCell, { { 1, 2, { records } } } } };
+    const std::vector<uint8_t> file = bgl::AssembleFile(sections, 1);
+    std::ofstream(In("TV2_both.bgl"), std::ios::binary)
+        .write(reinterpret_cast<const char*>(file.data()), static_cast<std::streamsize>(file.size()));
+    ASSERT_TRUE(OpenAirportFile(In("TV2_both.bgl"), "KBBB"));
+    EXPECT_EQ(model::state.icao, "KBBB");
+    EXPECT_EQ(app::state.sourceFile, In("TV2_both.bgl"));
+    EXPECT_TRUE(OnlyMessage().starts_with("This file holds 2 airports.")) << OnlyMessage();
+    EXPECT_EQ(fake.messages.at(0).buttons, platform::Buttons::Ok);
+    EXPECT_EQ(fake.messages.at(0).icon, platform::Icon::Exclamation);
+}
+
 TEST_F(AirportTest, ClosingLeavesNothingBehind) {
     ASSERT_TRUE(OpenAirportFile(WriteAirport("TV2_KTST.bgl", "KTST"), ""));
     app::state.savePath = app::state.sourceFile;
@@ -126,6 +147,14 @@ TEST_F(AirportTest, ClosingLeavesNothingBehind) {
     EXPECT_EQ(map::tools.tool, map::Tool::Pointer);
     EXPECT_FALSE(map::tools.hasClick);
     EXPECT_EQ(fakeShell.title, "Tarvo        ");
+}
+
+TEST_F(AirportTest, ANewAirportHasNoSourceFileAndItsTitleNamesNone) {
+    model::state.airport = build::Airport("KTST");
+    model::state.icao = "KTST";
+    model::SetAirportName("Test Field");
+    model::state.loaded = true;
+    EXPECT_EQ(app::TitleText(), "Tarvo    KTST    Test Field    ( file  )");
 }
 
 TEST_F(AirportTest, WithoutAnAirportTheTitleHasTwoEmptyFields) { EXPECT_EQ(app::TitleText(), "Tarvo        "); }

@@ -15,6 +15,7 @@
 #include "fakes/FakePlatform.h"
 #include "fakes/RandomAirport.h"
 #include "fakes/SceneryBytes.h"
+#include "model/Links.h"
 
 namespace {
 
@@ -104,11 +105,11 @@ TEST_F(AirportWriter, IdentIsThePackedCodeWithTheLowBitsThatItHeld) {
     EXPECT_EQ(Copied(Record().ident), 0x0262E680u | 0x13);
 }
 
-TEST_F(AirportWriter, EmptyIcaoLeavesTheIdentAlone) {
+TEST_F(AirportWriter, AnEmptyIcaoIsPackedAsNothing) {
     Record().ident = 0x12345678;
     state.icao = "";
     BuildFile();
-    EXPECT_EQ(Copied(Record().ident), 0x12345678u);
+    EXPECT_EQ(Copied(Record().ident), 0x18u);
 }
 
 struct NameCase {
@@ -225,7 +226,7 @@ TEST_F(AirportWriter, NodesSpotsLinksAndNamesInOneRecordEach) {
     std::memset(spot->payload + 4, 0x55, 16);
     SceneryObject* name = build::Designator("A12");
     SceneryObject* taxi = build::Link(nodes[1], nodes[0], 0x61, name);
-    build::Link(nodes[1], spot, 0x63);
+    build::Link(nodes[1], spot, 0x63, name);
     PayloadAs<TaxiLinkPayload>(taxi).carried[1] = 0x0A0B0C0D;
     PayloadAs<TaxiLinkPayload>(taxi).endField = 0xF123;
     EXPECT_EQ(Body(0x1A), Same("02 00  00 00 00 00 00 00 00 00 00 00 00 00  02 00 00 00 00 00 00 00 00 00 00 00"));
@@ -341,6 +342,18 @@ TEST_F(AirportWriter, WithoutAirportNothingIsWrittenAndNothingIsSaid) {
     EXPECT_TRUE(refusal.empty());
 }
 
+TEST_F(AirportWriter, LinksWithoutADesignatorHoldZeroAndNoRecordIsAdded) {
+    SceneryObject *a = build::Node(), *b = build::Node();
+    build::Designator("A");
+    SceneryObject* name = build::Designator("B");
+    build::Link(a, b, kTaxiwayLink, name);
+    build::Link(b, a);
+    EXPECT_EQ(Body(0x1D), Same("02 00  41 00 00 00 00 00 00 00  42 00 00 00 00 00 00 00"));
+    const ByteList links = Bodies(0x1C).at(0);
+    EXPECT_EQ(links[2 + 5], 1);
+    EXPECT_EQ(links[2 + 20 + 5], 0);
+}
+
 class AirportFile : public AirportWriter {
 protected:
     void SetUp() override {
@@ -375,8 +388,10 @@ TEST_F(AirportFile, HoldsTheBuiltBytesAndTheTimeOfSaving) {
 TEST_F(AirportFile, ReplacesAnOlderFile) {
     const auto path = folder / u8"TV2_\u00c5land.bgl";
     std::ofstream(path, std::ios::binary) << std::string(100000, 'x');
+    fake.fileTime = kTestTime;
     EXPECT_EQ(bgl::WriteAirportFile(Utf8(path)), 1);
-    EXPECT_LT(Content(path).size(), 1000u);
+    EXPECT_EQ(Content(path) == BuildFile(), true);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 1);
 }
 
 TEST_F(AirportFile, CannotBeCreatedInAMissingFolder) {

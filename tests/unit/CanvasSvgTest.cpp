@@ -128,6 +128,15 @@ TEST(Canvas, TheFirstBrushIsSelectedWhateverItIs) {
     EXPECT_EQ(log.Drawn("brush").size(), 1u);
 }
 
+TEST(Canvas, NoPenIsThinnerThanTheThinnest) {
+    RecordingCanvas log;
+    log.canvas.thinnestPen = 3;
+    for (int width : { 1, 3, 5, platform::kNoPen }) SetPen(&log.canvas, width, static_cast<platform::Colour>(width));
+    std::vector<int> widths;
+    for (const CanvasCall& call : log.calls) widths.push_back(call.penWidth);
+    EXPECT_EQ(widths, (std::vector<int>{ 3, 3, 5, platform::kNoPen }));
+}
+
 TEST(Canvas, NoPenHasNoColour) {
     RecordingCanvas log;
     SetPen(&log.canvas, kNoPen, 1);

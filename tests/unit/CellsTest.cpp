@@ -23,12 +23,14 @@ TEST(Cells, KnownPlaces) {
     EXPECT_EQ(CellOf(Encoded(47.449, -122.309)), 0x00080FF1u);
 }
 
-TEST(Cells, LastColumnAndRowTakeTheFarEdges) {
+// The indices of navaids hold the same bits of the code, so that the two agree.
+TEST(Cells, TheFarEdgesHaveAColumnAndARowOfTheirOwn) {
     EXPECT_EQ(CellColumn(0x2FFFFFFF), 383u);
-    EXPECT_EQ(CellColumn(0x30000000), 383u);
+    EXPECT_EQ(CellColumn(0x30000000), 384u);
     EXPECT_EQ(CellRow(0x1FFFFFFF), 255u);
-    EXPECT_EQ(CellRow(0x20000000), 255u);
-    EXPECT_EQ(CellOf({ 0x30000000, 0x20000000 }), CellOf({ 0x2FFFFFFF, 0x1FFFFFFF }));
+    EXPECT_EQ(CellRow(0x20000000), 256u);
+    EXPECT_EQ(CellOf({ 0x30000000, 0x20000000 }), 0x80000u | 1u << 16 | 1u << 14 | 1u << 17);
+    EXPECT_TRUE(Intersects(RectOfCell(CellOf({ 0x30000000, 5 })), { 0, 10, 0, 10 })) << "one meridian";
     EXPECT_EQ(CellOf({ 0, 0 }), 0x80000u);
 }
 

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+#include <utility>
+
+#include "app/Airport.h"
 #include "app/HelpTexts.h"
 #include "app/Settings.h"
 #include "app/Toolbar.h"
@@ -20,9 +24,45 @@ using app::IsCommandEnabled;
 using app::RunCommand;
 
 constexpr int kNeedAirport[] = {
-    IDM_CLOSE,  IDM_SAVE,        IDM_SAVE_AS,         IDM_SELECT_ALL,
-    IDT_SAVE,   IDT_NORMAL_NODE, IDT_HOLD_SHORT_NODE, IDT_ILS_HOLD_SHORT_NODE,
+    IDM_CLOSE,
+    IDM_SAVE,
+    IDM_SAVE_AS,
+    IDM_SELECT_ALL,
+    IDT_SAVE,
+    IDT_NORMAL_NODE,
+    IDT_HOLD_SHORT_NODE,
+    IDT_ILS_HOLD_SHORT_NODE,
     IDK_DELETE,
+    IDT_NORMAL_LINK,
+    IDT_RUNWAY_LINK,
+    IDT_APRON_LINK,
+    IDT_CLOSED_LINK,
+    IDT_PARKING,
+    IDT_APRON,
+    IDT_APRON_POINT,
+    IDT_EDGE_LIGHTS,
+    IDT_MARKERS,
+    IDT_GUIDELINES,
+
+    IDM_AIRPORT_PROPERTIES,
+    IDM_PAGE_SETUP,
+    IDM_PRINT,
+    IDT_PRINT,
+    IDM_INSERT_RUNWAY,
+    IDM_INSERT_HELIPAD,
+    IDM_INSERT_TOWER,
+    IDM_INSERT_START,
+    IDM_INSERT_ILS,
+    IDM_INSERT_MARKER_BEACON,
+    IDM_INSERT_NDB,
+    IDM_INSERT_VOR,
+    IDM_LIST_PARKING,
+    IDM_LIST_DESIGNATORS,
+    IDM_LIST_RUNWAYS,
+    IDM_LIST_STARTS,
+    IDM_LIST_COMMS,
+    IDM_LIST_NAVAIDS,
+    IDM_FAULT_FINDER,
 };
 constexpr int kAlways[] = {
     IDM_EXIT,         IDM_LABEL_TYPES, IDM_LABEL_CODES,       IDM_LIGHTS,    IDM_NETWORK,
@@ -30,6 +70,7 @@ constexpr int kAlways[] = {
     IDM_KEYBOARD,     IDM_ABOUT,       IDT_ZOOM_IN,           IDT_ZOOM_OUT,  IDT_POINTER,
     IDK_CYCLE_LABELS, IDK_HOME,        IDK_PAN_LEFT,          IDK_PAN_UP,    IDK_PAN_RIGHT,
     IDK_PAN_DOWN,     IDK_ROTATE_DOWN, IDK_ROTATE_DOWN_FINE,  IDK_ROTATE_UP, IDK_ROTATE_UP_FINE,
+    IDM_OPTIONS,
 };
 
 class CommandsTest : public testing::Test {
@@ -84,6 +125,37 @@ TEST_F(CommandsTest, AGreyedCommandStaysDead) {
 TEST_F(CommandsTest, MenusAndToolbarAreShownAgainAfterEveryCommand) {
     EXPECT_TRUE(RunCommand(IDM_LIGHTS));
     EXPECT_EQ(fakeShell.stateRefreshes, 1);
+}
+
+TEST_F(CommandsTest, UndoAndRedoOfTheIdentifierAndTheNameShowInTheTitle) {
+    OpenAnAirport();
+    model::PlaceTexts texts = model::CurrentPlaceTexts();
+    texts.icao = "KNEW";
+    texts.name = {};
+    std::strcpy(texts.name.data(), "New Field");
+    const std::string old = app::TitleText();
+    model::BeginAction();
+    model::ModifyAirport(model::CopyObject(model::state.airport), texts);
+    const std::string changed = app::TitleText();
+    ASSERT_NE(changed.find("KNEW"), std::string::npos) << changed;
+    for (const auto& [undo, redo] : { std::pair{ IDM_UNDO, IDM_REDO }, std::pair{ IDT_UNDO, IDT_REDO } }) {
+        EXPECT_TRUE(RunCommand(undo));
+        EXPECT_EQ(fakeShell.title, old);
+        EXPECT_TRUE(RunCommand(redo));
+        EXPECT_EQ(fakeShell.title, changed);
+    }
+}
+
+TEST_F(CommandsTest, DeleteIsDeadDuringADrag) {
+    OpenAnAirport();
+    AddRecordedNode();
+    model::FirstOfKind(model::state.head, model::kTaxiNode)->flags |= model::kSelected;
+    model::state.busy = true;
+    EXPECT_FALSE(RunCommand(IDK_DELETE));
+    model::state.busy = false;
+    EXPECT_EQ(model::CountKind(model::kTaxiNode), 1u);
+    EXPECT_TRUE(RunCommand(IDK_DELETE));
+    EXPECT_EQ(model::CountKind(model::kTaxiNode), 0u);
 }
 
 TEST_F(CommandsTest, UndoAndRedoAreEnabledWhileThereIsSomethingToUndoOrRedo) {
@@ -224,6 +296,11 @@ TEST_F(CommandsTest, ExitAsksTheWindowToClose) {
     EXPECT_EQ(fakeShell.closeRequests, 1);
 }
 
+TEST_F(CommandsTest, OptionsOpensItsDialog) {
+    EXPECT_TRUE(RunCommand(IDM_OPTIONS));
+    EXPECT_EQ(fakeShell.optionsDialogs, 1);
+}
+
 TEST_F(CommandsTest, HelpOpensTheReadMeOfTheProgramFolder) {
     RunCommand(IDM_HELP);
     ASSERT_EQ(fakeShell.documents.size(), 1u);
@@ -238,6 +315,87 @@ TEST_F(CommandsTest, AboutAndKeyboardFunctionsHaveTheirOwnTitles) {
     EXPECT_EQ(fakeShell.texts[0], "Tarvo Version 2.21 for FS2004");
     EXPECT_EQ(fakeShell.textTitles[1], "Keyboard Functions");
     EXPECT_EQ(fakeShell.texts[1], app::kKeyboardText);
+}
+
+TEST_F(CommandsTest, OpenAsksAboutTheAirportBeforeItsDialogComes) {
+    for (const int id : { IDM_OPEN, IDT_OPEN }) {
+        fakeShell.openDialogs = 0;
+        model::state.modified = false;
+        EXPECT_TRUE(RunCommand(id));
+        EXPECT_EQ(fakeShell.openDialogs, 1);
+        OpenAnAirport();
+        model::state.modified = true;
+        fake.answers = { platform::Answer::Cancel };
+        RunCommand(id);
+        EXPECT_EQ(fakeShell.openDialogs, 1);
+        fake.answers = { platform::Answer::No };
+        RunCommand(id);
+        EXPECT_EQ(fakeShell.openDialogs, 2);
+        EXPECT_TRUE(model::state.loaded) << "nothing was chosen yet";
+    }
+}
+
+TEST_F(CommandsTest, ARecentEntryIsEnabledWhereTheListHasOne) {
+    app::settings.previousFiles = { "KAAA,C:\\none.bgl", "no file" };
+    EXPECT_TRUE(IsCommandEnabled(IDM_RECENT_FIRST));
+    for (int id = IDM_RECENT_FIRST + 1; id <= IDM_RECENT_LAST; ++id) EXPECT_FALSE(IsCommandEnabled(id)) << id;
+    app::settings.previousFiles.assign(10, "KAAA,C:\\none.bgl");
+    for (int id = IDM_RECENT_FIRST; id <= IDM_RECENT_LAST; ++id) {
+        fake.messages.clear();
+        EXPECT_TRUE(RunCommand(id));
+        EXPECT_EQ(fake.messages.size(), 1u) << id << " tells that the file is not there";
+    }
+}
+
+TEST_F(CommandsTest, ARecentEntryAsksAboutTheAirportFirst) {
+    app::settings.previousFiles = { "KAAA,C:\\none.bgl" };
+    OpenAnAirport();
+    model::state.modified = true;
+    fake.answers = { platform::Answer::Cancel };
+    RunCommand(IDM_RECENT_FIRST);
+    EXPECT_EQ(fake.messages.size(), 1u);
+    EXPECT_TRUE(model::state.modified);
+}
+
+TEST_F(CommandsTest, EachToolCommandPressesItsOwnButtonOnly) {
+    const struct {
+        int id;
+        map::Tool tool;
+        uint32_t linkKind;
+    } rows[] = {
+        { IDT_NORMAL_LINK, map::Tool::Links, 1 },      { IDT_RUNWAY_LINK, map::Tool::Links, 2 },
+        { IDT_APRON_LINK, map::Tool::Links, 4 },       { IDT_CLOSED_LINK, map::Tool::Links, 5 },
+        { IDT_PARKING, map::Tool::Parking, 0 },        { IDT_APRON, map::Tool::Apron, 0 },
+        { IDT_APRON_POINT, map::Tool::ApronPoint, 0 }, { IDT_EDGE_LIGHTS, map::Tool::EdgeLights, 0 },
+        { IDT_MARKERS, map::Tool::Markers, 0 },        { IDT_GUIDELINES, map::Tool::Guidelines, 0 },
+    };
+    OpenAnAirport();
+    for (const auto& row : rows) {
+        EXPECT_TRUE(RunCommand(row.id));
+        EXPECT_EQ(map::tools.tool, row.tool);
+        EXPECT_TRUE(row.linkKind == 0 || map::tools.linkKind == row.linkKind);
+        for (const auto& other : rows) EXPECT_EQ(IsCommandChecked(other.id), other.id == row.id);
+        EXPECT_FALSE(IsCommandChecked(IDT_POINTER));
+    }
+}
+
+TEST_F(CommandsTest, AnOutlineIsClosedByKeysOnceItHasThreeCorners) {
+    OpenAnAirport();
+    RunCommand(IDT_APRON);
+    map::view.span = 600;
+    map::ResizeView(800, 600);
+    for (const platform::Pixel at : { platform::Pixel{ 100, 100 }, { 200, 100 }, { 200, 200 }, { 100, 200 } }) {
+        EXPECT_EQ(IsCommandEnabled(IDK_FINISH_POLYGON), map::tools.outline.size() >= 3);
+        map::OnButtonDown(at, {});
+        map::OnButtonUp(at, {});
+        EXPECT_TRUE(IsCommandEnabled(IDK_CLOSE_POLYGON));
+    }
+    EXPECT_TRUE(RunCommand(IDK_TAKE_BACK_CORNER));
+    EXPECT_EQ(map::tools.outline.size(), 3u);
+    EXPECT_TRUE(RunCommand(IDK_CLOSE_POLYGON));
+    EXPECT_EQ(model::CountKind(model::kApron), 1u);
+    for (const int id : { IDK_CLOSE_POLYGON, IDK_FINISH_POLYGON, IDK_TAKE_BACK_CORNER })
+        EXPECT_FALSE(IsCommandEnabled(id));
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "fakes/BuildObjects.h"
 #include "fakes/FakePlatform.h"
 #include "model/EditHistory.h"
+#include "model/Links.h"
 #include "model/Triangulate.h"
 
 namespace {
@@ -96,7 +97,7 @@ protected:
 TEST_F(DeleteRules, NothingSelectedChangesNothingButRepaints) {
     build::Node();
     const Objects before = build::List();
-    EXPECT_EQ(DeleteSelected(nullptr), 0);
+    EXPECT_EQ(DeleteSelected(), 0);
     EXPECT_EQ(build::List(), before);
     EXPECT_FALSE(CanUndo());
     EXPECT_FALSE(state.modified);
@@ -107,7 +108,7 @@ TEST_F(DeleteRules, NothingSelectedChangesNothingButRepaints) {
 TEST_F(DeleteRules, OnlySelectedObjectsGo) {
     SceneryObject *a = build::Node(), *b = Selected(build::Node()), *c = build::Node(), *d = Selected(build::Node());
     const Objects before = build::List();
-    EXPECT_EQ(DeleteSelected(nullptr), 2);
+    EXPECT_EQ(DeleteSelected(), 2);
     ExpectLeft({ airport, a, c }, before);
     EXPECT_FALSE(IsListed(b));
     EXPECT_FALSE(IsListed(d));
@@ -116,9 +117,9 @@ TEST_F(DeleteRules, OnlySelectedObjectsGo) {
 
 TEST_F(DeleteRules, EveryDeleteIsAnActionOfItsOwn) {
     SceneryObject *a = Selected(build::Node()), *b = build::Node(), *marker = build::Marker();
-    DeleteSelected(nullptr);
+    DeleteSelected();
     Selected(b);
-    DeleteSelected(nullptr);
+    DeleteSelected();
     DeleteGuidelinesAndMarkers();
     Undo();
     EXPECT_EQ(build::List(), (Objects{ airport, marker }));
@@ -128,16 +129,19 @@ TEST_F(DeleteRules, EveryDeleteIsAnActionOfItsOwn) {
     EXPECT_EQ(build::List(), (Objects{ airport, a, b, marker }));
 }
 
-TEST_F(DeleteRules, TheDraggedObjectIsPassedOver) {
-    SceneryObject *dragged = Selected(build::Node()), *other = Selected(build::Node());
-    EXPECT_EQ(DeleteSelected(dragged), 1);
-    EXPECT_TRUE(IsListed(dragged));
-    EXPECT_FALSE(IsListed(other));
+TEST_F(DeleteRules, NothingIsDeletedDuringADrag) {
+    SceneryObject* node = Selected(build::Node());
+    state.busy = true;
+    EXPECT_EQ(DeleteSelected(), 0);
+    state.busy = false;
+    EXPECT_TRUE(IsListed(node));
+    EXPECT_EQ(state.undoHead, nullptr);
+    EXPECT_EQ(DeleteSelected(), 1);
 }
 
 TEST_F(DeleteRules, TheAirportObjectIsNeverDeleted) {
     Whole(airport);
-    EXPECT_EQ(DeleteSelected(nullptr), 0);
+    EXPECT_EQ(DeleteSelected(), 0);
     EXPECT_EQ(state.airport, airport);
     EXPECT_TRUE(fake.messages.empty());
 }
@@ -145,13 +149,13 @@ TEST_F(DeleteRules, TheAirportObjectIsNeverDeleted) {
 TEST_F(DeleteRules, TheTowerViewpointIsAskedAbout) {
     SceneryObject* tower = Selected(build::Tower());
     fake.answers = { Answer::Cancel };
-    EXPECT_EQ(DeleteSelected(nullptr), 0);
+    EXPECT_EQ(DeleteSelected(), 0);
     ExpectMessage(0, kTowerQuestion, Buttons::OkCancel);
     EXPECT_EQ(fake.messages.size(), 1u);
     EXPECT_TRUE(IsListed(tower));
     fake.answers = { Answer::Ok };
     const Objects before = build::List();
-    EXPECT_EQ(DeleteSelected(nullptr), 1);
+    EXPECT_EQ(DeleteSelected(), 1);
     ExpectLeft({ airport }, before);
 }
 
@@ -163,7 +167,7 @@ TEST_F(DeleteRules, ANodeTakesItsLinksWithIt) {
     build::Link(b, spot, kParkingLink);
     build::Link(b, b);  // starts and ends at it
     const Objects before = build::List();
-    EXPECT_EQ(DeleteSelected(nullptr), 5);
+    EXPECT_EQ(DeleteSelected(), 5);
     ExpectLeft({ airport, a, c, spot, ac }, before);
 }
 
@@ -171,7 +175,7 @@ TEST_F(DeleteRules, ASpotTakesItsLinksWithIt) {
     SceneryObject *node = build::Node(), *spot = Selected(build::Spot());
     build::Link(node, spot, kParkingLink);
     const Objects before = build::List();
-    EXPECT_EQ(DeleteSelected(nullptr), 2);
+    EXPECT_EQ(DeleteSelected(), 2);
     ExpectLeft({ airport, node }, before);
 }
 
@@ -181,7 +185,7 @@ TEST_F(DeleteRules, LinksRightBehindTheirNodeDoNotStopTheWalk) {
     build::Link(b, a);
     Selected(build::Spot());
     const Objects before = build::List();
-    EXPECT_EQ(DeleteSelected(nullptr), 5);
+    EXPECT_EQ(DeleteSelected(), 5);
     ExpectLeft({ airport }, before);
 }
 
@@ -189,7 +193,7 @@ TEST_F(DeleteRules, ALinkAloneLeavesItsEnds) {
     SceneryObject *a = build::Node(), *b = build::Node();
     Selected(build::Link(a, b));
     const Objects before = build::List();
-    EXPECT_EQ(DeleteSelected(nullptr), 1);
+    EXPECT_EQ(DeleteSelected(), 1);
     ExpectLeft({ airport, a, b }, before);
 }
 
@@ -199,14 +203,14 @@ TEST_F(DeleteRules, AMarkerTakesItsGuidelinesWithIt) {
     build::Guideline(c, a);
     SceneryObject* bc = build::Guideline(b, c);
     const Objects before = build::List();
-    EXPECT_EQ(DeleteSelected(nullptr), 3);
+    EXPECT_EQ(DeleteSelected(), 3);
     ExpectLeft({ airport, b, c, bc }, before);
 }
 
 TEST_F(DeleteRules, OtherObjectsAreSimplyDeleted) {
     for (const uint32_t kind : { kHelipad, kCommFrequency, kStartLocation }) Selected(build::Append(kind, 64));
     Selected(build::Guideline(build::Marker(), build::Marker()));
-    EXPECT_EQ(DeleteSelected(nullptr), 4);
+    EXPECT_EQ(DeleteSelected(), 4);
     EXPECT_EQ(CountKind(kReferenceMarker), 2u);
     EXPECT_EQ(build::List().size(), 3u);
     EXPECT_TRUE(fake.messages.empty());
@@ -217,7 +221,7 @@ TEST_F(DeleteRules, OtherObjectsAreSimplyDeleted) {
 TEST_F(DeleteRules, ARunwayWithoutIlsGoesUnasked) {
     Selected(build::Runway(16));
     build::Ils("IABC");
-    EXPECT_EQ(DeleteSelected(nullptr), 1);
+    EXPECT_EQ(DeleteSelected(), 1);
     EXPECT_EQ(CountKind(kIls), 1u);
     EXPECT_TRUE(fake.messages.empty());
 }
@@ -230,7 +234,7 @@ TEST_F(DeleteRules, ARunwayWithIlsIsAskedAboutAndTakesThemAlong) {
     BodyOf(runway).primaryIls = PackIdent("ISNQ");
     BodyOf(runway).secondaryIls = PackIdent("ISEA");
     const Objects before = build::List();
-    EXPECT_EQ(DeleteSelected(nullptr), 3);
+    EXPECT_EQ(DeleteSelected(), 3);
     ExpectMessage(0, kRunwayQuestion, Buttons::OkCancel);
     EXPECT_EQ(fake.messages.size(), 1u);  // once for both ends
     ExpectLeft({ airport, foreign }, before);
@@ -244,7 +248,7 @@ TEST_F(DeleteRules, CancelKeepsTheRunwayItsIlsAndItsLinksNames) {
     SceneryObject* link = build::Link(a, b, kRunwayLink, runway);
     SceneryObject* last = Selected(build::Spot());
     fake.answers = { Answer::Cancel };
-    EXPECT_EQ(DeleteSelected(nullptr), 1);  // the walk goes on
+    EXPECT_EQ(DeleteSelected(), 1);  // the walk goes on
     EXPECT_TRUE(IsListed(runway));
     EXPECT_FALSE(IsListed(last));
     EXPECT_EQ(CountKind(kIls), 1u);
@@ -256,7 +260,7 @@ TEST_F(DeleteRules, AStockIlsIsNoReasonToAskAndStays) {
     SceneryObject* runway = Selected(build::Runway(16));
     SceneryObject* stock = Stock(build::Ils("ISNQ"));
     BodyOf(runway).primaryIls = PackIdent("ISNQ");
-    EXPECT_EQ(DeleteSelected(nullptr), 1);
+    EXPECT_EQ(DeleteSelected(), 1);
     EXPECT_TRUE(fake.messages.empty());
     EXPECT_TRUE(IsListed(stock));
 }
@@ -272,8 +276,15 @@ TEST_F(DeleteRules, ARunwayThatNamesNoIlsIsMatchedByLocalizerAndAirport) {
     EXPECT_FALSE(IlsBelongsTo(primary, runway, RunwayEnd::Secondary));
     EXPECT_TRUE(IlsBelongsTo(secondary, runway, RunwayEnd::Secondary));
     EXPECT_FALSE(IlsBelongsTo(stock, runway, RunwayEnd::Primary));
-    EXPECT_EQ(DeleteSelected(nullptr), 3);
+    EXPECT_EQ(DeleteSelected(), 3);
     EXPECT_EQ(build::List(), (Objects{ airport, otherAirport, otherEnd, stock }));
+}
+
+TEST_F(DeleteRules, AnAirportOfFiveCharactersIsMatchedByWhatARegionWordKeepsOfIt) {
+    PayloadAs<AirportRecord>(airport).ident = PackIdent("ZZZZZ") << kIdentShift | 1;
+    SceneryObject* runway = build::Runway(16, 2);
+    EXPECT_TRUE(IlsBelongsTo(IlsByLocalizer(16, 2, "ZZZZZ"), runway, RunwayEnd::Primary));
+    EXPECT_FALSE(IlsBelongsTo(IlsByLocalizer(16, 2, "ZZZZY"), runway, RunwayEnd::Primary));
 }
 
 TEST_F(DeleteRules, ARunwayThatNamesAnotherIlsIsNotMatchedByLocalizer) {
@@ -300,8 +311,8 @@ TEST_F(DeleteRules, AnIlsWithItsRunwayBothSelectedGoOnce) {
     SceneryObject* runway = Selected(build::Runway(16));
     BodyOf(runway).primaryIls = PackIdent("ISNQ");
     const Objects before = build::List();
-    EXPECT_EQ(DeleteSelected(nullptr), 3);  // the runway forgets the ILS before it goes itself
-    EXPECT_TRUE(fake.messages.empty());     // the ILS went first
+    EXPECT_EQ(DeleteSelected(), 3);      // the runway forgets the ILS before it goes itself
+    EXPECT_TRUE(fake.messages.empty());  // the ILS went first
     ExpectLeft({ airport }, before);
     EXPECT_FALSE(IsListed(ils));
 }
@@ -311,7 +322,7 @@ TEST_F(DeleteRules, TheIlsRightBehindItsRunwayDoesNotStopTheWalk) {
     Selected(build::Ils("ISNQ"));
     Selected(build::Node());
     BodyOf(runway).primaryIls = PackIdent("ISNQ");
-    EXPECT_EQ(DeleteSelected(nullptr), 3);
+    EXPECT_EQ(DeleteSelected(), 3);
     EXPECT_EQ(build::List(), (Objects{ airport }));
 }
 
@@ -324,7 +335,7 @@ TEST_F(DeleteRules, NothingIsAskedTwiceWhenARunwayGoes) {
     Selected(build::Runway(16));
     Selected(build::Runway(17));
     fake.answers = { Answer::Cancel, Answer::Ok, Answer::Cancel };
-    EXPECT_EQ(DeleteSelected(nullptr), 2);
+    EXPECT_EQ(DeleteSelected(), 2);
     ASSERT_EQ(fake.messages.size(), 3u);
     ExpectMessage(0, kTowerQuestion, Buttons::OkCancel);
     ExpectMessage(1, kStockNavaids, Buttons::Ok);
@@ -337,7 +348,7 @@ TEST_F(DeleteRules, LinksLoseTheNameOfADeletedRunwayInTheSameAction) {
     SceneryObject *a = build::Node(), *b = build::Node();
     SceneryObject *runway = Selected(build::Runway(16)), *other = build::Runway(9);
     SceneryObject *link = build::Link(a, b, kRunwayLink, runway), *kept = build::Link(b, a, kRunwayLink, other);
-    EXPECT_EQ(DeleteSelected(nullptr), 2);
+    EXPECT_EQ(DeleteSelected(), 2);
     EXPECT_EQ(NameOf(link), nullptr);
     EXPECT_EQ(NameOf(kept), other);
     Undo();
@@ -351,18 +362,56 @@ TEST_F(DeleteRules, LinksLoseTheNameOfADeletedRunwayInTheSameAction) {
 TEST_F(DeleteRules, LinksLoseTheNameOfADeletedDesignator) {
     SceneryObject *a = build::Node(), *b = build::Node(), *name = Selected(build::Designator("A"));
     SceneryObject* link = build::Link(a, b, kTaxiwayLink, name);
-    EXPECT_EQ(DeleteSelected(nullptr), 2);
-    EXPECT_EQ(NameOf(link), nullptr);
+    SceneryObject* blank = build::Designator("");
+    EXPECT_EQ(DeleteSelected(), 2);
+    EXPECT_EQ(NameOf(link), blank);
     EXPECT_FALSE(IsListed(name));
     Undo();
     EXPECT_EQ(NameOf(link), name);
+}
+
+TEST_F(DeleteRules, ABlankDesignatorIsMadeForLinksThatLoseTheirName) {
+    SceneryObject *a = build::Node(), *b = build::Node(), *name = Selected(build::Designator("A"));
+    SceneryObject* second = Selected(build::Designator("B"));
+    SceneryObject *one = build::Link(a, b, kTaxiwayLink, name), *two = build::Link(b, a, kTaxiwayLink, second);
+    const Objects before = build::List();
+    EXPECT_EQ(DeleteSelected(), 5);  // two designators, two links, one new designator
+    SceneryObject* blank = BlankDesignator();
+    ASSERT_NE(blank, nullptr);
+    EXPECT_EQ(build::List(), (Objects{ airport, a, b, one, two, blank }));
+    EXPECT_EQ(NameOf(one), blank);
+    EXPECT_EQ(NameOf(two), blank);
+    for (int round = 0; round < 2; ++round) {
+        Undo();
+        EXPECT_EQ(build::List(), before);
+        EXPECT_EQ(NameOf(one), name);
+        Redo();
+        EXPECT_EQ(NameOf(one), blank);
+        EXPECT_EQ(build::List(), (Objects{ airport, a, b, one, two, blank }));
+    }
+}
+
+TEST_F(DeleteRules, ABlankDesignatorThatGoesToTakesNoLinks) {
+    SceneryObject *a = build::Node(), *b = build::Node(), *blank = Selected(build::Designator(""));
+    SceneryObject* link = build::Link(a, b, kTaxiwayLink, blank);
+    EXPECT_EQ(DeleteSelected(), 3);
+    EXPECT_FALSE(IsListed(blank));
+    EXPECT_EQ(NameOf(link), BlankDesignator());
+    EXPECT_NE(NameOf(link), nullptr);
+}
+
+TEST_F(DeleteRules, LinksThatAreDeletedTooNeedNoBlankDesignator) {
+    SceneryObject *a = build::Node(), *b = build::Node(), *name = Selected(build::Designator("A"));
+    Selected(build::Link(a, b, kTaxiwayLink, name));
+    EXPECT_EQ(DeleteSelected(), 2);
+    EXPECT_EQ(build::List(), (Objects{ airport, a, b }));
 }
 
 TEST_F(DeleteRules, ALinkThatIsGoneAlreadyIsNotChanged) {
     SceneryObject *a = Selected(build::Node()), *b = build::Node(), *name = Selected(build::Designator("A"));
     build::Link(a, b, kTaxiwayLink, name);
     const Objects before = build::List();
-    EXPECT_EQ(DeleteSelected(nullptr), 3);
+    EXPECT_EQ(DeleteSelected(), 3);
     ExpectLeft({ airport, b }, before);
 }
 
@@ -372,7 +421,7 @@ TEST_F(DeleteRules, StockNavaidsAreRefusedAndTheWalkGoesOn) {
     SceneryObject *ndb = Selected(Stock(build::Ndb())), *vor = Selected(Stock(build::Vor()));
     SceneryObject* marker = Selected(Stock(build::Append(kMarkerBeacon, sizeof(MarkerBeaconPayload))));
     SceneryObject* node = Selected(build::Node());
-    EXPECT_EQ(DeleteSelected(nullptr), 1);
+    EXPECT_EQ(DeleteSelected(), 1);
     EXPECT_EQ(build::List(), (Objects{ airport, ndb, vor, marker }));
     ASSERT_EQ(fake.messages.size(), 3u);
     for (size_t i = 0; i < 3; ++i) ExpectMessage(i, kStockNavaids, Buttons::Ok);
@@ -381,7 +430,7 @@ TEST_F(DeleteRules, StockNavaidsAreRefusedAndTheWalkGoesOn) {
 
 TEST_F(DeleteRules, AStockIlsIsRefusedWithItsOwnText) {
     SceneryObject* ils = Whole(Stock(build::Ils("ISNQ")));
-    EXPECT_EQ(DeleteSelected(nullptr), 0);
+    EXPECT_EQ(DeleteSelected(), 0);
     EXPECT_TRUE(IsListed(ils));
     ASSERT_EQ(fake.messages.size(), 1u);
     ExpectMessage(0, kStockIls, Buttons::Ok);
@@ -391,7 +440,17 @@ TEST_F(DeleteRules, AReplacementGivesItsStockObjectBackFirst) {
     SceneryObject *stock = Stock(build::Ndb()), *replacement = Selected(build::Ndb());
     Tie(stock, replacement);
     const Objects before = build::List();
-    EXPECT_EQ(DeleteSelected(nullptr), 2);
+    EXPECT_EQ(DeleteSelected(), 2);
+    const SceneryObject* last = state.undoHead;
+    ASSERT_NE(last, nullptr);
+    EXPECT_EQ(last, replacement) << "the replacement goes last";
+    EXPECT_EQ(last->flags & kHistoryMask, uint32_t{ kOpDeleted } << kHistoryShift);
+    const SceneryObject* first = last->historyNext;
+    ASSERT_NE(first, nullptr);
+    EXPECT_EQ(first->flags & kHistoryMask, uint32_t{ kOpModified } << kHistoryShift);
+    EXPECT_NE(first->flags & kGroupStart, 0u);
+    EXPECT_EQ(first->related, replacement) << "the stock object as it was";
+    EXPECT_EQ(first->historyNext, nullptr);
     EXPECT_EQ(stock->related, nullptr);
     EXPECT_FALSE(IsReplacedStock(stock));
     Undo();
@@ -409,7 +468,7 @@ TEST_F(DeleteRules, ARunwaysReplacementIlsGivesItsStockIlsBack) {
     Tie(stock, replacement);
     BodyOf(runway).primaryIls = PackIdent("ISNQ");
     const Objects before = build::List();
-    EXPECT_EQ(DeleteSelected(nullptr), 3);
+    EXPECT_EQ(DeleteSelected(), 3);
     EXPECT_EQ(stock->related, nullptr);
     ExpectLeft({ airport, stock }, before);
 }
@@ -438,7 +497,7 @@ TEST_F(DeleteRules, ARunwayForgetsADeletedIlsInTheSameAction) {
     PayloadAs<RunwayPayload>(runway).body.primaryIls = PackIdent("ISEA");
     SceneryObject* ils = build::Ils("ISEA");
     ils->flags |= kSelected;
-    EXPECT_EQ(DeleteSelected(nullptr), 2);
+    EXPECT_EQ(DeleteSelected(), 2);
     EXPECT_EQ(+PayloadAs<RunwayPayload>(runway).body.primaryIls, 0u);
     Undo();
     EXPECT_EQ(+PayloadAs<RunwayPayload>(runway).body.primaryIls, PackIdent("ISEA"));
@@ -453,20 +512,20 @@ TEST_F(DeleteRules, ARunwayNamesTheStockIlsAgainWhenItsReplacementGoes) {
     stock->related = replacement;
     replacement->related = stock;
     replacement->flags |= kSelected;
-    DeleteSelected(nullptr);
+    DeleteSelected();
     EXPECT_EQ(+PayloadAs<RunwayPayload>(runway).body.primaryIls, PackIdent("IOLD"));
 }
 
 TEST_F(DeleteRules, AWholeApronIsDeleted) {
     Whole(WithSelectedVertices(build::Apron(Hexagon()), { 1 }));
     const Objects before = build::List();
-    EXPECT_EQ(DeleteSelected(nullptr), 1);
+    EXPECT_EQ(DeleteSelected(), 1);
     ExpectLeft({ airport }, before);
 }
 
 TEST_F(DeleteRules, SelectedVerticesGoAndTheSurfaceFollows) {
     SceneryObject* apron = WithSelectedVertices(build::Apron(Hexagon()), { 1, 4 });
-    EXPECT_EQ(DeleteSelected(nullptr), 1);
+    EXPECT_EQ(DeleteSelected(), 1);
     const std::vector<EncodedPoint> left = { Hexagon()[0], Hexagon()[2], Hexagon()[3], Hexagon()[5] };
     EXPECT_TRUE(SamePoints(ApronOutline(apron), left));
     const auto& head = PayloadAs<ApronHead>(apron);
@@ -480,18 +539,27 @@ TEST_F(DeleteRules, SelectedVerticesGoAndTheSurfaceFollows) {
     EXPECT_TRUE(IsSelected(apron));
 }
 
-TEST_F(DeleteRules, FewerThanThreeVerticesLeftDeleteTheApron) {
-    WithSelectedVertices(build::Apron(Hexagon()), { 0, 1, 2, 3 });
-    SceneryObject* triangle = WithSelectedVertices(build::Apron(Hexagon()), { 0, 1, 2 });
+TEST_F(DeleteRules, ASelectedVertexGoesHoweverFewAreLeft) {
+    SceneryObject* apron = WithSelectedVertices(build::Apron(Hexagon()), { 0, 1, 2, 3 });
+    EXPECT_EQ(DeleteSelected(), 1);
+    EXPECT_TRUE(SamePoints(ApronOutline(apron), { Hexagon().begin() + 4, Hexagon().end() }));
+    EXPECT_EQ(uint16_t{ PayloadAs<ApronHead>(apron).triangleCount }, 0);
+    EXPECT_TRUE(fake.messages.empty());
+    Undo();
+    EXPECT_TRUE(SamePoints(ApronOutline(apron), Hexagon()));
+}
+
+TEST_F(DeleteRules, AnApronThatLosesItsLastVertexIsGone) {
+    WithSelectedVertices(build::Apron(Hexagon()), { 0, 1, 2, 3, 4, 5 });
     const Objects before = build::List();
-    EXPECT_EQ(DeleteSelected(nullptr), 2);
-    EXPECT_EQ(uint16_t{ PayloadAs<ApronHead>(triangle).outlineCount }, 3);
-    ExpectLeft({ airport, triangle }, before);
+    EXPECT_EQ(DeleteSelected(), 1);
+    EXPECT_TRUE(fake.messages.empty());
+    ExpectLeft({ airport }, before);
 }
 
 TEST_F(DeleteRules, AnApronWithoutSelectedVerticesIsLeftAlone) {
     Selected(build::Apron(Hexagon()));
-    EXPECT_EQ(DeleteSelected(nullptr), 0);
+    EXPECT_EQ(DeleteSelected(), 0);
     EXPECT_FALSE(state.modified);
 }
 
@@ -501,7 +569,7 @@ TEST_F(DeleteRules, VerticesBeyondTheBitmapCannotBeSelected) {
         outline.push_back(build::Encoded({ 500 * std::sin(kTwoPi * i / 200), 500 * std::cos(kTwoPi * i / 200) }));
     SceneryObject* apron = Selected(build::Apron(outline));
     std::fill_n(PayloadAs<ApronHead>(apron).selection, 20, uint8_t{ 0xFF });
-    EXPECT_EQ(DeleteSelected(nullptr), 1);
+    EXPECT_EQ(DeleteSelected(), 1);
     EXPECT_TRUE(SamePoints(ApronOutline(apron), { outline.begin() + 160, outline.end() }));
 }
 
@@ -514,7 +582,7 @@ EdgeLightStrip Strip(float spacing, uint8_t segment = 0, uint8_t start = 0, uint
 TEST_F(DeleteRules, StripsWithAnySelectedPartGo) {
     SceneryObject* lights =
         Selected(build::EdgeLights({ Strip(10, 1), Strip(20), Strip(30, 0, 1), Strip(40, 0, 0, 1), Strip(50) }));
-    EXPECT_EQ(DeleteSelected(nullptr), 1);
+    EXPECT_EQ(DeleteSelected(), 1);
     ASSERT_EQ(uint32_t{ PayloadAs<EdgeLightsHead>(lights).stripCount }, 2u);
     ASSERT_EQ(lights->payloadSize, 22u + 2 * 23);
     EdgeLightStrip strips[2];
@@ -531,14 +599,14 @@ TEST_F(DeleteRules, LightsGoWhenWhollySelectedOrWhenNoStripIsLeft) {
     Whole(build::EdgeLights({ Strip(10), Strip(20) }));
     Selected(build::EdgeLights({ Strip(10, 1), Strip(20, 0, 0, 1) }));
     const Objects before = build::List();
-    EXPECT_EQ(DeleteSelected(nullptr), 2);
+    EXPECT_EQ(DeleteSelected(), 2);
     ExpectLeft({ airport }, before);
 }
 
 TEST_F(DeleteRules, LightsWithoutASelectedPartAreLeftAlone) {
     Selected(build::EdgeLights({ Strip(10) }));
     Selected(build::EdgeLights({}));
-    EXPECT_EQ(DeleteSelected(nullptr), 0);
+    EXPECT_EQ(DeleteSelected(), 0);
 }
 
 // ---- everything at once
@@ -560,7 +628,7 @@ TEST_F(DeleteRules, AWholeSelectedAirportIsEmptiedByOneActionAndComesBack) {
     SceneryObject* stock = Stock(build::Ndb());
     const Objects before = build::List();
     for (SceneryObject* object : before) Whole(object);
-    DeleteSelected(nullptr);
+    DeleteSelected();
     ExpectLeft({ airport, stock }, before);
     Undo();
     EXPECT_EQ(NameOf(named), runway);

@@ -44,6 +44,13 @@ TEST_F(DesignatorBox, NothingABlankAndRunwaysAreNoDesignators) {
     EXPECT_TRUE(fake.messages.empty());
 }
 
+TEST_F(DesignatorBox, OnlyANameThatTheAirportLacksIsNew) {
+    EXPECT_TRUE(NamesNewDesignator("b"));
+    EXPECT_TRUE(NamesNewDesignator("taxi b1"));
+    for (const char* text : { "a", "Taxi A", "", " B", "taxi", "Rwy 16L/34R", "abcdefghijk", "\xE4\xB8\xAD" })
+        EXPECT_FALSE(NamesNewDesignator(text)) << text;
+}
+
 TEST_F(DesignatorBox, AnUnknownNameIsAskedAboutAndMadeInTheSameActionAsItsUse) {
     fake.answers = { Answer::No, Answer::Cancel, Answer::Yes };
     EXPECT_EQ(TypeDesignator("b1", alpha), nullptr);
@@ -90,6 +97,19 @@ TEST_F(DesignatorBox, AnAirportHoldsAtMost256Designators) {
     while (model::CountKind(model::kTaxiDesignator) < 256) build::Designator("Q");
     EXPECT_EQ(TypeDesignator("NEW", nullptr), nullptr);
     EXPECT_EQ(LastMessage(), "ERROR: An airport can have at most 256 taxiway designators");
+}
+
+TEST_F(DesignatorBox, NoDesignatorGivesTheSelectedLinksTheBlankOne) {
+    EXPECT_TRUE(DesignateSelectedLinks(alpha));
+    EXPECT_TRUE(DesignateSelectedLinks(nullptr));
+    SceneryObject* blank = BlankDesignator();
+    ASSERT_NE(blank, nullptr);
+    EXPECT_EQ(DesignatorOf(link), blank);
+    EXPECT_EQ(Actions(), 2);
+    EXPECT_FALSE(DesignateSelectedLinks(nullptr));
+    model::Undo();
+    EXPECT_EQ(DesignatorOf(link), alpha);
+    EXPECT_EQ(BlankDesignator(), nullptr);
 }
 
 }  // namespace

@@ -314,8 +314,8 @@ TEST_F(DialogRoundTrip, UndoingTenThousandSequencesOfEditsGivesTheOriginalBytes)
             fake.messages.clear();
             fake.answers.assign(4, Chance(70) ? Answer::Yes : Chance(50) ? Answer::No : Answer::Cancel);
             Step();
-            ASSERT_TRUE(dialogs::state.moved.empty());
-            ASSERT_EQ(dialogs::state.provisional, nullptr);
+            ASSERT_TRUE(model::state.moved.empty());
+            ASSERT_EQ(model::state.provisional, nullptr);
         }
         recorded += Actions();
         const Snapshot after = Take();

@@ -6,6 +6,7 @@
 
 #include "fakes/BuildObjects.h"
 #include "fakes/FakePlatform.h"
+#include "model/Links.h"
 
 namespace {
 
@@ -442,13 +443,31 @@ TEST_F(EditHistory, AppendingIsNotRecorded) {
 }
 
 TEST_F(EditHistory, DeletingNodeNumberKAndUndoingKeepsAllIndices) {
-    Objects nodes;
+    Objects nodes, links, all;
     for (int i = 0; i < 10; ++i) nodes.push_back(build::Node({ 10.0 * i, 0 }));
+    for (size_t i = 0; i < 9; ++i) links.push_back(build::Link(nodes[i], nodes[i + 1]));
+    all = build::List();
+    const auto numbers = [&](const SceneryObject* link) {
+        const auto& payload = PayloadAs<TaxiLinkPayload>(link);
+        return std::pair<int, int>(payload.startIndex, payload.endField & 0xFFF);
+    };
     for (size_t k = 0; k < nodes.size(); ++k) {
         BeginAction();
+        for (size_t i = 0; i < 9; ++i) {
+            if (i == k || i + 1 == k) DeleteObject(links[i]);
+        }
         DeleteObject(nodes[k]);
+        UpdateLinkIndices();
+        for (size_t i = 0; i < 9; ++i) {  // behind the gap everything is one lower
+            if (i == k || i + 1 == k) continue;
+            const int start = static_cast<int>(i) - (i > k);
+            EXPECT_EQ(numbers(links[i]), std::pair(start, start + 1)) << k << ' ' << i;
+        }
         Undo();
-        ExpectList(nodes);
+        ExpectList(all);
+        UpdateLinkIndices();
+        for (size_t i = 0; i < 9; ++i)
+            EXPECT_EQ(numbers(links[i]), std::pair(static_cast<int>(i), static_cast<int>(i) + 1)) << k << ' ' << i;
     }
 }
 

@@ -5,6 +5,7 @@
 #include "fakes/DialogFixture.h"
 #include "map/MapView.h"
 #include "model/CoordinateText.h"
+#include "model/DeleteRules.h"
 
 namespace {
 
@@ -139,7 +140,7 @@ TEST_F(EditsTest, EveryPartOfAnIlsCanBeMovedByClicks) {
     MoveToClick(ils, build::At({ 1, 1 }));
     MoveToClick(ils, offsetof(model::IlsPayload, glideSlope) + offsetof(model::GlideSlopePart, longitude),
                 build::At({ 2, 2 }));
-    EXPECT_EQ(dialogs::state.moved.size(), 2u);
+    EXPECT_EQ(model::state.moved.size(), 2u);
     EndPreview();
     EXPECT_EQ(Bytes(ils), original);
 }
@@ -171,6 +172,100 @@ TEST_F(EditsTest, OnlyAPlaceOutsideTheViewIsCentred) {
     ShowPlace(build::kMiddle, false);
     EXPECT_EQ(map::view.centre.lon, build::At({ 90000, 200 }).lon);
     map::view = {};
+}
+
+// A runway that exists only for its dialog, with an ILS made for it there.
+TEST_F(EditsTest, AProvisionalRecordAndWhatIsAddedWithItAreUndoneAndRedoneTogether) {
+    SceneryObject* node = build::Node();
+    SceneryObject* runway = MakeProvisional(model::kRunway, sizeof(model::RunwayPayload));
+    SceneryObject* ils = AddDraft(&edits, ObjectPtr(model::CreateObject(model::kIls, sizeof(model::IlsPayload))));
+    As<model::RunwayPayload>(DraftOf(&edits, runway)).body.primaryIls = 7;
+    TypeOf(DraftOf(&edits, node)) = 2;
+    ASSERT_TRUE(Commit(&edits));
+    const std::vector<SceneryObject*> all = { node, ils, runway };
+    EXPECT_EQ(build::List(), all);
+    EXPECT_EQ(Actions(), 1);
+    for (int round = 0; round < 2; ++round) {
+        model::Undo();
+        EXPECT_EQ(build::List(), (std::vector<SceneryObject*>{ node }));
+        EXPECT_EQ(build::ListFromTail(), build::List());
+        EXPECT_EQ(TypeOf(node), 1);
+        model::Redo();
+        EXPECT_EQ(build::List(), all);
+        EXPECT_EQ(build::ListFromTail(), all);
+        EXPECT_EQ(TypeOf(node), 2);
+        EXPECT_EQ(+As<model::RunwayPayload>(runway).body.primaryIls, 7u);
+    }
+}
+
+TEST_F(EditsTest, EditsBesideAnOpenDialogOutliveItsProvisionalRecord) {
+    SceneryObject *first = build::Node(), *second = build::Node();
+    SceneryObject* made = MakeProvisional(model::kTaxiNode, sizeof(model::TaxiNodeRecord));
+    model::BeginAction();
+    SceneryObject* added = model::CreateObject(model::kTaxiNode, sizeof(model::TaxiNodeRecord));
+    model::AddObject(added);
+    EXPECT_EQ(build::List(), (std::vector<SceneryObject*>{ first, second, added, made }));
+    model::BeginAction();
+    model::DeleteObject(added);
+    model::BeginAction();
+    SceneryObject* edited = model::CopyObject(second);
+    TypeOf(edited) = 4;
+    model::ModifyObject(edited, second);
+    model::Undo();
+    model::Undo();
+    EXPECT_EQ(build::List(), (std::vector<SceneryObject*>{ first, second, added, made }));
+    EXPECT_EQ(build::ListFromTail(), build::List());
+    CancelDialog();
+    const std::vector<SceneryObject*> left = { first, second, added };
+    EXPECT_EQ(build::List(), left);
+    model::Undo();
+    EXPECT_EQ(build::List(), (std::vector<SceneryObject*>{ first, second }));
+    for (int i = 0; i < 3; ++i) model::Redo();
+    EXPECT_EQ(build::List(), (std::vector<SceneryObject*>{ first, second }));
+    EXPECT_EQ(build::ListFromTail(), build::List());
+    EXPECT_EQ(TypeOf(second), 4);
+}
+
+TEST_F(EditsTest, AProvisionalRecordIsCommittedBehindEditsMadeBesideItsDialog) {
+    SceneryObject* made = MakeProvisional(model::kTaxiNode, sizeof(model::TaxiNodeRecord));
+    model::BeginAction();
+    SceneryObject* added = model::CreateObject(model::kTaxiNode, sizeof(model::TaxiNodeRecord));
+    model::AddObject(added);
+    DraftOf(&edits, made);
+    EXPECT_TRUE(Commit(&edits));
+    EXPECT_EQ(build::List(), (std::vector<SceneryObject*>{ added, made }));
+    model::Undo();
+    EXPECT_EQ(build::List(), (std::vector<SceneryObject*>{ added }));
+    model::Undo();
+    EXPECT_TRUE(build::List().empty());
+    model::Redo();
+    model::Redo();
+    EXPECT_EQ(build::List(), (std::vector<SceneryObject*>{ added, made }));
+}
+
+TEST_F(EditsTest, AnotherAirportEndsTheDialogsPreviewsAndItsProvisionalRecord) {
+    SceneryObject* node = build::Node();
+    MakeProvisional(model::kTaxiNode, sizeof(model::TaxiNodeRecord));
+    MoveToClick(node, build::At({ 10, 10 }));
+    model::ClearModel();
+    EXPECT_EQ(model::state.provisional, nullptr);
+    EXPECT_TRUE(model::state.moved.empty());
+    CancelDialog();
+    EXPECT_TRUE(IsProvisional(MakeProvisional(model::kTaxiNode, sizeof(model::TaxiNodeRecord))));
+    CancelDialog();
+    EXPECT_EQ(model::state.head, nullptr);
+}
+
+TEST_F(EditsTest, DeletingLeavesTheProvisionalRecordToItsDialog) {
+    SceneryObject* node = build::Node();
+    SceneryObject* made = MakeProvisional(model::kTaxiNode, sizeof(model::TaxiNodeRecord));
+    node->flags |= model::kSelected;
+    made->flags |= model::kSelected;
+    EXPECT_EQ(model::DeleteSelected(), 1);
+    EXPECT_EQ(build::List(), (std::vector<SceneryObject*>{ made }));
+    CancelDialog();
+    model::Undo();
+    EXPECT_EQ(build::List(), (std::vector<SceneryObject*>{ node }));
 }
 
 }  // namespace

@@ -105,10 +105,46 @@ TEST_F(FilesTest, PathsMayBeFarLongerThanTwoHundredAndSixtyCharacters) {
 }
 
 TEST_F(FilesTest, ANameMayFillTheLimitOfTheFileSystem) {
-    const std::string path = Utf8(folder) + "/" + std::string(240, 'n') + ".bgl";
+    const std::string name = std::string(251, 'n') + ".bgl";
+    ASSERT_EQ(name.size(), 255u);
+    const std::string path = Utf8(folder) + "/" + name;
     ASSERT_TRUE(WriteFileWhole(path, Bytes{ 1 }));
     ASSERT_TRUE(WriteFileWhole(path, Bytes{ 2 }));
     EXPECT_EQ(Read(path), Bytes{ 2 });
+}
+
+// A link of that name, or a reason to skip the test.
+bool MakeLink(const fs::path& target, const fs::path& link) {
+    std::error_code error;
+    fs::create_symlink(target, link, error);
+    return !error && fs::is_symlink(link);
+}
+
+TEST_F(FilesTest, WritingToASymbolicLinkWritesWhatItLeadsTo) {
+    fs::create_directories(folder / "real");
+    Put(u8"real/a.bgl", "old");
+    if (!MakeLink(fs::path("real") / "a.bgl", folder / "link.bgl")) GTEST_SKIP() << "no symbolic links here";
+    ASSERT_TRUE(MakeLink(folder / "link.bgl", folder / "chain.bgl"));
+    ASSERT_TRUE(WriteFileWhole(In(u8"chain.bgl"), Bytes{ 1, 2 }));
+    EXPECT_TRUE(fs::is_symlink(folder / "chain.bgl"));
+    EXPECT_TRUE(fs::is_symlink(folder / "link.bgl"));
+    EXPECT_FALSE(fs::is_symlink(folder / "real" / "a.bgl"));
+    EXPECT_EQ(Read(In(u8"real/a.bgl")), (Bytes{ 1, 2 }));
+    EXPECT_EQ(FileCount(), 3u);
+}
+
+TEST_F(FilesTest, WritingToALinkThatLeadsToNoFileYetMakesTheFile) {
+    if (!MakeLink("new.bgl", folder / "link.bgl")) GTEST_SKIP() << "no symbolic links here";
+    ASSERT_TRUE(WriteFileWhole(In(u8"link.bgl"), Bytes{ 3 }));
+    EXPECT_TRUE(fs::is_symlink(folder / "link.bgl"));
+    EXPECT_EQ(Read(In(u8"new.bgl")), Bytes{ 3 });
+}
+
+TEST_F(FilesTest, LinksThatGoRoundInCirclesAreRefused) {
+    if (!MakeLink("b", folder / "a") || !MakeLink("a", folder / "b")) GTEST_SKIP() << "no symbolic links here";
+    EXPECT_FALSE(WriteFileWhole(In(u8"a"), Bytes{ 1 }));
+    EXPECT_EQ(FileCount(), 2u);
+    EXPECT_TRUE(fs::is_symlink(folder / "a"));
 }
 
 TEST_F(FilesTest, BothSlashesSeparate) {
@@ -172,6 +208,15 @@ TEST_F(FilesTest, ListingFiltersByExtensionAndSortsWithoutRegardToCase) {
     EXPECT_TRUE(ListFiles(In(u8"missing"), ".bgl").empty());
 }
 
+TEST_F(FilesTest, FoldersAreListedAndSortedWithoutRegardToCase) {
+    for (const char8_t* name : { u8"b747", u8"A320", u8"Z\u00FCrich" }) fs::create_directory(folder / name);
+    Put(u8"c172", "a file");
+    EXPECT_EQ(ListFolders(Utf8(folder)), (std::vector<std::string>{ "A320", "b747", "Z\xC3\xBCrich" }));
+    EXPECT_TRUE(ListFolders(In(u8"missing")).empty());
+    EXPECT_TRUE(ListFolders(In(u8"c172")).empty());
+    EXPECT_TRUE(ListFolders("").empty());
+}
+
 TEST_F(FilesTest, WriteTimesAreFileTimes) {
     Put(u8"a.bgl", "x");
     const uint64_t time = ListFiles(Utf8(folder), ".bgl").at(0).writeTime;
@@ -190,6 +235,18 @@ TEST_F(FilesTest, FilesAndFoldersAreToldApart) {
     EXPECT_FALSE(FolderExists(In(u8"b")));
 }
 
+TEST_F(FilesTest, AnEntryIsFoundHoweverTheDiskSpellsIt) {
+    fs::create_directories(folder / "SCENERY");
+    Put(u8"scenery.CFG", "x");
+    const std::string path = Utf8(folder);
+    EXPECT_TRUE(FolderExists(platform::SpelledPath(path, "scenery")));
+    EXPECT_TRUE(FileExists(platform::SpelledPath(path, "Scenery.cfg")));
+    fs::create_directories(folder / "scenery");
+    EXPECT_EQ(platform::SpelledPath(path, "scenery"), path + "\\scenery");
+    EXPECT_EQ(platform::SpelledPath(path, "none"), path + "\\none");
+    EXPECT_EQ(platform::SpelledPath(path + "\\none", "a"), path + "\\none\\a");
+}
+
 TEST_F(FilesTest, DeletingAMissingFileCountsAsDone) {
     Put(u8"a", "x");
     EXPECT_TRUE(DeleteOneFile(In(u8"a")));
@@ -206,6 +263,17 @@ TEST_F(FilesTest, MakingFoldersMakesThoseAboveAndAcceptsWhatIsThere) {
     Put(u8"file", "x");
     EXPECT_FALSE(MakeFolders(In(u8"file")));
     EXPECT_FALSE(MakeFolders(In(u8"file/below")));
+}
+
+TEST_F(FilesTest, AHeldFileIsHeldOnceUntilItIsGivenBack) {
+    platform::FileHandle first = platform::HoldFile(In(u8"lock"));
+    ASSERT_TRUE(first);
+    EXPECT_FALSE(platform::HoldFile(In(u8"lock")));
+    EXPECT_TRUE(platform::HoldFile(In(u8"other")));
+    first.reset();
+    EXPECT_TRUE(platform::HoldFile(In(u8"lock")));
+    EXPECT_FALSE(platform::HoldFile(In(u8"missing/lock")));
+    EXPECT_FALSE(platform::HoldFile(Utf8(folder)));
 }
 
 }  // namespace

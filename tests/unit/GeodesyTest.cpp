@@ -24,14 +24,10 @@ TEST(Geodesy, RadiiComeFromTheTwoCircumferences) {
 TEST(Geodesy, UnitFactorsAreThoseOfTheProgram) {
     EXPECT_EQ(kFeetPerMetre, 3.280839895);
     EXPECT_EQ(kMetresPerFoot, 0.3048);
-    EXPECT_EQ(kFeetPerMetreSingle, 3.2808399f);
-    EXPECT_EQ(kMetresPerFootSingle, 0.3048f);
     EXPECT_EQ(kMetresPerNauticalMile, 1852.1759);
     EXPECT_EQ(kFeetPerNauticalMile, 6076.12);
     EXPECT_EQ(kDegreesPerRadian, 57.29577951308232);
     EXPECT_EQ(kRadiansPerDegree, 0.017453292519943295);
-    EXPECT_EQ(kMinute, 1.0 / 60);
-    EXPECT_EQ(kSecond, 1.0 / 3600);
 }
 
 TEST(LatLonToLocal, APointNorthAndEastHasPositiveOffsets) {

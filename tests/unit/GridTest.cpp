@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+
 #include "fakes/MapFixture.h"
 
 namespace {
@@ -17,6 +20,13 @@ protected:
         app::settings.showLatLongGrid = true;
     }
     static void PixelsPerMinute(double pixels) { Scale(pixels / 1852.1759); }
+
+    // Positions are cut to whole pixels, so a line may lie one lower than it should.
+    static void ExpectPixels(const std::vector<int>& found, const std::vector<int>& expected) {
+        ASSERT_EQ(found.size(), expected.size());
+        for (size_t i = 0; i < found.size(); ++i)
+            EXPECT_TRUE(found[i] == expected[i] || found[i] == expected[i] - 1) << found[i];
+    }
 };
 
 TEST_F(GridTest, TheStepComesFromTheSetting) {
@@ -95,10 +105,45 @@ TEST_F(GridTest, LongitudesBeyondTheDateLineCountBack) { EXPECT_EQ(GridLabel(181
 TEST_F(GridTest, LinesAreDrawnAtWholeMultiplesOfTheStep) {
     Open();
     PixelsPerMinute(240);  // 800 pixels are 200 seconds, 600 are 150: lines at -90 to 90 and -60 to 60
-    view.centre.lat = 0.0001;
     RecordingCanvas log;
     Paint(&log);
-    EXPECT_EQ(log.StrokedWith(InkOf(Ink::GridLine)).size(), 7u + 5u);
+    std::vector<int> parallels, meridians;  // where they cross the left and the upper edge
+    for (const CanvasCall& line : log.StrokedWith(InkOf(Ink::GridLine))) {
+        ASSERT_EQ(line.points.size(), 2u);
+        const platform::Pixel from = line.points[0], to = line.points[1];
+        if (from.y == to.y)
+            parallels.push_back(from.y);
+        else if (from.x == to.x)
+            meridians.push_back(from.x);
+        else
+            ADD_FAILURE() << "a slanting line from " << from.x << ' ' << from.y << " to " << to.x << ' ' << to.y;
+    }
+    std::sort(parallels.begin(), parallels.end());
+    std::sort(meridians.begin(), meridians.end());
+    // Thirty seconds are 120 pixels, and the middle is the equator and the prime meridian.
+    ExpectPixels(parallels, { 60, 180, 300, 420, 540 });
+    ExpectPixels(meridians, { 40, 160, 280, 400, 520, 640, 760 });
+}
+
+TEST_F(GridTest, OffTheEquatorMeridiansAreCloserThanParallels) {
+    Open();
+    PixelsPerMinute(240);
+    view.centre.lat = 60 * model::kRadiansPerDegree;
+    RecordingCanvas log;
+    Paint(&log);
+    // A minute of longitude is 120 pixels here, so half a minute is 60; meridians lean but little.
+    std::vector<double> crossings;  // of the row of pixels in the middle
+    for (const CanvasCall& line : log.StrokedWith(InkOf(Ink::GridLine))) {
+        const platform::Pixel from = line.points.front(), to = line.points.back();
+        if (std::abs(to.y - from.y) < 300) continue;
+        crossings.push_back(from.x + (to.x - from.x) * (300.0 - from.y) / (to.y - from.y));
+    }
+    std::sort(crossings.begin(), crossings.end());
+    ASSERT_GE(crossings.size(), 5u);
+    for (size_t i = 1; i < crossings.size(); ++i) EXPECT_NEAR(crossings[i] - crossings[i - 1], 60, 1.5) << i;
+    const auto middle = std::min_element(crossings.begin(), crossings.end(),
+                                         [](double a, double b) { return std::abs(a - 400) < std::abs(b - 400); });
+    EXPECT_NEAR(*middle, 400, 1.5);
 }
 
 TEST_F(GridTest, LabelsStandAtTheLeftAndTheBottom) {
@@ -137,6 +182,22 @@ TEST_F(GridTest, AViewOfTheWholeEarthStillHasFewLines) {
         Paint(&log);
         EXPECT_LE(log.StrokedWith(InkOf(Ink::GridLine)).size(), 5000u) << span;
     }
+}
+
+TEST_F(GridTest, LabelsStandWhereTheBarsLeaveThemInSight) {
+    PixelsPerMinute(200);
+    Open();
+    const auto lowest = [] {
+        RecordingCanvas log;
+        Paint(&log);
+        int y = 0;
+        for (const CanvasCall& call : log.Drawn("text")) y = std::max(y, call.points[0].y);
+        return y;
+    };
+    EXPECT_GT(lowest(), kHeight - 10);
+    SetVisible({ 0, 60, kWidth, kHeight - 40 });
+    EXPECT_LT(lowest(), kHeight - 40);
+    EXPECT_GT(lowest(), kHeight - 50);
 }
 
 }  // namespace

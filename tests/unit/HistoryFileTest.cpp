@@ -96,7 +96,7 @@ protected:
         case 3: DeleteGuidelinesAndMarkers(); break;
         default:
             SelectSome();
-            DeleteSelected(nullptr);
+            DeleteSelected();
             break;
         }
     }

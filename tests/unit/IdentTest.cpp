@@ -62,4 +62,26 @@ TEST(Ident, EveryIdentOfDigitsLettersAndBlanksReadsBack) {
     }
 }
 
+TEST(Ident, ARegionWordNamesAnAirportInItsUpperTwentyOneBits) {
+    const uint32_t ksea = PackIdent("KSEA") << kIdentShift | 1, kbfi = PackIdent("KBFI") << kIdentShift | 1;
+    const uint32_t word = RegionWordWithAirport(0x123, ksea);
+    EXPECT_EQ(word, PackIdent("KSEA") << 11 | 0x123);
+    EXPECT_EQ(RegionWordWithAirport(word, kbfi), PackIdent("KBFI") << 11 | 0x123) << "the region stays";
+    EXPECT_TRUE(RegionWordNamesAirport(word, ksea));
+    EXPECT_TRUE(RegionWordNamesAirport(word, ksea ^ 1)) << "the low bits tell the kind of object";
+    EXPECT_FALSE(RegionWordNamesAirport(word, kbfi));
+    EXPECT_FALSE(RegionWordNamesAirport(0x123, ksea));
+    EXPECT_TRUE(RegionWordNamesAirport(0x123, 1));
+}
+
+TEST(Ident, OfFiveCharactersARegionWordKeepsTheLowBits) {
+    const uint32_t airport = PackIdent("ZZZZZ") << kIdentShift | 1;
+    ASSERT_GT(PackIdent("ZZZZZ"), 0x1FFFFFu);
+    const uint32_t word = RegionWordWithAirport(0x456, airport);
+    EXPECT_EQ(word >> 11, PackIdent("ZZZZZ") & 0x1FFFFF);
+    EXPECT_EQ(word & 0x7FF, 0x456u);
+    EXPECT_TRUE(RegionWordNamesAirport(word, airport));
+    EXPECT_FALSE(RegionWordNamesAirport(word, PackIdent("ZZZZY") << kIdentShift | 1));
+}
+
 }  // namespace

@@ -1,5 +1,6 @@
 #include "dialogs/IlsDialog.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "dialogs/Choices.h"
@@ -344,6 +345,27 @@ TEST_F(IlsDialog, ClicksGoToThePartThatHasTheFocus) {
     EXPECT_EQ(IlsPositionOffset(kLocalizerFields), 2u);
     EXPECT_EQ(IlsPositionOffset(kGlideSlopeFields), 46u);
     EXPECT_EQ(IlsPositionOffset(kDmeFields), 68u);
+}
+
+TEST_F(IlsDialog, AnIlsForARunwayThatOnlyItsDialogKnowsIsUndoneWithTheRunway) {
+    const auto before = build::List();
+    SceneryObject* made = MakeProvisional(model::kRunway, sizeof(model::RunwayPayload));
+    std::copy_n(runway->payload, runway->payloadSize, made->payload);
+    SceneryObject* ils = CreateIls({ made, kBaseEnd }, [this] { return seed++; });
+    EXPECT_FALSE(IsProvisional(made));
+    EXPECT_EQ(+As<model::RunwayPayload>(made).body.primaryIls, model::PackIdent("IABC"));
+    EXPECT_EQ(Actions(), 1);
+    const auto after = build::List();
+    EXPECT_EQ(after.size(), before.size() + 2);
+    for (int round = 0; round < 2; ++round) {
+        model::Undo();
+        EXPECT_EQ(build::List(), before);
+        EXPECT_EQ(build::ListFromTail(), before);
+        model::Redo();
+        EXPECT_EQ(build::List(), after);
+        EXPECT_EQ(build::ListFromTail(), after);
+    }
+    EXPECT_TRUE(std::find(after.begin(), after.end(), ils) != after.end());
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 
 namespace {
 
+using bgl::CacheState;
 using bgl::CacheTexts;
 using bgl::FileKind;
 using bgl::library;
@@ -34,10 +35,15 @@ protected:
     static std::string WithoutCheckLine(const std::string& fileList) {
         return fileList.substr(fileList.find('\n') + 1);
     }
+    static std::string WithCarriageReturns(std::string text) {
+        for (size_t at = text.find('\n'); at != std::string::npos; at = text.find('\n', at + 2))
+            text.insert(at, 1, '\r');
+        return text;
+    }
     // Reads the texts as a collection does that finds every file on the disk.
     static bool ReadBack(const CacheTexts& texts) {
         library = {};
-        if (!bgl::ParseFileList(texts, "C:\\FS9")) return false;
+        if (bgl::ParseFileList(texts, "C:\\FS9") == CacheState::Missing) return false;
         for (bgl::LibraryFile& file : library.files) file.present = true;
         bgl::ParseAirportIndex(texts.airportIndex);
         return true;
@@ -98,7 +104,7 @@ TEST_F(IndexCache, WhatWasWrittenReadsBack) {
 TEST_F(IndexCache, ReadFilesAreNotPresentUntilTheScanFindsThem) {
     const CacheTexts texts = ThreeFiles();
     library = {};
-    ASSERT_TRUE(bgl::ParseFileList(texts, "C:\\FS9"));
+    ASSERT_EQ(bgl::ParseFileList(texts, "C:\\FS9"), CacheState::Checked);
     for (const bgl::LibraryFile& file : library.files) EXPECT_FALSE(file.present);
     library.files[0].present = true;
     library.files[2].present = true;
@@ -166,9 +172,58 @@ TEST_F(IndexCache, FilesThatWereNotWrittenTogetherAreNotReadTogether) {
 
 TEST_F(IndexCache, ForeignFilesAreAsGoodAsMissing) {
     EXPECT_FALSE(ReadBack({ "", "" }));
-    EXPECT_FALSE(ReadBack({ "S|1|0|C:\\a.bgl\n", "A|B|C|D|E|0\n" }));
     EXPECT_FALSE(ReadBack({ std::string(5000, '\0'), std::string(5000, '|') }));
     EXPECT_FALSE(ReadBack({ "\n\n\n", "|\n" }));
+}
+
+// As the files were before they had check sums.
+TEST_F(IndexCache, FilesWithoutCheckSumsAreReadForWhatTheySay) {
+    const CacheTexts texts = ThreeFiles();
+    for (const bool carriageReturns : { false, true }) {
+        CacheTexts plain{ WithoutCheckLine(texts.fileList), texts.airportIndex };
+        if (carriageReturns) plain = { WithCarriageReturns(plain.fileList), WithCarriageReturns(plain.airportIndex) };
+        ASSERT_TRUE(ReadBack(plain));
+        ASSERT_EQ(library.files.size(), 3u);
+        EXPECT_EQ(library.files[0].kind, FileKind::Stock);
+        EXPECT_EQ(library.files[2].path, "D:\\Z\xC3\xBCrich\\scenery\\LSZH.bgl");
+        EXPECT_EQ(library.airports.size(), 3u);
+        bgl::DoubtFilesWithoutAirports();
+        EXPECT_EQ(library.files[0].kind, FileKind::Stock);
+        EXPECT_EQ(library.files[1].kind, FileKind::NoAirports);
+        const CacheTexts again = Compose();
+        EXPECT_EQ(again.fileList, texts.fileList) << "it gets its check sums";
+        EXPECT_EQ(again.airportIndex, texts.airportIndex);
+    }
+}
+
+TEST_F(IndexCache, FilesWithoutCheckSumsAreKnownAsSuch) {
+    const CacheTexts texts = ThreeFiles();
+    const std::string list = WithoutCheckLine(texts.fileList);
+    library = {};
+    EXPECT_EQ(bgl::ParseFileList({ list, texts.airportIndex }, "C:\\FS9"), CacheState::Unchecked);
+    library = {};
+    EXPECT_EQ(bgl::ParseFileList({ list, "A|B|C|D|CUT" }, "C:\\FS9"), CacheState::Missing);
+    EXPECT_TRUE(library.files.empty());
+}
+
+TEST_F(IndexCache, WithoutCheckSumsAFileWhoseAirportsAreMissingCountsAsNotExamined) {
+    const std::string list = WithoutCheckLine(ThreeFiles().fileList);
+    ASSERT_TRUE(ReadBack({ list, "Country|State|City|Field|KBFI|0\n" }));
+    bgl::DoubtFilesWithoutAirports();
+    EXPECT_EQ(library.files[0].kind, FileKind::Stock);
+    EXPECT_EQ(library.files[1].kind, FileKind::NoAirports);
+    EXPECT_EQ(library.files[2].kind, FileKind::NotExamined);
+}
+
+// The line has its number among the others, though it is not read.
+TEST_F(IndexCache, WithoutCheckSumsALineThatIsTooLongCountsForTheNumbersOfTheOthers) {
+    const std::string list =
+        "S|1|0|C:\\a.bgl\nS|1|0|C:\\" + std::string(300, 'p') + ".bgl\nX|1|0|C:\\x.bgl\nA|2|1F|C:\\b.bgl\n";
+    ASSERT_TRUE(ReadBack({ list, "A|B|C|D|BBBB|2\n" }));
+    ASSERT_EQ(library.files.size(), 3u);
+    EXPECT_EQ(library.files[1].path, "");
+    EXPECT_EQ(library.files[2].path, "C:\\b.bgl");
+    EXPECT_EQ(library.airports.at(0).file, 2u);
 }
 
 TEST_F(IndexCache, AnEmptyLibraryReadsBack) {

@@ -59,6 +59,24 @@ TEST(Keys, PlusAndMinusZoomOnBothKeyboards) {
     EXPECT_EQ(CommandForKey(189, kPlain), IDT_ZOOM_OUT);
 }
 
+TEST(Keys, TGoesThroughTheDesignatorsAndWithShiftBackwards) {
+    EXPECT_EQ(CommandForKey('T', kPlain), IDK_CYCLE_DESIGNATOR);
+    EXPECT_EQ(CommandForKey('T', kShift), IDK_CYCLE_DESIGNATOR_BACK);
+}
+
+TEST(Keys, ClearAndTheMiddleOfTheNumericKeypadStopTheSlew) {
+    EXPECT_EQ(CommandForKey(12, kPlain), IDK_SLEW_STOP);
+    EXPECT_EQ(CommandForKey(101, kPlain), IDK_SLEW_STOP);
+}
+
+TEST(Keys, EscapeClosesThePolygon) { EXPECT_EQ(CommandForKey(27, kPlain), IDK_CLOSE_POLYGON); }
+
+TEST(Keys, EnterAndBackspaceBelongToAnOpenOutline) {
+    EXPECT_EQ(app::CommandForOutlineKey(13), IDK_FINISH_POLYGON);
+    EXPECT_EQ(app::CommandForOutlineKey(8), IDK_TAKE_BACK_CORNER);
+    for (int key : { 0, 27, 46, int{ 'A' } }) EXPECT_EQ(app::CommandForOutlineKey(key), 0);
+}
+
 TEST(Keys, OtherKeysDoNothing) {
     for (int key : { -1, 0, 8, 9, 11, 13, 32, int{ 'B' }, int{ 'Q' }, 188, 190, 255, 1000 }) {
         EXPECT_EQ(CommandForKey(key, kPlain), 0) << key;

@@ -69,6 +69,10 @@ TEST_F(LibraryCommands, StatisticsTellWhatWasOpened) {
         EXPECT_NE(cold.find(line), std::string::npos) << line;
     }
     EXPECT_NE(warm.find("# opened: 0\n"), std::string::npos);
+    for (const char* line : { "# kind stock: 1\n", "# kind add-on: 1\n", "# kind none: 1\n" }) {
+        EXPECT_NE(cold.find(line), std::string::npos) << line;
+        EXPECT_NE(warm.find(line), std::string::npos) << line;
+    }
     EXPECT_EQ(cold.substr(0, cold.find('#')), warm.substr(0, warm.find('#')));
     EXPECT_FALSE(disk.ReadCache("FileList").empty());
 }
@@ -83,6 +87,23 @@ TEST_F(LibraryCommands, FindTellsWhichFileWins) {
               "wins\t2\tMod\tZ\xC3\xBCrich\tSIM/High/scenery/z.bgl\n"
               "superseded\t1\tStock\tSeattle\tSIM/Low/scenery/AP915150.bgl\n");
     ExpectFailure({ "find", disk.simulator, "KSE" }, "no airport 'KSE' in the library");
+}
+
+TEST_F(LibraryCommands, FindTellsFilesOfTheSameLayerFromOneThatWins) {
+    disk.Put("High", "y.bgl", MakeSceneryFile({ { "KSEA", "Second", "", "", "" } }));
+    EXPECT_EQ(OutputOf({ "find", disk.simulator, "KSEA" }),
+              "same layer\t2\tMod\tSecond\tSIM/High/scenery/y.bgl\n"
+              "same layer\t2\tMod\tZ\xC3\xBCrich\tSIM/High/scenery/z.bgl\n"
+              "superseded\t1\tStock\tSeattle\tSIM/Low/scenery/AP915150.bgl\n");
+    disk.Put("Low", "x.bgl", MakeSceneryFile({ { "KSEA", "Third", "", "", "" } }));
+    const std::string text = OutputOf({ "find", disk.simulator, "KSEA" });
+    EXPECT_NE(text.find("superseded\t1\tMod\tThird"), std::string::npos) << text;
+}
+
+TEST_F(LibraryCommands, ATabInANameDoesNotMakeAField) {
+    disk.Put("High", "z.bgl", MakeSceneryFile({ { "TABS", "One\tTwo", "A\tB", "", "" } }));
+    EXPECT_EQ(OutputOf({ "find", disk.simulator, "TABS" }), "wins\t2\tMod\tOne Two\tSIM/High/scenery/z.bgl\n");
+    EXPECT_NE(OutputOf({ "index", disk.simulator }).find("TABS\tMod\t2\t-\tOne Two\t\t\tA B\tSIM"), std::string::npos);
 }
 
 TEST_F(LibraryCommands, FoldersThatAreNoneAreFailures) {

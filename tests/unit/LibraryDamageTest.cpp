@@ -10,6 +10,7 @@
 #include "fakes/FakePlatform.h"
 #include "fakes/FakeProgress.h"
 #include "fakes/TestLibrary.h"
+#include "platform/Files.h"
 
 namespace {
 
@@ -27,6 +28,8 @@ void Set(Bytes* bytes, size_t offset, T value) {
 // Offsets in what MakeSceneryFile gives.
 constexpr size_t kSectionCount = 20, kNameSection = 76;
 constexpr size_t kTypeOf = 0, kClassOf = 4, kCountOf = 8, kTableOf = 12;
+
+constexpr size_t kNameEntrySize = 20;  // of one airport in a name list
 
 class LibraryDamage : public testing::Test {
 protected:
@@ -140,7 +143,7 @@ TEST_F(LibraryDamage, AnyWordOfAFileMayBeHuge) {
             Bytes bytes = sound;
             Set(&bytes, at, value);
             Scan(bytes);
-            EXPECT_LE(library.airports.size(), 70000u);
+            EXPECT_LE(library.airports.size(), bytes.size() / kNameEntrySize) << at << ' ' << value;
         }
     }
 }
@@ -175,11 +178,37 @@ TEST_F(LibraryDamage, AnEndlessNameSharedByManyAirportsIsBounded) {
     Set(&bytes, list + 16, static_cast<uint16_t>(kEntries));
     Set(&bytes, list + 38, kOffset);
     Set(&bytes, list + 42, 0u);
+    for (size_t i = 0; i < kEntries; ++i) Set(&bytes, list + kOffset + 20 * i + 8, 0x0262E681u);  // the identifiers
     const size_t subsection = 56 + 2 * 20 + 16;
     Set(&bytes, subsection + 8, static_cast<uint32_t>(list));
     Set(&bytes, subsection + 12, static_cast<uint32_t>(bytes.size() - list));
     EXPECT_EQ(Scan(bytes), ScanResult::AirportsFound);
     EXPECT_LT(library.airports.size(), 100u);
+}
+
+// And so would many lists, each with its own.
+TEST_F(LibraryDamage, NamesSharedInManyListsAreBoundedForTheFile) {
+    constexpr uint32_t kLists = 64, kEntries = 6000, kNames = 60000, kList = 42 + 4 + kNames + 20 * kEntries;
+    Bytes bytes = Sound();
+    const size_t subsections = bytes.size(), lists = subsections + 16 * kLists;
+    bytes.resize(lists + size_t{ kLists } * kList);
+    Set(&bytes, kNameSection + kCountOf, kLists);
+    Set(&bytes, kNameSection + kTableOf, static_cast<uint32_t>(subsections));
+    for (uint32_t i = 0; i < kLists; ++i) {
+        const size_t at = subsections + 16 * i, list = lists + size_t{ i } * kList;
+        Set(&bytes, at + 8, static_cast<uint32_t>(list));
+        Set(&bytes, at + 12, kList);
+        Set(&bytes, list, uint16_t{ 0x27 });
+        Set(&bytes, list + 14, uint16_t{ 1 });  // one name
+        Set(&bytes, list + 16, static_cast<uint16_t>(kEntries));
+        Set(&bytes, list + 34, 42u);
+        Set(&bytes, list + 38, 46 + kNames);
+        std::memset(bytes.data() + list + 46, 'x', kNames - 1);
+        for (size_t k = 0; k < kEntries; ++k) Set(&bytes, list + 46 + kNames + 20 * k + 8, 0x0262E681u);
+    }
+    EXPECT_EQ(Scan(bytes), ScanResult::AirportsFound);
+    EXPECT_GT(library.airports.size(), 1000u);
+    EXPECT_LT(library.airports.size(), 1200u);
 }
 
 TEST_F(LibraryDamage, BadFilesAreMarkedAndPassedOver) {
@@ -230,6 +259,101 @@ TEST_F(LibraryDamage, AFileThatChangesDuringTheScanIsExaminedByTheNext) {
     EXPECT_EQ(library.airports.at(0).ident, "OLD1");
     Collect();
     EXPECT_EQ(library.airports.at(0).ident, "NEW1");
+}
+
+TEST_F(LibraryDamage, AFileThatIsCutDuringTheScanIsExaminedByTheNext) {
+    disk.Put("A", "a.bgl", Sound());
+    disk.PutAreas({ "A" });
+    fakeProgress.onPosition = [&](int percent) {
+        if (percent == 5) disk.Put("A", "a.bgl", Bytes(40, 0), 60);
+    };
+    Collect();
+    fakeProgress.onPosition = nullptr;
+    EXPECT_EQ(library.report.notScenery, 1u);
+    EXPECT_TRUE(library.airports.empty());
+    disk.Put("A", "a.bgl", Sound(), 120);
+    Collect();
+    EXPECT_EQ(library.airports.size(), 2u);
+}
+
+TEST_F(LibraryDamage, AFileThatMayNotBeReadIsPassedOverUntilItChanges) {
+    disk.Put("A", "locked.bgl", Sound());
+    disk.Put("A", "open.bgl", MakeSceneryFile({ { "OPEN", "", "", "", "" } }));
+    disk.PutAreas({ "A" });
+    const auto locked = disk.FileOf("A", "locked.bgl");
+    {
+        const std::string path = Utf8Path(locked);
+        const platform::FileHandle held = platform::HoldFile(path);  // keeps readers away on Windows
+        if (platform::OpenForReading(path)) std::filesystem::permissions(locked, std::filesystem::perms::none);
+        if (platform::OpenForReading(path)) GTEST_SKIP() << "this user may read everything";
+        Collect();
+    }
+    EXPECT_EQ(library.report.cannotOpen, 1u);
+    ASSERT_EQ(library.airports.size(), 1u);
+    EXPECT_EQ(library.airports[0].ident, "OPEN");
+    EXPECT_TRUE(fake.messages.empty());
+    std::error_code ignored;
+    std::filesystem::permissions(locked, std::filesystem::perms::owner_all, ignored);
+    disk.Put("A", "locked.bgl", Sound());  // with its old time
+    Collect();
+    EXPECT_EQ(library.report.opened, 0u);
+    EXPECT_EQ(library.airports.size(), 1u);
+    disk.Touch("A", "locked.bgl", 60);
+    Collect();
+    EXPECT_EQ(library.report.opened, 1u);
+    EXPECT_EQ(library.airports.size(), 3u);
+}
+
+TEST_F(LibraryDamage, ACacheThatIsBlockedDuringTheScanIsReportedAndTheNextCollectionIsRight) {
+    for (const char* name : { "FileList", "AirportIndex" }) {
+        const auto blocked = disk.root / "program" / name;
+        disk.Put("A", "a.bgl", MakeSceneryFile({ { "OLD1", "", "", "", "" } }), 10);
+        disk.PutAreas({ "A" });
+        Collect();
+        ASSERT_TRUE(library.report.cachesKept);
+        const std::string kept = disk.ReadCache(name);
+        disk.Put("A", "a.bgl", MakeSceneryFile({ { "NEW1", "", "", "", "" } }), 60);
+        fakeProgress.onPosition = [&](int percent) {
+            if (percent != 85) return;
+            std::filesystem::remove(blocked);
+            std::filesystem::create_directories(blocked / "folder");
+        };
+        Collect();
+        fakeProgress.onPosition = nullptr;
+        EXPECT_FALSE(library.report.cachesKept) << name;
+        ASSERT_EQ(library.airports.size(), 1u);
+        EXPECT_EQ(library.airports[0].ident, "NEW1");
+        std::filesystem::remove_all(blocked);
+        disk.PutCache(name, kept);
+        Collect();
+        ASSERT_EQ(library.airports.size(), 1u) << name;
+        EXPECT_EQ(library.airports[0].ident, "NEW1") << name;
+        EXPECT_TRUE(library.report.cachesKept);
+    }
+}
+
+// Both caches in turn cannot be written; what the other one holds must then not be taken for the library.
+TEST_F(LibraryDamage, ACacheThatCouldNotBeWrittenLeavesNoFalseIndex) {
+    for (const char* name : { "FileList", "AirportIndex" }) {
+        const auto blocked = disk.root / "program" / name;
+        disk.Put("A", "a.bgl", MakeSceneryFile({ { "OLD1", "", "", "", "" } }));
+        disk.PutAreas({ "A" });
+        Collect();
+        const std::string kept = disk.ReadCache(name);
+        std::filesystem::remove(blocked);
+        std::filesystem::create_directories(blocked / "folder");
+        disk.Put("A", "a.bgl", MakeSceneryFile({ { "NEW1", "", "", "", "" } }), 60);
+        Collect();
+        EXPECT_FALSE(library.report.cachesKept);
+        std::filesystem::remove_all(blocked);
+        disk.PutCache(name, kept);  // as a refused write leaves it
+        Collect();
+        ASSERT_EQ(library.airports.size(), 1u) << name;
+        EXPECT_EQ(library.airports[0].ident, "NEW1") << name;
+        EXPECT_TRUE(library.report.cachesKept);
+        disk.Remove("A", "a.bgl");
+        Collect();
+    }
 }
 
 class DamagedCache : public LibraryDamage, public testing::WithParamInterface<const char*> {

@@ -176,4 +176,96 @@ TEST_F(LinkSplitTest, OneUndoPutsEverythingBack) {
     EXPECT_EQ(build::List(), build::ListFromTail());
 }
 
+// Three links under one press, two of them sharing an end, in every order of the list.
+TEST_F(LinkSplitTest, TheOrderOfTheListMakesNoDifference) {
+    const build::Place ends[] = { { -100, 0 }, { 100, 3 }, { 0, -100 }, { 4, 100 } };
+    const std::pair<size_t, size_t> joined[] = { { 0, 1 }, { 2, 3 }, { 0, 3 } };
+    std::vector<size_t> order = { 0, 1, 2 };
+    std::string expected;
+    do {
+        ClearModel();
+        std::vector<SceneryObject*> nodes;
+        for (const build::Place place : ends) nodes.push_back(build::Node(place));
+        for (const size_t i : order) {
+            SceneryObject* link = build::Link(nodes[joined[i].first], nodes[joined[i].second]);
+            PayloadAs<TaxiLinkPayload>(link).width = static_cast<float>(10 + i);
+        }
+        SceneryObject* node = build::Node({ -48, 47 });  // near the third
+        SceneryObject* middle = build::Node({ 1, 4 });   // near the first two
+        BeginAction();
+        JoinNodeIntoLinks(node);
+        JoinNodeIntoLinks(middle);
+        std::vector<std::string> network;
+        for (SceneryObject* link : Links()) {
+            const auto number = [&](const SceneryObject* end) {
+                size_t at = 0;
+                for (SceneryObject* o : build::List()) {
+                    if (o == end) break;
+                    at += KindOf(o) == kTaxiNode;
+                }
+                return std::to_string(at);
+            };
+            network.push_back(number(Of(link).start) + "-" + number(Of(link).end) + ":" +
+                              std::to_string(float{ Of(link).width }));
+        }
+        std::sort(network.begin(), network.end());
+        std::string text;
+        for (const std::string& line : network) text += line + " ";
+        for (const SceneryObject* end : { node, middle }) {
+            text += std::to_string(EncodedPositionOf(end).latCode) + "," +
+                    std::to_string(EncodedPositionOf(end).lonCode) + " ";
+        }
+        if (expected.empty()) expected = text;
+        EXPECT_EQ(text, expected);
+    } while (std::next_permutation(order.begin(), order.end()));
+}
+
+// The flags of the nodes at the ends are the same however the list is ordered.
+TEST_F(LinkSplitTest, HoldShortFlagsDoNotDependOnTheOrderOfTheList) {
+    const build::Place ends[] = { { 100, 0 }, { 300, 0 }, { 200, -120 }, { 203, 130 }, { 60, 200 } };
+    const std::pair<size_t, size_t> joined[] = { { 0, 1 }, { 2, 3 }, { 0, 4 }, { 3, 4 } };
+    std::vector<size_t> order = { 0, 1, 2, 3 };
+    std::vector<int> expected;
+    do {
+        ClearModel();
+        build::Runway(36);
+        std::vector<SceneryObject*> nodes;
+        for (const build::Place place : ends) {
+            nodes.push_back(build::Node(place, kHoldShortNode));
+            PayloadAs<TaxiNodeRecord>(nodes.back()).reversed = 1;
+        }
+        for (const size_t i : order) build::Link(nodes[joined[i].first], nodes[joined[i].second]);
+        SceneryObject* middle = build::Node({ 201, 2 }, kHoldShortNode);
+        BeginAction();
+        JoinNodeIntoLinks(middle);
+        nodes.push_back(middle);
+        std::vector<int> flags;
+        for (const SceneryObject* node : nodes) flags.push_back(PayloadAs<TaxiNodeRecord>(node).reversed);
+        if (expected.empty()) expected = flags;
+        EXPECT_EQ(flags, expected);
+    } while (std::next_permutation(order.begin(), order.end()));
+    EXPECT_NE(std::count(expected.begin(), expected.end(), 0), 0);
+}
+
+TEST_F(LinkSplitTest, WhereHalvesWouldJoinTheSameTwoObjectsThatOfTheNearestLinkStays) {
+    SceneryObject* a = build::Node({ 0, -100 });
+    SceneryObject* b = build::Node({ 1, 100 });
+    SceneryObject* c = build::Node({ -6, 100 });
+    for (const bool nearestFirst : { true, false }) {
+        BeginAction();
+        for (SceneryObject* link : Links()) DeleteObject(link);
+        if (nearestFirst) build::Link(a, b, kClosedLink);
+        build::Link(a, c, kTaxiwayLink);
+        if (!nearestFirst) build::Link(a, b, kClosedLink);
+        SceneryObject* node = build::Node({ 1, 0 });
+        BeginAction();
+        JoinNodeIntoLinks(node);
+        ASSERT_NE(Between(node, a), nullptr);
+        EXPECT_EQ(LinkTypeOf(Of(Between(node, a))), kClosedLink);
+        EXPECT_NE(Between(node, b), nullptr);
+        EXPECT_NE(Between(node, c), nullptr);
+        EXPECT_EQ(Links().size(), 3u);
+    }
+}
+
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "fakes/BuildObjects.h"
 #include "fakes/FakePlatform.h"
+#include "model/EditHistory.h"
 
 namespace {
 
@@ -196,6 +197,34 @@ TEST_F(LinksTest, UpdatingThenResolvingGivesTheSamePointers) {
         EXPECT_EQ(End(links[i]), nodes[299 - i / 2]);
         EXPECT_EQ(Name(links[i]), names[i % 200]);
     }
+}
+
+TEST_F(LinksTest, ALinkWithoutADesignatorHoldsZero) {
+    SceneryObject *a = build::Node(), *b = build::Node();
+    build::Designator("A");
+    SceneryObject* blank = build::Designator("");
+    build::Designator("");
+    SceneryObject *nameless = build::Link(a, b), *onRunway = build::Link(b, a, kRunwayLink);
+    SceneryObject* named = build::Link(b, a, kTaxiwayLink, blank);
+    for (SceneryObject* link : { nameless, onRunway }) Payload(link).flagsWord |= 0x0700;
+    UpdateLinkIndices();
+    EXPECT_EQ(LinkIndexByte(Payload(nameless)), 0u);
+    EXPECT_EQ(LinkIndexByte(Payload(onRunway)), 0u);
+    EXPECT_EQ(LinkIndexByte(Payload(named)), 1u);
+    EXPECT_EQ(BlankDesignator(), blank) << "the first of two";
+    EXPECT_EQ(Name(nameless), nullptr) << "writing changes no pointer";
+}
+
+TEST_F(LinksTest, ABlankDesignatorForAnEditIsMadeOnceAndUndone) {
+    build::Designator("A");
+    BeginAction();
+    SceneryObject* made = BlankDesignatorForEdit();
+    EXPECT_EQ(state.tail, made);
+    EXPECT_EQ(BlankDesignatorForEdit(), made);
+    EXPECT_EQ(BlankDesignator(), made);
+    Undo();
+    EXPECT_EQ(BlankDesignator(), nullptr);
+    EXPECT_EQ(state.undoHead, nullptr);
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "dialogs/Subject.h"
 #include "fakes/DialogFixture.h"
 #include "map/MapView.h"
+#include "model/Links.h"
 
 namespace {
 
@@ -140,10 +141,12 @@ TEST_F(ListRowsTest, AReplacedStockNavaidGivesItsRowToTheReplacement) {
     NdbFields entered = shown;
     entered.name = "New";
     EXPECT_TRUE(StoreNdbFields(shown, entered, stock, &bad));
-    EXPECT_EQ(ObjectOfRow(stock), stock->related);
-    ASSERT_EQ(ListRows(ListKind::Navaids).size(), 1u);
-    EXPECT_EQ(ListRows(ListKind::Navaids)[0].object, stock->related);
-    EXPECT_TRUE(DeleteEntry(ObjectOfRow(stock)));
+    const std::vector<ListRow> rows = ListRows(ListKind::Navaids);
+    ASSERT_EQ(rows.size(), 1u);
+    EXPECT_EQ(rows[0].object, stock->related);
+    EXPECT_EQ(RowShowing(rows, stock), 0);
+    EXPECT_EQ(RowShowing(rows, rows[0].object), 0);
+    EXPECT_TRUE(DeleteEntry(rows[0].object));
     EXPECT_EQ(ListRows(ListKind::Navaids)[0].object, stock);
 }
 
@@ -180,7 +183,8 @@ TEST_F(ListRowsTest, DeletingADesignatorInUseSaysHowManyLinksLoseIt) {
     EXPECT_EQ(LastMessage(),
               "2 taxi links use the designator \"A\".\n\nIf you delete it these links will have no designator.\n\n"
               "Do you want to proceed?");
-    EXPECT_EQ(+As<model::TaxiLinkPayload>(link).designator, nullptr);
+    EXPECT_NE(model::BlankDesignator(), nullptr);
+    EXPECT_EQ(+As<model::TaxiLinkPayload>(link).designator, model::BlankDesignator());
     EXPECT_EQ(Actions(), 1);
     const size_t messages = fake.messages.size();
     EXPECT_TRUE(DeleteEntry(build::Designator("B")));
@@ -203,9 +207,42 @@ TEST_F(ListRowsTest, ASelectedRowSelectsItsObjectAndShowsItWhenItIsOutside) {
     EXPECT_TRUE(model::IsSelected(far));
     EXPECT_FALSE(model::IsSelected(near));
     EXPECT_EQ(map::view.centre.lon, model::PositionOf(far).lon);
-    ShowEntry(build::Designator("A"));
+    SceneryObject* designator = build::Designator("A");
+    ShowEntry(designator);
     EXPECT_EQ(map::view.centre.lon, model::PositionOf(far).lon);
+    EXPECT_FALSE(model::IsSelected(far));
+    EXPECT_FALSE(model::IsSelected(designator)) << "the Delete key would take what nobody sees";
     map::view = {};
+}
+
+TEST_F(ListRowsTest, ARowIsFoundByItsObject) {
+    SceneryObject *first = build::Runway(16), *second = build::Runway(7);
+    const std::vector<ListRow> rows = ListRows(ListKind::Runways);
+    EXPECT_EQ(RowShowing(rows, first), 0);
+    EXPECT_EQ(RowShowing(rows, second), 1);
+    EXPECT_EQ(RowShowing(rows, build::Vor()), -1);
+    EXPECT_EQ(RowShowing(rows, nullptr), -1);
+    EXPECT_EQ(RowShowing({}, first), -1);
+}
+
+TEST_F(ListRowsTest, ARowHasACellForEachColumn) {
+    using Cells = std::vector<std::string>;
+    EXPECT_EQ(CellsOf("16L\tLOC\tISNQ"), (Cells{ "16L", "LOC", "ISNQ" }));
+    EXPECT_EQ(CellsOf("\tNDB\t\t"), (Cells{ "", "NDB", "", "" }));
+    EXPECT_EQ(CellsOf(""), (Cells{ "" }));
+}
+
+TEST_F(ListRowsTest, TypingFindsTheNextRowWithACellThatBeginsSo) {
+    const std::vector<ListRow> rows = { { "16L\tLOC\tISNQ", nullptr },
+                                        { "\tNDB\tBF", nullptr },
+                                        { "34R\tLOC\tIBEJ", nullptr } };
+    EXPECT_EQ(RowBeginningWith(rows, 0, "loc"), 0);
+    EXPECT_EQ(RowBeginningWith(rows, 1, "loc"), 2);
+    EXPECT_EQ(RowBeginningWith(rows, 3, "loc"), 0) << "around the end";
+    EXPECT_EQ(RowBeginningWith(rows, 0, "ib"), 2);
+    EXPECT_EQ(RowBeginningWith(rows, -1, "B"), 1);
+    EXPECT_EQ(RowBeginningWith(rows, 0, "SNQ"), -1) << "not in the middle";
+    EXPECT_EQ(RowBeginningWith({}, 0, "x"), -1);
 }
 
 class ParkingOrderTest : public DialogFixture {
@@ -286,6 +323,16 @@ TEST_F(ParkingOrderTest, RandomizeShufflesWithinTheTypeRanks) {
     rows.clear();
     RandomizeParking([] { return 0u; }, &rows);
     EXPECT_TRUE(rows.empty());
+}
+
+TEST_F(ParkingOrderTest, AnOrderStaysWhenSpotsComeAndGo) {
+    SceneryObject *a = Spot(10, 1, 8), *b = Spot(10, 2, 8), *c = Spot(10, 3, 8), *d = Spot(10, 4, 8);
+    const std::vector<ListRow> before = { { "", c }, { "", a }, { "", b } };
+    std::vector<ListRow> rows = { { "", a }, { "", c }, { "", d } };
+    OrderLike(before, &rows);
+    EXPECT_EQ(Objects(rows), (Order{ c, a, d })) << "a new spot comes last";
+    OrderLike({}, &rows);
+    EXPECT_EQ(Objects(rows), (Order{ c, a, d }));
 }
 
 }  // namespace

@@ -18,6 +18,18 @@ constexpr double kStep = 5 * 0.002777777777777778 * kTwoPi;
 
 class MapViewTest : public MapFixture {};
 
+void ExpectSame(LatLon a, LatLon b) {
+    EXPECT_EQ(a.lat, b.lat);
+    EXPECT_EQ(a.lon, b.lon);
+}
+
+// That the simulator's aircraft was placed once, and how.
+void ExpectPlaced(LatLon position, double heading) {
+    ASSERT_EQ(fake.placedAircraft.size(), 1u);
+    ExpectSame(fake.placedAircraft[0].position, position);
+    EXPECT_EQ(fake.placedAircraft[0].heading, heading);
+}
+
 void ExpectNear(LatLon a, LatLon b, double metres) { EXPECT_LT(model::DistanceBetween(a, b), metres); }
 
 TEST_F(MapViewTest, TheInitialSpanIsTwoNauticalMilesAcrossTheHeight) {
@@ -178,12 +190,16 @@ TEST_F(MapViewTest, ADragThatStaysWhereItIsMovesNothing) {
 }
 
 TEST_F(MapViewTest, HomeTurnsTheMapNorthUpAtTheReferencePoint) {
+    view.home = build::At({ 300, 400 });
     PanStep(PanDirection::Right);
     Rotate(RotateDirection::Add, false);
+    simAircraft.heading = 1;
     SlewHome();
     EXPECT_EQ(view.rotation, 0);
-    ExpectNear(view.centre, build::kMiddle, 1e-6);
-    EXPECT_EQ(fake.placedAircraft, 1);
+    ExpectSame(view.centre, view.home);
+    ExpectPlaced(view.home, 0);
+    ExpectSame(simAircraft.position, view.home);
+    EXPECT_EQ(simAircraft.heading, 0);
 }
 
 TEST_F(MapViewTest, ALockedMapZoomsButNeitherPansNorTurns) {
@@ -201,24 +217,45 @@ TEST_F(MapViewTest, ALockedMapZoomsButNeitherPansNorTurns) {
     EXPECT_EQ(view.rotation, 1);
     EXPECT_EQ(view.centre.lat, centre.lat);
     EXPECT_EQ(view.centre.lon, centre.lon);
-    EXPECT_EQ(fake.placedAircraft, 1);  // the aircraft moves all the same
+    ExpectPlaced(view.home, 0);  // the aircraft moves all the same
     OnWheel(120, false, false);
     EXPECT_DOUBLE_EQ(view.span, span * 0.9);
 }
 
 TEST_F(MapViewTest, JumpHereMovesTheAircraftAndNotTheView) {
-    JumpHere({ 10, 10 });
-    EXPECT_EQ(fake.placedAircraft, 1);
-    ExpectNear(view.centre, build::kMiddle, 1e-6);
+    view.rotation = 1;
+    const LatLon place = ScreenToWorld({ 10, 20 });
+    ASSERT_GT(model::DistanceBetween(place, view.centre), 100);
+    JumpHere({ 10, 20 });
+    ExpectPlaced(place, 1);  // it looks up the map
+    ExpectSame(view.centre, build::kMiddle);
+    EXPECT_EQ(view.rotation, 1);
 }
 
 TEST_F(MapViewTest, LoadingAnAirportResetsTheView) {
     view.rotation = 2;
     view.span = 1;
-    ResetView(build::At({ 1000, 0 }));
+    view.lockedToSim = true;
+    const LatLon home = build::At({ 1000, 0 });
+    ResetView(home);
     EXPECT_EQ(view.rotation, 0);
     EXPECT_EQ(view.span, kInitialSpan);
-    ExpectNear(view.centre, view.home, 1e-9);
+    EXPECT_EQ(view.pixelsPerMetre, view.clientHeight / kInitialSpan);
+    ExpectSame(view.centre, home);
+    ExpectSame(view.home, home);
+    EXPECT_EQ(fake.rotationChanges, 1);
+    EXPECT_GE(fake.repaints, 1);
+}
+
+TEST_F(MapViewTest, TheBarsLeaveTheTransformAsItIs) {
+    const Point before = WorldToScreen(build::At({ 100, 50 }));
+    EXPECT_EQ(view.visible.right, view.clientWidth);
+    EXPECT_EQ(view.visible.bottom, view.clientHeight);
+    SetVisible({ 0, 60, kWidth, kHeight - 20 });
+    const Point after = WorldToScreen(build::At({ 100, 50 }));
+    EXPECT_EQ(before.x, after.x);
+    EXPECT_EQ(before.y, after.y);
+    EXPECT_EQ(view.screenCentreY, kHeight / 2);
 }
 
 }  // namespace

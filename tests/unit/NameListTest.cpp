@@ -176,6 +176,18 @@ TEST_F(NamesOfAnAirport, IdentIsThatOfTheAirportRecord) {
     EXPECT_EQ(NameListEntry(view, 0).ident, 0x0262E680u | 5);
 }
 
+TEST_F(NamesOfAnAirport, SectionIsKnownByItsClassWhateverItsType) {
+    ByteList file = BuildFile();
+    const auto typeAt = [&](size_t section) { return &file[56 + 20 * section]; };
+    ASSERT_EQ(*typeAt(1), 0x27);
+    *typeAt(1) = 0x2A;
+    ASSERT_TRUE(OpenAirportBytes(file, "KSEA"));
+    EXPECT_EQ(model::state.state, "Tirol");
+    typeAt(1)[4] = 4;  // the class
+    ASSERT_TRUE(OpenAirportBytes(file, "KSEA"));
+    EXPECT_EQ(model::state.state, "");
+}
+
 TEST_F(NamesOfAnAirport, EntryOfAnotherIdentGivesNoNames) {
     ByteList file = BuildFile();
     const std::vector<FoundSection> sections = SectionsOf(file);

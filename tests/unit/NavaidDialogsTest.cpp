@@ -241,6 +241,20 @@ TEST_F(VorDialog, OkWithoutAChangeRecordsNothing) {
     EXPECT_EQ(Actions(), 0);
 }
 
+TEST_F(VorDialog, ChoosingADmeProposesTheRangeOfTheVor) {
+    VorFields fields = LoadVorFields(vor);
+    ASSERT_EQ(fields.dmeRange, "0.0");
+    ChooseVorParts(1, &fields);
+    EXPECT_EQ(fields.parts, 1);
+    EXPECT_EQ(fields.dmeRange, "130.0");
+    fields.dmeRange = "25";
+    ChooseVorParts(0, &fields);
+    ChooseVorParts(2, &fields);
+    EXPECT_EQ(fields.dmeRange, "25") << "what the user typed stays";
+    EXPECT_TRUE(HasVorPart(0) && HasVorPart(1) && !HasVorPart(2));
+    EXPECT_TRUE(!HasDmePart(0) && HasDmePart(1) && HasDmePart(2));
+}
+
 TEST_F(VorDialog, ADmeThatIsAddedStandsWithTheVorAndReachesAsFar) {
     EXPECT_TRUE(Edit([](VorFields& entered) { entered.parts = 1; }));
     EXPECT_EQ(Vor().body.flags, 0x31);

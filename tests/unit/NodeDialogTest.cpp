@@ -133,4 +133,30 @@ TEST_F(NodeDialog, CarriedBytesStay) {
     EXPECT_EQ(+Node(node).carried, 0xBEEF);
 }
 
+TEST_F(NodeDialog, ANodeThatBecomesHoldShortTurnsItsMarkingUnlessTheUserChoseIt) {
+    build::Runway(36);
+    SceneryObject* onRunway = build::Node();
+    std::vector<SceneryObject*> nodes;
+    for (const double east : { 80.0, 90.0, 100.0 }) {
+        nodes.push_back(build::Node({ east, 0 }));
+        Node(nodes.back()).reversed = 1;  // wrong: the way to the runway is straight
+        build::Link(nodes.back(), onRunway);
+        nodes.back()->flags |= model::kSelected;
+    }
+    NodeFields fields = LoadNodeFields(nodes[0]);
+    fields.type = kHoldShortIndex;
+    EXPECT_TRUE(Store(nodes[0], fields));
+    for (SceneryObject* node : nodes) EXPECT_EQ(Node(node).reversed, 0);
+    model::Undo();
+    for (SceneryObject* node : nodes) EXPECT_EQ(Node(node).reversed, 1);
+    EXPECT_FALSE(model::CanUndo());
+    for (SceneryObject* node : nodes) Node(node).reversed = 0;
+    fields = LoadNodeFields(nodes[0]);
+    fields.type = kHoldShortIndex;
+    fields.reversed = true;
+    EXPECT_TRUE(Store(nodes[0], fields));
+    EXPECT_EQ(Node(nodes[0]).reversed, 1);
+    EXPECT_EQ(Node(nodes[1]).reversed, 0);
+}
+
 }  // namespace

@@ -6,6 +6,7 @@
 #include "bgl/AirportIndex.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/FakeProgress.h"
+#include "fakes/FakeShell.h"
 #include "fakes/TestLibrary.h"
 
 namespace {
@@ -20,7 +21,7 @@ protected:
     ~OpenAirportRules() override { Reset(); }
 
     static void Reset() {
-        ResetFakes();
+        ResetProgram();
         fakeProgress = {};
         library = {};
         app::airportSource = {};
@@ -199,6 +200,45 @@ TEST_F(OpenAirportRules, AnItemGivesAtMost200Airports) {
     EXPECT_EQ(app::RowsOfPlace(1).size(), 200u);
 }
 
+TEST_F(OpenAirportRules, AnItemWithoutAirportsKeepsTheList) {
+    AddFile("a.bgl", 1);
+    bgl::AddAirport("Monaco", "", "Fontvieille", "Heliport", "LNMC", 0);
+    Build();
+    std::vector<AirportRow> rows;
+    EXPECT_TRUE(app::ListPlace(2, true, "TYPED", &rows));
+    EXPECT_EQ(Texts(rows), List{ "LNMC Heliport" });
+    EXPECT_FALSE(app::ListPlace(1, true, "", &rows)) << "the country only holds the city";
+    EXPECT_EQ(rows.size(), 1u);
+}
+
+TEST_F(OpenAirportRules, AnItemThatTheTreeSelectsByItselfDoesNotPutOutWhatIsTyped) {
+    AddFile("a.bgl", 1);
+    Add("KSEA", "Seattle");
+    Add("KBFI", "Boeing", 0, "");
+    Build();
+    std::vector<AirportRow> rows = app::SearchRows("KSEA");
+    EXPECT_FALSE(app::ListPlace(2, false, "KSEA", &rows));
+    EXPECT_EQ(Texts(rows), List{ "KSEA Seattle" });
+    EXPECT_TRUE(app::ListPlace(2, false, "", &rows));
+    EXPECT_EQ(Texts(rows), List{ "KBFI Boeing" });
+}
+
+TEST_F(OpenAirportRules, TheSingleBranchOfASingleFileIsOpened) {
+    EXPECT_EQ(app::LevelsToOpen(), 0u) << "no tree yet";
+    AddFile("a.bgl", 1);
+    bgl::AddAirport("Monaco", "Monte Carlo", "Fontvieille", "Heliport", "LNMC", 0);
+    Build();
+    EXPECT_EQ(app::LevelsToOpen(), 0u) << "not of the library";
+    app::airportSource.fromFile = true;
+    EXPECT_EQ(app::LevelsToOpen(), 3u);
+    bgl::AddAirport("Monaco", "Monte Carlo", "Moneghetti", "Other", "LNXX", 0);
+    Build();
+    EXPECT_EQ(app::LevelsToOpen(), 2u);
+    Add("KSEA", "Seattle", 0, "Country");
+    Build();
+    EXPECT_EQ(app::LevelsToOpen(), 0u);
+}
+
 TEST_F(OpenAirportRules, TextsAreUtf8) {
     AddFile("a.bgl", 1);
     Add("LSZH", "Z\xFCrich", 0, "\xD6sterreich");
@@ -260,6 +300,18 @@ TEST_F(OpenAirportRules, TheSourceDecidesWhatIsCollected) {
     app::airportSource.specificFile += "x";
     EXPECT_FALSE(app::CollectAirports(disk.simulator, disk.program));
     EXPECT_EQ(fake.messages.size(), 1u);
+}
+
+TEST_F(OpenAirportRules, CachesThatCannotBeKeptAreTold) {
+    const TestLibrary disk;
+    disk.Put("A", "a.bgl", MakeSceneryFile({ { "AAAA", "", "", "", "" } }));
+    disk.PutAreas({ "A" });
+    app::CollectAirports(disk.simulator, disk.program);
+    EXPECT_EQ(fakeShell.notice, "");
+    app::CollectAirports(disk.simulator, disk.program + "\\missing\\folder");
+    EXPECT_NE(fakeShell.notice.find("the list of airports"), std::string::npos) << fakeShell.notice;
+    EXPECT_EQ(library.airports.size(), 1u);
+    EXPECT_TRUE(fake.messages.empty());
 }
 
 }  // namespace

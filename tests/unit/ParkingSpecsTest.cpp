@@ -135,4 +135,34 @@ TEST_F(ParkingSpecs, NamesAreWindows1252UnlessTheFileIsMarkedAsUtf8) {
     EXPECT_EQ(app::parkingSpecs.at(0).name, "Air \xC3\x89t\xC3\xA9");
 }
 
+TEST_F(ParkingSpecs, AFileInUtf16IsReadInEitherByteOrder) {
+    const std::string_view text = "A\xC9,,,,ABC\nB,1,2,3";  // each character's number is its byte's
+    std::string low = "\xFF\xFE", high = "\xFE\xFF";
+    for (const char c : text) {
+        low += { c, '\0' };
+        high += { '\0', c };
+    }
+    for (const std::string& file : { low, high }) {
+        Load(file);
+        ASSERT_EQ(app::parkingSpecs.size(), 2u);
+        EXPECT_EQ(app::parkingSpecs[0].name, "A\xC3\x89");
+        EXPECT_EQ(app::parkingSpecs[0].codes, Codes{ "ABC" });
+        EXPECT_EQ(app::parkingSpecs[1].blue, 3);
+    }
+    EXPECT_TRUE(fake.messages.empty());
+}
+
+TEST_F(ParkingSpecs, CodesAndLinesAreMeasuredInCharacters) {
+    Load("A,,,,\xC9\xC9\xC9\xC9");
+    ASSERT_EQ(app::parkingSpecs.size(), 1u);
+    EXPECT_EQ(app::parkingSpecs[0].codes, Codes{ "\xC3\x89\xC3\x89\xC3\x89\xC3\x89" });
+    EXPECT_TRUE(fake.messages.empty());
+    Load(std::string(994, '\xC9') + ",,,,AB\n" + std::string(994, 'x') + ",,,,ABC\nB");
+    ASSERT_EQ(app::parkingSpecs.size(), 3u);
+    EXPECT_EQ(app::parkingSpecs[0].codes, Codes{ "AB" }) << "a line of 1000 characters is whole";
+    EXPECT_EQ(app::parkingSpecs[1].codes, Codes{ "AB" }) << "of 1001 the last one counts no more";
+    EXPECT_EQ(app::parkingSpecs[2].name, "B");
+    EXPECT_TRUE(fake.messages.empty());
+}
+
 }  // namespace

@@ -1,5 +1,7 @@
 #include "model/PlaceTexts.h"
 
+#include <type_traits>
+
 #include "fakes/DialogFixture.h"
 
 namespace {
@@ -82,9 +84,13 @@ TEST_F(PlaceTextsTest, ANameWithoutPaddingComesBackByteForByte) {
 }
 
 TEST_F(PlaceTextsTest, TheHeaderAndPayloadOfAnEntryHoldNoTexts) {
+    const std::vector<uint8_t> record = Bytes(airport);
     Rename("Tacoma");
-    EXPECT_EQ(state.undoHead->payloadSize, sizeof(AirportRecord));
-    EXPECT_EQ(airport->payloadSize, sizeof(AirportRecord));
+    EXPECT_EQ(Bytes(state.undoHead), record);
+    EXPECT_EQ(Bytes(airport), record);
+    EXPECT_EQ(record.size(), 46u);
+    EXPECT_EQ(sizeof(SceneryObject), 6 * sizeof(void*) + 40) << "six pointers, eleven words, and their padding";
+    static_assert(std::is_trivially_copyable_v<SceneryObject>);
 }
 
 TEST_F(PlaceTextsTest, TextsGoWithTheEntriesThatTheHistoryDrops) {

@@ -3,10 +3,19 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <random>
+
 #include "app/Settings.h"
+#include "bgl/AirportWriter.h"
+#include "fakes/BuildObjects.h"
+#include "fakes/FakePlatform.h"
+#include "fakes/FakeShell.h"
+#include "model/ObjectList.h"
 
 namespace {
 
+namespace fs = std::filesystem;
 using app::settings;
 using List = std::vector<std::string>;
 
@@ -61,6 +70,89 @@ TEST_F(RecentAirports, MenuTextsAreNumberedFromOne) {
     EXPECT_EQ(app::RecentAirportCount(), 10u);
     EXPECT_EQ(app::RecentMenuText(0), "&1  K009");
     EXPECT_EQ(app::RecentMenuText(9), "&10  K000");
+}
+
+TEST_F(RecentAirports, AnEntryWrittenByHandShowsNoMoreThanAnIdentifier) {
+    settings.previousFiles = { "KSEATAC,C:\\a.bgl" };
+    EXPECT_EQ(app::RecentMenuText(0), "&1  KSEA");
+}
+
+class OpenRemembered : public testing::Test {
+protected:
+    void SetUp() override {
+        ResetProgram();
+        folder = fs::temp_directory_path() / ("tarvo-recent-" + std::to_string(std::random_device{}()));
+        fs::create_directories(folder);
+        for (const char* ident : { "KAAA", "KBBB" }) {
+            model::state.airport = build::Airport(ident);
+            EXPECT_EQ(bgl::WriteAirportFile(PathOf(ident)), 1);
+            model::ClearModel();
+        }
+    }
+    void TearDown() override {
+        ResetProgram();
+        std::error_code ignored;
+        fs::remove_all(folder, ignored);
+    }
+    std::string PathOf(const std::string& ident) const { return (folder / (ident + ".bgl")).string(); }
+
+    fs::path folder;
+};
+
+TEST_F(OpenRemembered, AnOpenedAirportIsOnTopUnderTheIdentifierOfItsFile) {
+    EXPECT_TRUE(app::OpenAndRemember(PathOf("KAAA"), "kaaa"));
+    EXPECT_TRUE(app::OpenAndRemember(PathOf("KBBB"), ""));
+    EXPECT_EQ(settings.previousFiles, (List{ "KBBB," + PathOf("KBBB"), "KAAA," + PathOf("KAAA") }));
+    EXPECT_EQ(fakeShell.recentRefreshes, 2);
+    EXPECT_EQ(model::state.icao, "KBBB");
+}
+
+TEST_F(OpenRemembered, AnAirportThatCannotBeOpenedIsNotRemembered) {
+    EXPECT_FALSE(app::OpenAndRemember(PathOf("KAAA"), "KBBB"));
+    EXPECT_FALSE(app::OpenAndRemember(PathOf("none"), ""));
+    EXPECT_TRUE(settings.previousFiles.empty());
+    EXPECT_EQ(fakeShell.recentRefreshes, 0);
+}
+
+TEST_F(OpenRemembered, AnEntryOpensItsAirportAndComesToTheTop) {
+    settings.previousFiles = { "KAAA," + PathOf("KAAA"), "KBBB," + PathOf("KBBB") };
+    EXPECT_TRUE(app::OpenRecentAirport(1));
+    EXPECT_EQ(model::state.icao, "KBBB");
+    EXPECT_EQ(settings.previousFiles, (List{ "KBBB," + PathOf("KBBB"), "KAAA," + PathOf("KAAA") }));
+    EXPECT_FALSE(app::OpenRecentAirport(2));
+}
+
+TEST_F(OpenRemembered, AnEntryWhoseFileHasGoneIsNamedAndTheOpenAirportStays) {
+    ASSERT_TRUE(app::OpenAndRemember(PathOf("KAAA"), ""));
+    ASSERT_TRUE(app::OpenAndRemember(PathOf("KBBB"), ""));
+    fs::remove(PathOf("KAAA"));
+    EXPECT_FALSE(app::OpenRecentAirport(1));
+    ASSERT_EQ(fake.messages.size(), 1u);
+    EXPECT_EQ(fake.messages[0].text, "Unable to open file \"" + PathOf("KAAA") + "\"");
+    EXPECT_EQ(model::state.icao, "KBBB");
+    EXPECT_TRUE(model::state.loaded);
+    EXPECT_EQ(settings.previousFiles.size(), 2u);
+}
+
+TEST_F(OpenRemembered, AnEntryWhoseFileHoldsAnotherAirportByNowLeavesNoneOpen) {
+    ASSERT_TRUE(app::OpenAndRemember(PathOf("KAAA"), ""));
+    ASSERT_TRUE(app::OpenAndRemember(PathOf("KBBB"), ""));
+    fs::remove(PathOf("KAAA"));
+    fs::copy_file(PathOf("KBBB"), PathOf("KAAA"));
+    EXPECT_FALSE(app::OpenRecentAirport(1));
+    ASSERT_EQ(fake.messages.size(), 1u);
+    EXPECT_EQ(fake.messages[0].text, "Selected file  " + PathOf("KAAA") + "  does not contain airport KAAA");
+    EXPECT_FALSE(model::state.loaded);
+    EXPECT_EQ(settings.previousFiles.size(), 2u);
+}
+
+TEST_F(OpenRemembered, AnEntryWhoseFileIsNoSceneryByNowLeavesNoneOpen) {
+    ASSERT_TRUE(app::OpenAndRemember(PathOf("KAAA"), ""));
+    ASSERT_TRUE(app::OpenAndRemember(PathOf("KBBB"), ""));
+    fs::resize_file(PathOf("KAAA"), 10);
+    EXPECT_FALSE(app::OpenRecentAirport(1));
+    ASSERT_EQ(fake.messages.size(), 1u);
+    EXPECT_FALSE(model::state.loaded);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <cstring>
 #include <vector>
 
@@ -50,6 +51,23 @@ TEST(Records, PayloadSizesAreThoseOfCreation) {
     EXPECT_EQ(sizeof(MarkerBeaconPayload), 38u);
     EXPECT_EQ(sizeof(NdbPayload), 99u);
     EXPECT_EQ(sizeof(VorDmePayload), 117u);
+    EXPECT_EQ(sizeof(TaxiLinkPayload), 20 + 3 * sizeof(void*));
+    EXPECT_EQ(sizeof(GuidelinePayload), 2 * sizeof(void*));
+    EXPECT_EQ(sizeof(TaxiLinkPayload) - 3 * sizeof(void*), size_t{ kTaxiLinkFileSize });
+}
+
+TEST(Records, PartsHaveTheSizesOfTheirRecordsWithoutTheHead) {
+    EXPECT_EQ(sizeof(EncodedPoint), 8u);
+    EXPECT_EQ(sizeof(RunwayRecord), 46u);
+    EXPECT_EQ(sizeof(RunwayAreaPart), 10u);
+    EXPECT_EQ(sizeof(VasiPart), 18u);
+    EXPECT_EQ(sizeof(ApronTriangle), 6u);
+    EXPECT_EQ(sizeof(VorRecord), 34u);
+    EXPECT_EQ(sizeof(LocalizerPart), 10u);
+    EXPECT_EQ(sizeof(GlideSlopePart), 22u);
+    EXPECT_EQ(sizeof(DmePart), 18u);
+    EXPECT_EQ(sizeof(RunwayPayload), 46u + 6 * 10 + 2 * 2 + 4 * 18 + 1);
+    EXPECT_EQ(sizeof(IlsPayload) - offsetof(IlsPayload, name), 154u);
 }
 
 TEST(Records, AirportFieldsLieWhereTheFileHasThem) {

@@ -58,12 +58,17 @@ TEST_F(RoundTrip, AirportsAtAndJustBelowEveryLimitWriteReadAndWriteTheSameBytes)
     const struct {
         uint32_t AirportCounts::*count;
         uint32_t most;
-    } limits[] = { { &AirportCounts::runways, 255 },        { &AirportCounts::comms, 255 },
-                   { &AirportCounts::starts, 255 },         { &AirportCounts::helipads, 255 },
-                   { &AirportCounts::aprons, 255 },         { &AirportCounts::nodes, 4096 },
-                   { &AirportCounts::spots, 4096 },         { &AirportCounts::links, 65535 },
-                   { &AirportCounts::designators, 256 },    { &AirportCounts::strips, 32767 },
-                   { &AirportCounts::apronVertices, 65535 } };
+    } limits[] = { { &AirportCounts::runways, 255 },
+                   { &AirportCounts::comms, 255 },
+                   { &AirportCounts::starts, 255 },
+                   { &AirportCounts::helipads, 255 },
+                   { &AirportCounts::aprons, 255 },
+                   { &AirportCounts::nodes, 4096 },
+                   { &AirportCounts::spots, 4096 },
+                   { &AirportCounts::links, 65535 },
+                   { &AirportCounts::designators, 256 },
+                   { &AirportCounts::strips, 32767 },
+                   { &AirportCounts::exactApronVertices, 65535 } };
     for (const auto& limit : limits) {
         for (uint32_t below : { 0u, 1u }) {
             Random random{ limit.most };

@@ -358,6 +358,18 @@ TEST_F(RunwayDialog, AVasiKeepsItsDistanceWhenTheLengthChanges) {
     EXPECT_FLOAT_EQ(+Parts().primaryLeftVasi.biasZ, 1100);
 }
 
+TEST_F(RunwayDialog, AnEndIsNamedAfterItsBoxesAndKeepsACodeThatTheyCannotShow) {
+    RunwayEndFields end = LoadRunwayFields(runway).ends[kBaseEnd];
+    EXPECT_EQ(NameOfEnd(end, runway, kBaseEnd), "16L");
+    end.number = 44;
+    end.suffix = 0;
+    EXPECT_EQ(NameOfEnd(end, runway, kBaseEnd), "NE");
+    Body().secondaryNumber = 77;
+    end = LoadRunwayFields(runway).ends[kReciprocalEnd];
+    ASSERT_EQ(end.number, -1);
+    EXPECT_EQ(NameOfEnd(end, runway, kReciprocalEnd), EndName(runway, kReciprocalEnd));
+}
+
 TEST_F(RunwayDialog, ANewRunwayIsAVisualOneOfAsphaltAndMustBePlacedAndMeasured) {
     As<model::AirportRecord>(airport).altitude = 5000;
     SceneryObject* made = InsertRunway();

@@ -7,6 +7,8 @@
 #include <random>
 
 #include "app/AppState.h"
+#include "app/Settings.h"
+#include "bgl/AirportIndex.h"
 #include "fakes/BuildObjects.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/FakeShell.h"
@@ -104,6 +106,21 @@ TEST_F(SaveAirportTest, TheChosenPathIsWrittenAndServesLaterSaves) {
     EXPECT_TRUE(app::SaveAirport());
     EXPECT_EQ(fakeShell.saveQuestions.size(), 1u) << "a second dialog";
     EXPECT_GT(Content("new.bgl").size(), first.size());
+}
+
+TEST_F(SaveAirportTest, TheIndexAndTheSettingsHearWhereTheAirportLives) {
+    fakeShell.savePath = In("new.bgl");
+    EXPECT_TRUE(app::SaveAirportAs());
+    EXPECT_EQ(app::settings.lastSavedFile, In("new.bgl"));
+    EXPECT_TRUE(bgl::library.savedFiles.contains(bgl::PathKey(In("new.bgl"))));
+    bgl::library.savedFiles.clear();
+    EXPECT_TRUE(app::SaveAirport());
+    EXPECT_TRUE(bgl::library.savedFiles.contains(bgl::PathKey(In("new.bgl"))));
+    fs::create_directory(folder / "taken.bgl");
+    fakeShell.savePath = In("taken.bgl");
+    EXPECT_FALSE(app::SaveAirportAs());
+    EXPECT_EQ(app::settings.lastSavedFile, In("new.bgl"));
+    bgl::library = {};
 }
 
 TEST_F(SaveAirportTest, AFailedWriteKeepsTheFlagAndTheSource) {

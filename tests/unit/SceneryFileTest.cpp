@@ -76,6 +76,23 @@ TEST(SceneryFile, AirportIsFoundByItsIdentifier) {
     EXPECT_FALSE(Find(bytes, "KBFI").found);
 }
 
+TEST(SceneryFile, IdentifiersAreComparedOverFourCharactersButTheSameOneComesFirst) {
+    const auto fileWith = [](const std::vector<std::string>& idents) {
+        ByteList records;
+        for (const std::string& ident : idents) records = Join({ records, AirportRecordWith({}, ident) });
+        return Assembled({ { kAirportSection, kByCell, { Content(0x80001, records) } } });
+    };
+    const ByteList longer = fileWith({ "KBFI", "KSEAX", "KSEAY" });
+    const AirportPlace first = Find(longer, "ksea").place;
+    EXPECT_EQ(first.offset, Find(longer, "KSEAX").place.offset);
+    EXPECT_EQ(Find(longer, "KSEAZ").place.offset, first.offset);
+    EXPECT_NE(Find(longer, "KSEAY").place.offset, first.offset);
+    EXPECT_FALSE(Find(longer, "KSE").found);
+    EXPECT_FALSE(Find(longer, "KSEB").found);
+    const ByteList both = fileWith({ "KSEAX", "KSEA" });
+    EXPECT_EQ(Find(both, "KSEA").place.offset + Find(both, "KSEA").place.size, both.size());
+}
+
 TEST(SceneryFile, WithoutIdentifierTheFirstAirportIsTaken) {
     const ByteList bytes = Assembled(ThreeAirports());
     const Found found = Find(bytes, "");
@@ -216,6 +233,24 @@ TEST(SceneryFile, FileOnTheDiskIsSearchedLikeOneInMemory) {
     EXPECT_FALSE(FindAirportInFile(path.string(), "KBFI", &place));
     std::filesystem::remove(path);
     EXPECT_FALSE(FindAirportInFile(path.string(), "S36", &place));
+}
+
+TEST(SceneryFile, AirportsAreFoundAmongManySmallRecordsAndBehindLargeOnes) {
+    const ByteList small = Record(9, {});
+    for (size_t before = 0; before < 5000; before += 7) {  // the heads lie everywhere in what is read ahead
+        ByteList records;
+        for (size_t at = 0; at + 6 <= before; at += 6) records.insert(records.end(), small.begin(), small.end());
+        records = Join({ records, Record(0x24, Zeros(before)), AirportRecordWith({ Record(1, Zeros(9000)) }, "KSEA"),
+                         AirportRecordWith({}, "S36") });
+        const ByteList bytes = Assembled({ { kAirportSection, kByCell, { Content(0x80001, records) } } });
+        const Found found = Find(bytes, "S36");
+        ASSERT_TRUE(found.found) << before;
+        ASSERT_EQ(found.place.offset + 52, bytes.size()) << before;
+        SceneryFile file;
+        ASSERT_TRUE(ReadStructure(SourceOfBytes(bytes), &file));
+        ASSERT_EQ(FindAllAirports(&file).size(), 2u) << before;
+        if (before > 700) before += 130;
+    }
 }
 
 }  // namespace

@@ -326,4 +326,33 @@ TEST_F(SelectionTest, SelectAllLeavesOutVorsNdbsAndReplacedStock) {
     EXPECT_FALSE(AnyStripPartSelected(lights));
 }
 
+TEST_F(SelectionTest, AWhollySelectedStripIsSelectedInAllItsParts) {
+    layers.lights = true;
+    SceneryObject* lights = Strip();
+    SelectAll();
+    EXPECT_TRUE(IsPickSelected({ lights, PartNumber(0, StripPart::Segment) }));
+    EXPECT_TRUE(IsPickSelected({ lights, PartNumber(0, StripPart::End) }));
+    DeselectAll();
+    EXPECT_FALSE(IsPickSelected({ lights, PartNumber(0, StripPart::Segment) }));
+}
+
+// Of two kinds in one place the earlier in the order is hit, whichever comes first in the list; of one kind the first.
+TEST_F(SelectionTest, TheListDecidesOnlyWithinAKind) {
+    for (const bool nodeFirst : { true, false }) {
+        ClearModel();
+        Open();
+        SetPosition(state.airport, build::At({ -390, 290 }));
+        SceneryObject* node = nodeFirst ? build::Node() : nullptr;
+        SceneryObject* spot = Spot({}, 30);
+        if (!node) node = build::Node();
+        SceneryObject* sameNode = build::Node();
+        SceneryObject* sameSpot = Spot({}, 30);
+        Paint();
+        EXPECT_EQ(PickedAt({ 0, 0 }), node);
+        EXPECT_EQ(PickedAt({ 20, 0 }), spot);
+        EXPECT_NE(PickedAt({ 0, 0 }), sameNode);
+        EXPECT_NE(PickedAt({ 20, 0 }), sameSpot);
+    }
+}
+
 }  // namespace

@@ -1,6 +1,7 @@
 // Which of the simulator's navaids join an airport, from which files, and what takes their place.
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <filesystem>
 #include <fstream>
 #include <random>
@@ -118,29 +119,43 @@ protected:
 
 TEST_F(StockNavaids, EachKindHasItsRectangle) {
     OpenAt(Degrees(47.4, -122.3));
-    // The corners lie at the distance, so the edges lie at 0.7071 of it; the meridians' convergence moves
-    // them by up to 1.2 percent.
-    const double near = 3 * 0.7071, middle = 11 * 0.7071, far = 26 * 0.7071;
+    // The corners lie at the distance, on the bearings 315 and 135 degrees. The rectangle is one of encoded positions:
+    // its edges follow parallels and meridians, and the meridians come together toward the north.
+    const double near = 3, middle = 11, far = 26;
     std::vector<TestNavaid> navaids;
     for (const auto& [recordId, type, edge, letter] :
          { std::tuple{ 0x13, 4, near, 'I' }, { 0x18, 0, middle, 'M' }, { 0x17, 0, far, 'N' }, { 0x13, 2, far, 'V' } }) {
-        const auto add = [&, id = static_cast<uint16_t>(recordId), kind = static_cast<uint8_t>(type), first = letter](
-                             double east, double north, char second) {
-            navaids.push_back({ id, kind, At(east, north), std::string{ first, second } });
+        const auto corner = [&](double bearing) {
+            const BglPoint code = LatLonToBgl(OffsetByPolar(origin, { edge * kMile, bearing * kRadiansPerDegree }));
+            return EncodedPoint{ code.lonCode, code.latCode };
         };
-        add(edge * 0.97, edge * 0.97, 'A');
-        add(-edge * 0.97, -edge * 0.97, 'B');
-        add(edge * 1.03, 0, 'X');
-        add(-edge * 1.03, 0, 'X');
-        add(0, edge * 1.03, 'X');
-        add(0, -edge * 1.03, 'X');
+        const EncodedPoint northWest = corner(315), southEast = corner(135);
+        const auto add = [&, id = static_cast<uint16_t>(recordId), kind = static_cast<uint8_t>(type), first = letter](
+                             double eastward, double southward, char second) {
+            const auto between = [](uint32_t low, uint32_t high, double share) {
+                return low + static_cast<uint32_t>(std::lround((high - low) * share));
+            };
+            const EncodedPoint place = { between(northWest.longitude, southEast.longitude, eastward),
+                                         between(northWest.latitude, southEast.latitude, southward) };
+            navaids.push_back({ id, kind, place, std::string{ first, second } });
+        };
+        // Shares of the rectangle's width and height: one percent inside each edge, at a corner, and outside.
+        for (const double inside : { 0.01, 0.99 }) {
+            add(inside, 0.5, 'A');
+            add(0.5, inside, 'B');
+            add(inside, inside, 'C');
+        }
+        for (const double outside : { -0.01, 1.01 }) {
+            add(outside, 0.5, 'X');
+            add(0.5, outside, 'X');
+        }
     }
     Put("Namw", "nv9Namw0.bgl", StockFile(navaids));
     bgl::LoadStockNavaids(Simulator());
-    EXPECT_EQ(CountKind(kIls), 2u);
-    EXPECT_EQ(CountKind(kMarkerBeacon), 2u);
-    EXPECT_EQ(CountKind(kNdb), 2u);
-    EXPECT_EQ(CountKind(kVorDme), 2u);
+    EXPECT_EQ(CountKind(kIls), 6u);
+    EXPECT_EQ(CountKind(kMarkerBeacon), 6u);
+    EXPECT_EQ(CountKind(kNdb), 6u);
+    EXPECT_EQ(CountKind(kVorDme), 6u);
     EXPECT_EQ(Idents().find('X'), std::string::npos);
 }
 
@@ -153,6 +168,32 @@ TEST_F(StockNavaids, IlsOfTheAirportItselfIsKeptAtAnyDistance) {
             { { 0x13, 4, away, "IOURS", ours }, { 0x13, 4, away, "IOTHER", other }, { 0x13, 4, away, "INONE", 0 } }));
     bgl::LoadStockNavaids(Simulator());
     EXPECT_EQ(Idents(), "IOURS ");
+}
+
+TEST_F(StockNavaids, AnIlsNamesAnAirportOfFiveCharactersByItsLowBits) {
+    OpenAt(Degrees(47.4, -122.3));
+    PayloadAs<AirportRecord>(state.airport).ident = PackIdent("ZZZZZ") << kIdentShift | 1;
+    const EncodedPoint away = At(6, 6);
+    Put("Namw", "nv9Namw0.bgl",
+        StockFile({ { 0x13, 4, away, "IOURS", PackIdent("ZZZZZ") << 11 | 0x123 },
+                    { 0x13, 4, away, "IOTHER", PackIdent("ZZZZY") << 11 } }));
+    bgl::LoadStockNavaids(Simulator());
+    EXPECT_EQ(Idents(), "IOURS ");
+}
+
+TEST_F(StockNavaids, SectionsAreReadInTheOrderOfTheSectionTable) {
+    OpenAt(Degrees(47.4, -122.3));
+    const EncodedPoint here = At(0, 0);
+    const auto section = [&](uint16_t type, const char* ident) {
+        return bgl::SectionContent{ type,
+                                    1,
+                                    { { bgl::CellOf(here), 1, { NavaidRecordOf({ type, 1, here, ident }) } } } };
+    };
+    const bgl::SectionContent sections[] = { section(0x18, "M"), section(0x13, "V"), section(0x17, "N"),
+                                             section(0x13, "W") };
+    Put("Namw", "nv9Namw0.bgl", bgl::AssembleFile(sections, 1));
+    bgl::LoadStockNavaids(Simulator());
+    EXPECT_EQ(Idents(), "M V N W ");
 }
 
 TEST_F(StockNavaids, AirportWithoutIdentOwnsNoIls) {
@@ -216,7 +257,9 @@ TEST_F(StockNavaids, NavaidFileOfAnotherRegionIsNotOpened) {
 
 TEST_F(StockNavaids, FoldersAreListedOnceASession) {
     OpenAt(Degrees(47.4, -122.3));
-    const EncodedPoint here = At(0, 0);
+    const EncodedPoint here = At(0, 0), far = PointFrom(Degrees(50, 10), 0, 0);
+    Put("Namw", BlockFile(far), StockFile({}));
+    Put("Namw", "nv9Namw0.bgl", StockFile({ { 0x17, 0, far, "NDB" } }));
     EXPECT_TRUE(bgl::StockFilesAt(Simulator(), { &here, 1 }).empty());
     Put("Namw", BlockFile(here), StockFile({}));
     EXPECT_TRUE(bgl::StockFilesAt(Simulator(), { &here, 1 }).empty());
@@ -227,6 +270,30 @@ TEST_F(StockNavaids, FoldersAreListedOnceASession) {
     fs::rename(other / "Scenery", folder / "Scenery");
     bgl::ForgetStockFiles();
     EXPECT_EQ(bgl::StockFilesAt(Simulator(), { &here, 1 }).size(), 1u);
+}
+
+// The simulator's drive was not there yet, or its files are being installed.
+TEST_F(StockNavaids, FoldersThatHeldNoAirportsOrNoNavaidsAreListedAgain) {
+    OpenAt(Degrees(47.4, -122.3));
+    const EncodedPoint here = At(0, 0);
+    EXPECT_TRUE(bgl::StockFilesAt(Simulator(), { &here, 1 }).empty());
+    Put("Namw", BlockFile(here), StockFile({}));
+    EXPECT_EQ(bgl::StockFilesAt(Simulator(), { &here, 1 }).size(), 1u);
+    Put("Namw", "nv9Namw0.bgl", StockFile({ { 0x17, 0, here, "NDB" } }));
+    EXPECT_EQ(bgl::StockFilesAt(Simulator(), { &here, 1 }).size(), 2u);
+}
+
+TEST_F(StockNavaids, NamesWithNegativeNumbersAreNoStockFiles) {
+    OpenAt(BglToLatLon({ (1u << 23) + 100000, (1u << 23) + 100000 }));
+    const ByteList file = StockFile({ { 0x13, 1, At(0, 0), "VOR" } });
+    for (const char* name : { "nv9Namw-1.bgl", "nv9-Namw0.bgl", "nv9Namw-0.bgl", "AP90-0-10.bgl", "AP9-1010.bgl",
+                              "AP9-01010.bgl", "AP901-10.bgl" })
+        Put("Namw", name, file);
+    bgl::LoadStockNavaids(Simulator());
+    EXPECT_EQ(Idents(), "");
+    Put("Namw", BlockFile(At(0, 0)), file);
+    bgl::LoadStockNavaids(Simulator());
+    EXPECT_EQ(Idents(), "VOR ");
 }
 
 TEST_F(StockNavaids, MissingOrDamagedFilesAreSilent) {
@@ -292,6 +359,14 @@ protected:
         PayloadAs<VorRecord>(vor).region = region;
         return vor;
     }
+    SceneryObject* OwnMarker(std::string_view ident, double east, uint32_t region) {
+        SceneryObject* marker = build::Append(kMarkerBeacon, sizeof(MarkerBeaconPayload));
+        const EncodedPoint place = At(east, 0);
+        SetEncodedPosition(marker, { place.latitude, place.longitude });
+        PayloadAs<MarkerBeaconPayload>(marker).ident = PackIdent(ident) << kIdentShift | 2;
+        PayloadAs<MarkerBeaconPayload>(marker).region = region;
+        return marker;
+    }
     void Load(const std::vector<TestNavaid>& stock) {
         Put("Namw", "nv9Namw0.bgl", StockFile(stock));
         bgl::LoadStockNavaids(Simulator());
@@ -336,10 +411,46 @@ TEST_F(Replacements, OfSeveralTheNearestIsMeantAndEachServesOnce) {
     EXPECT_EQ(third->related, nullptr);
 }
 
-TEST_F(Replacements, NavaidsWithoutIdentifierReplaceNothing) {
-    const SceneryObject* own = Own("", 0);
-    Load({ { 0x13, 1, At(0, 0), "" } });
-    EXPECT_EQ(own->related, nullptr);
+TEST_F(Replacements, TheNearestPairComesFirstWhateverTheOrder) {
+    const SceneryObject *far = Own("SEA", 4), *near = Own("SEA", 1);
+    Load({ { 0x13, 1, At(0, 0), "SEA" } });
+    EXPECT_EQ(near->related, Stock(kVorDme));
+    EXPECT_EQ(far->related, nullptr);
+}
+
+TEST_F(Replacements, NavaidsWithoutIdentifierReplaceTheirLikeInTheSamePlace) {
+    const SceneryObject *other = Own("", 0.1, 7), *here = Own("", 0.9), *far = Own("", -4), *named = Own("SEA", 0);
+    Load({ { 0x13, 1, At(0, 0), "" }, { 0x17, 0, At(-4, 0), "" }, { 0x13, 1, At(-5.1, 0), "" } });
+    EXPECT_EQ(other->related, nullptr) << "of another region";
+    EXPECT_EQ(here->related, Stock(kVorDme, 0));
+    EXPECT_EQ(far->related, nullptr);
+    EXPECT_EQ(named->related, nullptr);
+    EXPECT_EQ(Stock(kNdb)->related, nullptr);
+}
+
+TEST_F(Replacements, AMarkerReplacesNoneOfAnotherApproach) {
+    const SceneryObject *moved = OwnMarker("OM", 0.9, 7), *other = OwnMarker("OM", 5, 7);
+    Load({ { 0x18, 0, At(0, 0), "OM", 7 },
+           { 0x18, 0, At(6.1, 0), "OM", 7 },
+           { 0x18, 0, At(5, 0), "MM", 7 },
+           { 0x18, 0, At(5, 0), "OM", 8 } });
+    ASSERT_EQ(CountKind(kMarkerBeacon), 6u);
+    EXPECT_EQ(moved->related, Stock(kMarkerBeacon, 0));
+    EXPECT_EQ(Stock(kMarkerBeacon, 0)->related, moved);
+    EXPECT_EQ(other->related, nullptr);
+    for (int i = 1; i < 4; ++i) EXPECT_EQ(Stock(kMarkerBeacon, i)->related, nullptr) << i;
+}
+
+TEST_F(Replacements, AnIlsReplacesTheNearestOfItsIdentifierHoweverFarItMoved) {
+    SceneryObject* own = build::Ils("ISEA");
+    const EncodedPoint place = At(0, 1);
+    SetEncodedPosition(own, { place.latitude, place.longitude });
+    PayloadAs<IlsPayload>(own).body.region = 7;
+    Load({ { 0x13, 4, At(0, -1), "ISEA", 7 }, { 0x13, 4, At(0, 1), "IBFI", 7 }, { 0x13, 1, At(0, 1), "ISEA", 7 } });
+    ASSERT_EQ(CountKind(kIls), 3u);
+    EXPECT_EQ(own->related, Stock(kIls, 0));
+    EXPECT_EQ(Stock(kIls, 1)->related, nullptr);
+    EXPECT_EQ(Stock(kVorDme)->related, nullptr) << "a VOR is no ILS";
 }
 
 TEST_F(Replacements, AreFoundAgainWhenASavedAirportIsOpened) {

@@ -69,6 +69,16 @@ TEST(Text, UpperCasedChangesAsciiLettersAlone) {
     EXPECT_EQ(UpperCased(""), "");
 }
 
+TEST(Text, CharactersAreCountedAndCutWhole) {
+    EXPECT_EQ(platform::CharacterCount(""), 0u);
+    EXPECT_EQ(platform::CharacterCount("a\xC3\xBC\xE6\x9D\xB1z"), 4u);
+    EXPECT_EQ(platform::FirstCharacters("a\xC3\xBC\xE6\x9D\xB1z", 0), "");
+    EXPECT_EQ(platform::FirstCharacters("a\xC3\xBC\xE6\x9D\xB1z", 2), "a\xC3\xBC");
+    EXPECT_EQ(platform::FirstCharacters("a\xC3\xBC\xE6\x9D\xB1z", 3), "a\xC3\xBC\xE6\x9D\xB1");
+    EXPECT_EQ(platform::FirstCharacters("a\xC3\xBC", 2), "a\xC3\xBC");
+    EXPECT_EQ(platform::FirstCharacters("a\xC3\xBC", 9), "a\xC3\xBC");
+}
+
 TEST(Text, EqualNoCaseFoldsAsciiAlone) {
     EXPECT_TRUE(EqualNoCase("TV2_", "tv2_"));
     EXPECT_TRUE(EqualNoCase("", ""));

@@ -2,34 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include "fakes/MapFixture.h"
-#include "map/MoveDrag.h"
-#include "model/EditHistory.h"
+#include "fakes/ToolFixture.h"
 
 namespace {
 
 using namespace map;
 using namespace model;
 
-class ToolsTest : public MapFixture {
-protected:
-    void SetUp() override {
-        MapFixture::SetUp();
-        Scale(1);
-        Open();
-        SetPosition(state.airport, build::At({ -390, 290 }));
-    }
-    static void Press(build::Place place, KeyState keys = {}) { OnButtonDown(PixelOf(place), keys); }
-    static void Click(build::Place place, KeyState keys = {}) {
-        Press(place, keys);
-        OnButtonUp(PixelOf(place), keys);
-    }
-    static void DragTo(build::Place place) { OnMouseMove(PixelOf(place), {}); }
-    static void Release(build::Place place) { OnButtonUp(PixelOf(place), {}); }
-    static double DistanceTo(const SceneryObject* object, build::Place place) {
-        return DistanceBetween(PositionOf(object), build::At(place));
-    }
-};
+class ToolsTest : public ToolFixture {};
 
 TEST_F(ToolsTest, TheNodeToolCreatesANodeOfItsKindWhereItIsPressed) {
     SetTool(Tool::Nodes);
@@ -255,8 +235,7 @@ TEST_F(ToolsTest, ObjectsDeletedUnderADragAreLeftAlone) {
     EXPECT_EQ(build::List(), build::ListFromTail());
 }
 
-TEST_F(ToolsTest, APressOnEmptyMapOrOnARunwayMovesNothing) {
-    build::Runway(36);
+TEST_F(ToolsTest, APressOnEmptyMapMovesNothing) {
     SceneryObject* node = build::Node({ 200, 0 });
     Paint();
     Press({ 0, 0 });
@@ -264,6 +243,218 @@ TEST_F(ToolsTest, APressOnEmptyMapOrOnARunwayMovesNothing) {
     Release({ 50, 50 });
     EXPECT_LT(DistanceTo(node, { 200, 0 }), 0.1);
     EXPECT_FALSE(CanUndo());
+}
+
+TEST_F(ToolsTest, LosingTheMouseLeavesNothingBehind) {
+    SceneryObject* node = build::Node();
+    const ByteList before = File();
+    Paint();
+    Press({ 0, 0 });
+    DragTo({ 50, 50 });
+    EXPECT_TRUE(state.busy);
+    CancelDrag();
+    EXPECT_FALSE(state.busy || tools.pressed || fake.dragTimer);
+    EXPECT_EQ(File(), before);
+    OnMouseMove(PixelOf({ 80, 80 }), {});
+    OnButtonUp(PixelOf({ 80, 80 }), {});
+    EXPECT_EQ(File(), before);
+    EXPECT_FALSE(CanUndo());
+    EXPECT_TRUE(IsSelected(node));
+}
+
+TEST_F(ToolsTest, EscapeCancelsADrag) {
+    build::Node();
+    const ByteList before = File();
+    Paint();
+    EXPECT_FALSE(CanEscape());
+    Press({ 0, 0 });
+    DragTo({ 50, 50 });
+    EXPECT_TRUE(CanEscape());
+    Escape();
+    EXPECT_FALSE(CanEscape());
+    Release({ 50, 50 });
+    EXPECT_EQ(File(), before);
+    EXPECT_FALSE(CanUndo());
+}
+
+TEST_F(ToolsTest, TheDragTimerRunsWhileAButtonIsHeldThatMayDrag) {
+    for (const Tool tool : { Tool::Pointer, Tool::Links, Tool::EdgeLights, Tool::Guidelines }) {
+        SetTool(tool);
+        Press({ 0, 0 });
+        EXPECT_TRUE(fake.dragTimer) << int(tool);
+        Release({ 0, 0 });
+        EXPECT_FALSE(fake.dragTimer) << int(tool);
+    }
+    for (const Tool tool : { Tool::Nodes, Tool::Parking, Tool::Apron, Tool::ApronPoint, Tool::Markers }) {
+        SetTool(tool);
+        Press({ 200, 200 });
+        EXPECT_FALSE(fake.dragTimer) << int(tool);
+        Release({ 200, 200 });
+    }
+}
+
+TEST_F(ToolsTest, ADragAtTheEdgeScrollsTheMapAndGoesOn) {
+    SceneryObject* node = build::Node();
+    Paint();
+    Press({ 0, 0 });
+    OnMouseMove({ kWidth - 3, kHeight / 2 }, {});
+    const LatLon before = view.centre;
+    const double moved = DistanceTo(node, { 0, 0 });
+    OnDragTimer();
+    EXPECT_NEAR(DistanceBetween(view.centre, before), kWidth * 0.05, 0.5);
+    EXPECT_NEAR(DistanceTo(node, { 0, 0 }), moved + kWidth * 0.05, 1);
+    OnMouseMove({ kWidth / 2, kHeight / 2 }, {});
+    const LatLon after = view.centre;
+    OnDragTimer();  // not at the edge
+    EXPECT_EQ(view.centre.lon, after.lon);
+}
+
+TEST_F(ToolsTest, NothingScrollsBeforeTheDragHasBegun) {
+    Paint();
+    OnButtonDown({ 2, 2 }, {});
+    const LatLon before = view.centre;
+    OnDragTimer();
+    EXPECT_EQ(view.centre.lat, before.lat);
+    OnButtonUp({ 2, 2 }, {});
+    OnDragTimer();
+    EXPECT_EQ(view.centre.lat, before.lat);
+}
+
+TEST_F(ToolsTest, ALockedMapDoesNotScroll) {
+    Paint();
+    Press({ 0, 0 });
+    OnMouseMove({ 2, 2 }, {});
+    view.lockedToSim = true;
+    const LatLon before = view.centre;
+    OnDragTimer();
+    EXPECT_EQ(view.centre.lat, before.lat);
+}
+
+TEST_F(ToolsTest, ADoubleClickOpensThePropertiesOfWhatLiesThere) {
+    SceneryObject* node = build::Node();
+    Paint();
+    Click({ 0, 0 });
+    OnDoubleClick(PixelOf({ 0, 0 }), {});
+    EXPECT_EQ(fake.openedProperties, std::vector<SceneryObject*>{ node });
+    EXPECT_FALSE(tools.pressed);
+    OnDoubleClick(PixelOf({ 100, 100 }), {});  // nothing there: a press
+    EXPECT_TRUE(tools.pressed);
+    OnButtonUp(PixelOf({ 100, 100 }), {});
+    SetTool(Tool::Markers);
+    OnDoubleClick(PixelOf({ 0, 0 }), {});
+    EXPECT_EQ(fake.openedProperties.size(), 1u);
+}
+
+TEST_F(ToolsTest, ALockedMapOpensNothing) {
+    build::Node();
+    Paint();
+    view.lockedToSim = true;
+    OnDoubleClick(PixelOf({ 0, 0 }), {});
+    EXPECT_TRUE(fake.openedProperties.empty());
+}
+
+TEST_F(ToolsTest, TheStripToolSwitchesTheLightsOn) {
+    SetTool(Tool::Links);
+    EXPECT_FALSE(layers.lights);
+    SetTool(Tool::EdgeLights);
+    EXPECT_TRUE(layers.lights);
+    EXPECT_GT(fake.repaints, 0);
+}
+
+TEST_F(ToolsTest, ToolsOfTheNetworkShowIt) {
+    for (const Tool tool : { Tool::Nodes, Tool::Links, Tool::Parking }) {
+        layers.network = false;
+        SetTool(tool);
+        EXPECT_TRUE(layers.network);
+    }
+    layers.network = false;
+    for (const Tool tool : { Tool::Pointer, Tool::Apron, Tool::Markers }) SetTool(tool);
+    EXPECT_FALSE(layers.network);
+}
+
+TEST_F(ToolsTest, APressOnAHiddenNetworkShowsItAndCreates) {
+    SetTool(Tool::Nodes);
+    layers.network = false;
+    Paint();
+    Click({ 0, 0 });
+    EXPECT_TRUE(layers.network);
+    EXPECT_EQ(CountKind(kTaxiNode), 1u);
+    SetTool(Tool::Parking);
+    layers.network = false;
+    Paint();
+    Click({ 100, 0 });
+    EXPECT_TRUE(layers.network);
+    EXPECT_EQ(CountKind(kParkingSpot), 1u);
+}
+
+TEST_F(ToolsTest, OnTopOfWhatWasHiddenNothingIsCreated) {
+    build::Node();
+    BigSpot({ 100, 0 });
+    SetTool(Tool::Nodes);
+    layers.network = false;
+    Paint();
+    Click({ 5, 0 });
+    layers.network = false;
+    Paint();
+    Click({ 115, 0 });
+    EXPECT_EQ(CountKind(kTaxiNode), 1u);
+    SetTool(Tool::Links);
+    layers.network = false;
+    Paint();
+    Drag({ 0, 0 }, { 100, 0 });
+    EXPECT_EQ(CountKind(kTaxiNode), 1u);
+    EXPECT_EQ(CountKind(kTaxiLink), 1u);
+}
+
+TEST_F(ToolsTest, ADoubleClickMakesOneObject) {
+    for (const Tool tool : { Tool::Nodes, Tool::Parking, Tool::Markers }) {
+        SetTool(tool);
+        const size_t before = build::List().size();
+        Click({ 100, 100.0 * int(tool) - 300 });
+        Paint();
+        OnDoubleClick(PixelOf({ 100, 100.0 * int(tool) - 300 }), {});
+        OnButtonUp(PixelOf({ 100, 100.0 * int(tool) - 300 }), {});
+        EXPECT_EQ(build::List().size(), before + 1) << int(tool);
+        EXPECT_FALSE(tools.pressed);
+    }
+}
+
+TEST_F(ToolsTest, ALockedMapIsNotTakenByTheMiddleButton) {
+    view.lockedToSim = true;
+    const LatLon before = view.centre;
+    OnMiddleDown({ 100, 100 });
+    EXPECT_FALSE(tools.panning);
+    OnMouseMove({ 150, 100 }, {});
+    EXPECT_EQ(view.centre.lon, before.lon);
+}
+
+TEST_F(ToolsTest, TheMapScrollsAtTheEdgeOfWhatCanBeSeen) {
+    build::Node();
+    Paint();
+    SetVisible({ 0, 60, kWidth, kHeight - 25 });
+    Press({ 0, 0 });
+    OnMouseMove({ kWidth / 2, 75 }, {});  // below the bars and their edge
+    LatLon before = view.centre;
+    OnDragTimer();
+    EXPECT_EQ(view.centre.lat, before.lat);
+    OnMouseMove({ kWidth / 2, 70 }, {});
+    OnDragTimer();
+    EXPECT_GT(view.centre.lat, before.lat);
+    before = view.centre;
+    OnMouseMove({ kWidth / 2, kHeight - 30 }, {});
+    OnDragTimer();
+    EXPECT_LT(view.centre.lat, before.lat);
+}
+
+TEST_F(ToolsTest, TheHighlightIsSetAndCleared) {
+    SceneryObject* a = build::Designator("A");
+    SetHighlight(a);
+    EXPECT_EQ(layers.highlightedDesignator, a);
+    EXPECT_EQ(fake.repaints, 1);
+    SetHighlight(a);
+    EXPECT_EQ(fake.repaints, 1);
+    SetHighlight(nullptr);
+    EXPECT_EQ(layers.highlightedDesignator, nullptr);
 }
 
 TEST_F(ToolsTest, LoadingAnAirportReturnsToThePointer) {
@@ -276,24 +467,6 @@ TEST_F(ToolsTest, LoadingAnAirportReturnsToThePointer) {
     EXPECT_EQ(tools.tool, Tool::Pointer);
     EXPECT_FALSE(tools.panning || tools.pressed || tools.hasClick);
     EXPECT_EQ(layers.highlightedDesignator, nullptr);
-}
-
-TEST_F(ToolsTest, TheHighlightCyclesThroughTheNamesAndOff) {
-    build::Designator("");
-    SceneryObject* a = build::Designator("A");
-    SceneryObject* b = build::Designator("B");
-    CycleHighlight(false);
-    EXPECT_EQ(layers.highlightedDesignator, a);
-    CycleHighlight(false);
-    EXPECT_EQ(layers.highlightedDesignator, b);
-    CycleHighlight(false);
-    EXPECT_EQ(layers.highlightedDesignator, nullptr);
-    CycleHighlight(true);
-    EXPECT_EQ(layers.highlightedDesignator, b);
-    CycleHighlight(true);
-    CycleHighlight(true);
-    EXPECT_EQ(layers.highlightedDesignator, nullptr);
-    EXPECT_EQ(fake.repaints, 6);
 }
 
 }  // namespace

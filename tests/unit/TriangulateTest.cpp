@@ -177,6 +177,23 @@ TEST(Triangulate, AnyEncodedValuesGiveTheRightNumberOfTriangles) {
     }
 }
 
+TEST(Triangulate, OutlinesOnAFewPointsWithAllTheirFoldsAndTouchesAreSurvived) {
+    std::mt19937 random(5);
+    for (int i = 0; i < 50000; ++i) {
+        Outline outline(3 + random() % 7);
+        for (EncodedPoint& point : outline) {
+            point.longitude = 0x10000000u + static_cast<uint32_t>(random() % 4);
+            point.latitude = 0x0B000000u + static_cast<uint32_t>(random() % 4);
+        }
+        const Triangles triangles = Triangulate(outline);
+        ASSERT_EQ(triangles.size(), outline.size() - 2) << i;
+        for (const ApronTriangle& triangle : triangles) {
+            for (const uint16_t corner : { triangle.vertex[0], triangle.vertex[1], triangle.vertex[2] })
+                ASSERT_LT(corner, outline.size()) << i;
+        }
+    }
+}
+
 TEST(Triangulate, TheLargestOutlineIsDoneInAMoment) {
     Outline outline(65535);
     for (size_t i = 0; i < outline.size(); ++i)

@@ -163,4 +163,12 @@ TEST_F(OtherLimits, StockNavaidsDoNotCount) {
     EXPECT_EQ(Refusal(), "");
 }
 
+TEST_F(OtherLimits, NamelessLinksNeedNoDesignatorMore) {
+    for (int i = 0; i < 256; ++i) build::Designator("Q");
+    build::Link(build::Node(), build::Node());
+    EXPECT_EQ(Refusal(), "");
+    build::Designator("Z");
+    EXPECT_EQ(Refusal(), "ERROR: The airport has 257 taxiway designators.\nA scenery file can hold no more than 256.");
+}
+
 }  // namespace

@@ -1,0 +1,13 @@
+// AircraftEditorIds.h - the controls of the Aircraft Editor.
+#pragma once
+
+#define IDD_AIRCRAFT_EDITOR 1554
+
+#define IDC_AIRCRAFT_LIST 1218
+#define IDC_AIRCRAFT_TITLE 1039
+#define IDC_AIRCRAFT_AIRLINE 1040
+#define IDC_AIRCRAFT_TYPES 1041
+#define IDC_AIRCRAFT_CODE_SELECTOR 1219
+#define IDC_AIRCRAFT_CODE 1220
+#define IDC_AIRCRAFT_RADIUS 1221
+#define IDC_AIRCRAFT_RESTORE 1222

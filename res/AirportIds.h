@@ -1,0 +1,18 @@
+// AirportIds.h - the dialog "Airport Properties".
+#pragma once
+
+#define IDD_AIRPORT 127
+
+#define IDC_AIRPORT_LATITUDE 1200
+#define IDC_AIRPORT_LONGITUDE 1201
+#define IDC_AIRPORT_ELEVATION_LABEL 1202
+#define IDC_AIRPORT_ELEVATION 1203
+#define IDC_AIRPORT_VARIATION 1204
+#define IDC_AVGAS 1205
+#define IDC_JET_FUEL 1206
+#define IDC_AIRPORT_IDENT 1207
+#define IDC_COUNTRY 1208
+#define IDC_STATE 1209
+#define IDC_CITY 1210
+#define IDC_AIRPORT_NAME 1211
+#define IDC_FROM_FILE 1212

@@ -1,0 +1,25 @@
+// PlacesIds.h - the property dialogs of helipads, the control tower viewpoint and start locations.
+#pragma once
+
+#define IDD_HELIPAD 246
+#define IDD_TOWER 247
+#define IDD_START 248
+
+#define IDC_PLACE_LATITUDE 1550
+#define IDC_PLACE_LONGITUDE 1551
+#define IDC_PLACE_ELEVATION_LABEL 1552
+#define IDC_PLACE_ELEVATION 1553
+#define IDC_PLACE_HEADING 1554
+
+#define IDC_HELIPAD_LENGTH_LABEL 1560
+#define IDC_HELIPAD_LENGTH 1561
+#define IDC_HELIPAD_WIDTH_LABEL 1562
+#define IDC_HELIPAD_WIDTH 1563
+#define IDC_HELIPAD_SURFACE 1564
+#define IDC_HELIPAD_TYPE 1565
+#define IDC_HELIPAD_TRANSPARENT 1566
+#define IDC_HELIPAD_CLOSED 1567
+
+#define IDC_START_NUMBER 1570
+#define IDC_START_SUFFIX 1571
+#define IDC_START_TYPE 1572

@@ -1,0 +1,76 @@
+// CursorsWin.cpp - see CursorsWin.h.
+#include "app/CursorsWin.h"
+
+#include <cstring>
+
+#include "app/CursorPictures.h"
+
+namespace app {
+
+namespace {
+
+HCURSOR cursors[map::kCursorShapes][2];  // by shape; day, night
+
+LPCWSTR StockCursor(map::CursorShape shape) {
+    switch (shape) {
+    case map::CursorShape::Hand: return IDC_HAND;
+    case map::CursorShape::Move: return IDC_SIZEALL;
+    default: return IDC_ARROW;
+    }
+}
+
+HBITMAP ColourBitmap(const CursorPicture& picture) {
+    BITMAPV5HEADER head{};
+    head.bV5Size = sizeof head;
+    head.bV5Width = kCursorSize;
+    head.bV5Height = -kCursorSize;
+    head.bV5Planes = 1;
+    head.bV5BitCount = 32;
+    head.bV5Compression = BI_BITFIELDS;
+    head.bV5RedMask = 0x00FF0000;
+    head.bV5GreenMask = 0x0000FF00;
+    head.bV5BlueMask = 0x000000FF;
+    head.bV5AlphaMask = 0xFF000000;
+    void* bits = nullptr;
+    const HDC screen = GetDC(nullptr);
+    const HBITMAP bitmap =
+        CreateDIBSection(screen, reinterpret_cast<const BITMAPINFO*>(&head), DIB_RGB_COLORS, &bits, nullptr, 0);
+    ReleaseDC(nullptr, screen);
+    if (bitmap) std::memcpy(bits, picture.pixels.data(), sizeof picture.pixels);
+    return bitmap;
+}
+
+HCURSOR MakeCursor(const CursorPicture& picture) {
+    const HBITMAP colour = ColourBitmap(picture);
+    const HBITMAP mask = CreateBitmap(kCursorSize, kCursorSize, 1, 1, nullptr);
+    ICONINFO info{};
+    info.fIcon = FALSE;
+    info.xHotspot = static_cast<DWORD>(picture.hotX);
+    info.yHotspot = static_cast<DWORD>(picture.hotY);
+    info.hbmMask = mask;
+    info.hbmColor = colour;
+    const HCURSOR cursor = colour && mask ? CreateIconIndirect(&info) : nullptr;
+    if (colour) DeleteObject(colour);
+    if (mask) DeleteObject(mask);
+    return cursor;
+}
+
+}  // namespace
+
+HCURSOR CursorFor(map::CursorShape shape, bool night) {
+    if (!HasCursorPicture(shape)) return LoadCursorW(nullptr, StockCursor(shape));
+    HCURSOR& cursor = cursors[static_cast<int>(shape)][night ? 1 : 0];
+    if (!cursor) cursor = MakeCursor(DrawCursor(shape, night));
+    return cursor ? cursor : LoadCursorW(nullptr, IDC_ARROW);
+}
+
+void FreeCursors() {
+    for (auto& pair : cursors) {
+        for (HCURSOR& cursor : pair) {
+            if (cursor) DestroyCursor(cursor);
+            cursor = nullptr;
+        }
+    }
+}
+
+}  // namespace app

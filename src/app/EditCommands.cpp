@@ -1,0 +1,71 @@
+// EditCommands.cpp - see EditCommands.h.
+#include "app/EditCommands.h"
+
+#include "app/Airport.h"
+#include "app/AppHost.h"
+#include "app/AppState.h"
+#include "app/SaveAirport.h"
+#include "dialogs/DialogHost.h"
+#include "dialogs/Editors.h"
+#include "map/HoldShortUpdate.h"
+#include "map/MapView.h"
+#include "map/Selection.h"
+#include "model/ObjectList.h"
+#include "platform/Platform.h"
+
+namespace app {
+
+namespace {
+
+// The airport's identifier and name stand in the title.
+void ShowEdited() {
+    SetWindowTitle(TitleText());
+    ShowCommandStates();
+    platform::RequestRepaint();
+}
+
+model::SceneryObject* ObjectAtMenuPoint() { return map::PickObject(state.menuPoint).object; }
+
+}  // namespace
+
+void NewAirport() {
+    if (!SavePrompt()) return;
+    CloseAirport();
+    if (dialogs::RunNewAirport()) map::layers.navaids = false;  // as for every other airport that opens
+    ShowEdited();
+}
+
+void EditAirportProperties() { EditProperties(model::state.airport); }
+
+void EditProperties(model::SceneryObject* object) {
+    const map::HoldShortSides before = map::NoteHoldShorts();
+    const model::SceneryObject* newest = model::state.undoHead;
+    dialogs::EditObject(object);
+    if (model::state.undoHead != newest) map::FollowHoldShorts(before);  // in the action of the dialog
+    ShowEdited();
+}
+
+void EditAtMenuPoint() {
+    if (model::SceneryObject* object = ObjectAtMenuPoint()) EditProperties(object);
+}
+
+bool CanEditAtMenuPoint() {
+    if (!model::state.loaded || model::state.busy) return false;
+    const model::SceneryObject* object = ObjectAtMenuPoint();
+    return object && dialogs::HasEditor(object);
+}
+
+void InsertWith(bool (*dialog)()) {
+    dialog();
+    ShowEdited();
+}
+
+}  // namespace app
+
+namespace dialogs {
+
+std::string AirportFile() { return app::state.sourceFile; }
+
+void ShowDialogState() { app::ShowCommandStates(); }
+
+}  // namespace dialogs

@@ -1,0 +1,34 @@
+// MapHostWin.cpp - what the map and the dialogs ask of the window for the mouse tools.
+#include <windows.h>
+
+#include <string>
+
+#include "app/EditCommands.h"
+#include "app/MapSurfaceWin.h"
+#include "app/Notices.h"
+#include "dialogs/DialogHost.h"
+#include "map/LinkTemplate.h"
+#include "map/MapHost.h"
+#include "platform/PlatformWin.h"
+
+namespace map {
+
+void StartDragTimer() { SetTimer(platform::MainWindow(), kDragTimer, kDragTimerPeriod, nullptr); }
+
+void StopDragTimer() {
+    if (platform::MainWindow()) KillTimer(platform::MainWindow(), kDragTimer);
+}
+
+void RequestFeedback() { app::RepaintFeedback(); }
+
+void OpenProperties(model::SceneryObject* object) { app::EditProperties(object); }
+
+void ShowRemark(std::string_view text) { app::SetNotice(app::Notice::Remark, std::string(text)); }
+
+}  // namespace map
+
+namespace dialogs {
+
+void UseLinkTemplate(const model::TaxiLinkPayload& link) { map::UseLinkTemplate(link); }
+
+}  // namespace dialogs

@@ -1,0 +1,93 @@
+// EditorWin.cpp - see EditorWin.h.
+#include "dialogs/EditorWin.h"
+
+#include "dialogs/DialogHost.h"
+#include "dialogs/OverMap.h"
+#include "dialogs/Subject.h"
+#include "platform/DialogWin.h"
+#include "platform/Platform.h"
+
+namespace dialogs {
+
+namespace {
+
+constexpr size_t kPositionLimit = 30;  // characters of a position field
+
+const Editor& EditorOf(HWND dialog) { return *static_cast<const Editor*>(platform::DialogData(dialog)); }
+
+void SendTo(HWND dialog, const BadField& bad) {
+    const Editor& editor = EditorOf(dialog);
+    if (editor.show) editor.show(dialog, bad);
+    for (const FieldControl& row : editor.controls) {
+        if (row.field == bad.field && row.part == bad.part) return platform::FocusField(dialog, row.control);
+    }
+}
+
+INT_PTR OnInit(HWND dialog, LPARAM data) {
+    platform::StartDialog(dialog, data);
+    EditorOf(dialog).load(dialog);
+    if (EditorOf(dialog).clicked)
+        overMap.clicked = [dialog](model::LatLon at) {
+            EditorOf(dialog).clicked(dialog, at);
+            SetActiveWindow(dialog);  // the user goes on in the fields
+        };
+    return TRUE;
+}
+
+void OnCommand(HWND dialog, int id, int code) {
+    switch (id) {
+    case IDOK:
+        if (StoreOrRefuse(dialog)) platform::EndDialogOverMap(dialog, IDOK);
+        break;
+    case IDCANCEL: platform::EndDialogOverMap(dialog, IDCANCEL); break;
+    case IDHELP: OpenHelpTopic(EditorOf(dialog).topic); break;
+    default:
+        if (EditorOf(dialog).command) EditorOf(dialog).command(dialog, id, code);
+    }
+}
+
+INT_PTR CALLBACK EditorProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_INITDIALOG) return OnInit(dialog, lParam);
+    if (!platform::DialogData(dialog)) return FALSE;
+    switch (message) {
+    case WM_COMMAND: OnCommand(dialog, LOWORD(wParam), HIWORD(wParam)); return TRUE;
+    case WM_NOTIFY:
+        return EditorOf(dialog).notify ? EditorOf(dialog).notify(dialog, reinterpret_cast<NMHDR*>(lParam)) : FALSE;
+    default: return FALSE;
+    }
+}
+
+}  // namespace
+
+bool RunEditor(const Editor& editor) {
+    overMap = { true, {} };
+    ShowDialogState();
+    const INT_PTR result = platform::RunDialogOverMap(editor.resource, EditorProc, const_cast<Editor*>(&editor));
+    overMap = {};
+    if (result != IDOK) CancelDialog();
+    ShowDialogState();
+    platform::RequestRepaint();
+    return result == IDOK;
+}
+
+bool StoreOrRefuse(HWND dialog) {
+    BadField bad;
+    const bool stored = EditorOf(dialog).store(dialog, &bad);
+    if (!stored) SendTo(dialog, bad);
+    return stored;
+}
+
+bool ExtendKeyHeld() { return GetKeyState(VK_SHIFT) < 0 || GetKeyState(VK_CONTROL) < 0; }
+
+void ShowPosition(HWND dialog, int latitude, int longitude, const model::CoordinateTexts& texts) {
+    platform::LimitField(dialog, latitude, kPositionLimit);
+    platform::LimitField(dialog, longitude, kPositionLimit);
+    platform::SetFieldText(dialog, latitude, texts.latitude);
+    platform::SetFieldText(dialog, longitude, texts.longitude);
+}
+
+model::CoordinateTexts PositionIn(HWND dialog, int latitude, int longitude) {
+    return { platform::FieldText(dialog, latitude), platform::FieldText(dialog, longitude) };
+}
+
+}  // namespace dialogs

@@ -1,0 +1,48 @@
+// EditorWin.h - runs the window of a property dialog: OK with its refusals, Cancel, "&Help", and clicks on the map.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <span>
+
+#include "dialogs/Field.h"
+#include "model/CoordinateText.h"
+#include "model/Geodesy.h"
+
+namespace dialogs {
+
+// The control that shows a field of the portable half.
+struct FieldControl {
+    Field field;
+    int control;
+    int part = 0;
+};
+
+// What a dialog adds to that. Its buttons have the ids IDOK, IDCANCEL and IDHELP. Only `load` and `store` are needed.
+struct Editor {
+    int resource = 0;
+    const char* topic = "";                            // of "&Help", "#Nodes" for example
+    std::span<const FieldControl> controls;            // where a refusal sends the user
+    std::function<void(HWND)> load;                    // fills the controls, once
+    std::function<bool(HWND, BadField*)> store;        // OK; false keeps the dialog open, its message is shown already
+    std::function<void(HWND, int, int)> command;       // any other control: its id and its notification
+    std::function<void(HWND, model::LatLon)> clicked;  // on the map
+    std::function<void(HWND, const BadField&)> show;   // brings the refused field up, when it lies on a hidden page
+    std::function<INT_PTR(HWND, NMHDR*)> notify;       // WM_NOTIFY
+};
+
+// Whether it was closed by OK. Cancel takes back every preview and drops the record that was made for the dialog.
+bool RunEditor(const Editor& editor);
+
+// Stores, or sends the user to the refused field; whether all was stored. The dialog stays open.
+bool StoreOrRefuse(HWND dialog);
+
+// Whether Shift or Ctrl is held: then what is selected stays so (SelectSubject).
+bool ExtendKeyHeld();
+
+// The pair of position fields: limits their length and shows the texts.
+void ShowPosition(HWND dialog, int latitude, int longitude, const model::CoordinateTexts& texts);
+model::CoordinateTexts PositionIn(HWND dialog, int latitude, int longitude);
+
+}  // namespace dialogs

@@ -1,0 +1,47 @@
+// NdbDialogWin.cpp - the window "NDB Properties".
+#include "dialogs/NdbDialog.h"
+
+#include "dialogs/Editors.h"
+#include "dialogs/NavaidWin.h"
+
+namespace dialogs {
+
+namespace {
+
+constexpr FieldControl kControls[] = {
+    { Field::Ident, IDC_NAV_IDENT },         { Field::Name, IDC_NAV_NAME },
+    { Field::Frequency, IDC_NAV_FREQUENCY }, { Field::Latitude, IDC_NAV_LATITUDE },
+    { Field::Longitude, IDC_NAV_LONGITUDE }, { Field::Elevation, IDC_NAV_ELEVATION },
+    { Field::Range, IDC_NAV_RANGE },         { Field::Variation, IDC_NAV_VARIATION },
+};
+
+void Load(HWND dialog, const NdbFields& fields) {
+    ShowNavaid(dialog, fields);
+    platform::FillChoices(dialog, IDC_NAV_TYPE, kNdbTypes);
+    platform::SetChoice(dialog, IDC_NAV_TYPE, fields.type);
+}
+
+NdbFields Read(HWND dialog) {
+    NdbFields fields;
+    ReadNavaid(dialog, &fields);
+    fields.type = platform::ChoiceOf(dialog, IDC_NAV_TYPE);
+    return fields;
+}
+
+}  // namespace
+
+bool EditNdb(SceneryObject* ndb) {
+    const NdbFields shown = LoadNdbFields(ndb);
+    Editor editor;
+    editor.resource = IDD_NDB;
+    editor.topic = "#Navaids";
+    editor.controls = kControls;
+    editor.load = [&](HWND dialog) { Load(dialog, shown); };
+    editor.store = [&](HWND dialog, BadField* bad) { return StoreNdbFields(shown, Read(dialog), ndb, bad); };
+    editor.clicked = [&](HWND dialog, model::LatLon at) { ShowNavaidAt(dialog, ndb, at); };
+    return RunEditor(editor);
+}
+
+bool InsertNdbDialog() { return EditNdb(InsertNdb()); }
+
+}  // namespace dialogs

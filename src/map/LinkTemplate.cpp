@@ -1,0 +1,70 @@
+// LinkTemplate.cpp - see LinkTemplate.h.
+#include "map/LinkTemplate.h"
+
+#include "model/SceneryObject.h"
+
+namespace map {
+
+using model::TaxiLinkPayload;
+
+namespace {
+
+constexpr uint32_t kTypeMask = 0xF;
+constexpr uint32_t kDrawFlags = 0x60;
+constexpr uint32_t kIndexByte = 0xFF00;
+constexpr uint32_t kLinesAndLights = 0xFF0000, kCentreLine = 0x10000;
+constexpr uint32_t kAsphalt = 4;
+constexpr float kWidth = 22.86F;  // metres: 75 ft, what airliners need
+
+bool IsOnApron(uint32_t type) { return type == model::kApronRouteLink || type == model::kParkingLink; }
+
+TaxiLinkPayload FirstPattern(uint32_t type) {
+    TaxiLinkPayload link{};
+    link.flagsWord = type | kDrawFlags | kCentreLine | kAsphalt << 24;
+    link.width = kWidth;
+    return link;
+}
+
+struct Patterns {
+    TaxiLinkPayload taxiway = FirstPattern(model::kTaxiwayLink);
+    TaxiLinkPayload apron = FirstPattern(model::kParkingLink);
+};
+Patterns patterns;
+
+}  // namespace
+
+void UseLinkTemplate(const TaxiLinkPayload& link) {
+    const uint32_t type = model::LinkTypeOf(link);
+    if (type == model::kRunwayLink) return;
+    TaxiLinkPayload& pattern = IsOnApron(type) ? patterns.apron : patterns.taxiway;
+    pattern = link;
+    pattern.startIndex = pattern.endField = 0;
+    pattern.flagsWord &= ~kIndexByte;
+    pattern.start = pattern.end = pattern.designator = nullptr;  // the pattern outlives the airport
+}
+
+void ForgetLinkTemplates() { patterns = {}; }
+
+TaxiLinkPayload LinkFromTemplate(uint32_t type) {
+    TaxiLinkPayload link = IsOnApron(type) ? patterns.apron : patterns.taxiway;
+    SetLinkType(&link, type);
+    if (type == model::kRunwayLink) link.flagsWord &= ~kLinesAndLights;
+    return link;
+}
+
+void SetLinkType(TaxiLinkPayload* link, uint32_t type) {
+    const uint32_t old = model::LinkTypeOf(*link);
+    if (type == old) return;
+    link->flagsWord = (link->flagsWord & ~kTypeMask) | type;
+    if (type == model::kApronRouteLink) link->flagsWord &= ~kDrawFlags;
+    if (old == model::kApronRouteLink) link->flagsWord |= kDrawFlags;
+}
+
+void FitTypeToEnd(TaxiLinkPayload* link) {
+    if (model::KindOf(link->end) == model::kParkingSpot)
+        SetLinkType(link, model::kParkingLink);
+    else if (model::LinkTypeOf(*link) == model::kParkingLink)
+        SetLinkType(link, model::kApronRouteLink);
+}
+
+}  // namespace map

@@ -1,0 +1,27 @@
+// Placing.h - where on the ground a press lies.
+#pragma once
+
+#include "model/Geodesy.h"
+#include "model/Geometry.h"
+#include "model/Records.h"
+#include "model/SceneryObject.h"
+
+namespace map {
+
+model::LatLon UnderPixel(model::Pixel at);
+
+// A place that the file can hold: short of the poles. The longitude is brought to within half a turn.
+bool IsPlaceable(model::LatLon* position);
+
+model::EncodedPoint Encode(model::LatLon place);
+
+// The place under the pixel; false when there is none on earth.
+bool PlaceUnder(model::Pixel at, model::LatLon* place);
+
+// Whether the tower stands somewhere, so that it is drawn.
+bool IsTowerPlaced(const model::SceneryObject* tower);
+
+// At least kDragThreshold pixels apart in x or y.
+bool IsDrag(model::Pixel from, model::Pixel to);
+
+}  // namespace map

@@ -1,0 +1,70 @@
+// SpotColours.cpp - see SpotColours.h.
+#include "map/SpotColours.h"
+
+#include <cstring>
+
+#include "map/MapView.h"
+#include "model/Records.h"
+#include "platform/Text.h"
+
+namespace map {
+
+namespace {
+
+constexpr size_t kCodeSize = 4;
+
+// The code of a spot, zero padded there, as ParkingSpecs.txt spells it.
+std::string CodeOf(const model::SceneryObject* spot, uint32_t number) {
+    char code[kCodeSize + 1] = {};
+    std::memcpy(code, spot->payload + sizeof(model::ParkingSpotRecord) + number * kCodeSize, kCodeSize);
+    return platform::Utf8FromWindows1252(code);
+}
+
+uint32_t CodeCount(const model::SceneryObject* spot) {
+    const size_t room = (spot->payloadSize - sizeof(model::ParkingSpotRecord)) / kCodeSize;
+    const uint32_t count = model::ParkingCodeCount(model::PayloadAs<model::ParkingSpotRecord>(spot));
+    return count < room ? count : static_cast<uint32_t>(room);
+}
+
+std::string Joined(const std::string& codes, const std::string& code) { return codes + code + ','; }
+
+const app::ParkingSpec* Find(const std::unordered_map<std::string, const app::ParkingSpec*>& map,
+                             const std::string& key) {
+    const auto found = map.find(key);
+    return found == map.end() ? nullptr : found->second;
+}
+
+}  // namespace
+
+SpecIndex IndexSpecs() {
+    SpecIndex index;
+    for (const app::ParkingSpec& spec : app::parkingSpecs) {
+        if (spec.codes.empty()) continue;
+        std::string codes;
+        for (const std::string& code : spec.codes) {
+            codes = Joined(codes, code);
+            index.byAnyCode.emplace(code, &spec);
+        }
+        index.byCodes.emplace(codes, &spec);
+        index.byFirstCode.emplace(spec.codes.front(), &spec);
+    }
+    return index;
+}
+
+const app::ParkingSpec* SpecOfSpot(const SpecIndex& index, const model::SceneryObject* spot) {
+    const uint32_t count = CodeCount(spot);
+    if (count == 0 || index.byAnyCode.empty()) return nullptr;
+    std::string codes;
+    for (uint32_t i = 0; i < count; ++i) codes = Joined(codes, CodeOf(spot, i));
+    if (const app::ParkingSpec* same = Find(index.byCodes, codes)) return same;
+    const std::string first = CodeOf(spot, 0);
+    const app::ParkingSpec* own = Find(index.byFirstCode, first);
+    return own ? own : Find(index.byAnyCode, first);
+}
+
+Colour ColourOfSpec(const app::ParkingSpec& spec) {
+    if (layers.lights) return platform::Rgb(spec.halfRed, spec.halfGreen, spec.halfBlue);
+    return platform::Rgb(spec.red, spec.green, spec.blue);
+}
+
+}  // namespace map

@@ -1,0 +1,401 @@
+#include "map/LinkTool.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "fakes/ToolFixture.h"
+#include "map/NewObjects.h"
+#include "map/Selection.h"
+#include "model/Links.h"
+
+namespace {
+
+using namespace map;
+using namespace model;
+
+class LinkToolTest : public ToolFixture {
+protected:
+    void SetUp() override {
+        ToolFixture::SetUp();
+        SetTool(Tool::Links);
+    }
+    static void Use(uint32_t kind) {
+        tools.linkKind = kind;
+        SetTool(Tool::Links);
+    }
+    static std::string NameOf(const SceneryObject* designator) {
+        return std::string(PayloadAs<TaxiDesignatorRecord>(designator).name);
+    }
+    // Selects the link and pulls the handle at one of its ends.
+    static void PullEnd(SceneryObject* link, bool start, build::Place to) {
+        SetTool(Tool::Pointer);
+        DeselectAll();
+        link->flags |= kSelected;
+        Paint();
+        Point nearStart, nearEnd;
+        ASSERT_TRUE(LinkHandlesOf(link, &nearStart, &nearEnd));
+        const Point handle = start ? nearStart : nearEnd;
+        OnButtonDown({ int(handle.x), int(handle.y) }, {});
+        DragTo(to);
+        Release(to);
+        Paint();
+    }
+};
+
+TEST_F(LinkToolTest, ALinkJoinsTheTwoNodesItIsDrawnBetween) {
+    SceneryObject* a = build::Node({ -100, 0 });
+    SceneryObject* b = build::Node({ 100, 0 });
+    build::Designator("");
+    const ByteList before = File();
+    Drag({ -100, 0 }, { 100, 0 });
+    SceneryObject* link = state.tail;
+    ASSERT_EQ(KindOf(link), kTaxiLink);
+    EXPECT_EQ(Copied(LinkOf(link).start), a);
+    EXPECT_EQ(Copied(LinkOf(link).end), b);
+    EXPECT_EQ(LinkTypeOf(LinkOf(link)), kTaxiwayLink);
+    EXPECT_EQ(link->flags, kTaxiLink | 0x2020u);
+    ExpectOneAction(before);
+}
+
+TEST_F(LinkToolTest, EachKindMakesItsType) {
+    const std::pair<uint32_t, uint32_t> rows[] = {
+        { 1, kTaxiwayLink }, { 2, kRunwayLink }, { 4, kApronRouteLink }, { 5, kClosedLink }
+    };
+    double north = -200;
+    for (const auto& [kind, type] : rows) {
+        Use(kind);
+        Drag({ -100, north }, { 100, north });
+        EXPECT_EQ(LinkTypeOf(LinkOf(state.tail)), type);
+        north += 100;
+    }
+}
+
+TEST_F(LinkToolTest, EmptyEndsGetNormalNodes) {
+    const ByteList before = File();
+    tools.nodeKind = kHoldShortNode;
+    Drag({ -100, 0 }, { 100, 0 });
+    ASSERT_EQ(AllOf(kTaxiNode).size(), 2u);
+    for (const SceneryObject* node : AllOf(kTaxiNode)) EXPECT_EQ(PayloadAs<TaxiNodeRecord>(node).type, kNormalNode);
+    EXPECT_LT(DistanceTo(Copied(LinkOf(state.tail).start), { -100, 0 }), 1.6);
+    EXPECT_LT(DistanceTo(Copied(LinkOf(state.tail).end), { 100, 0 }), 1.6);
+    ExpectOneAction(before);
+}
+
+TEST_F(LinkToolTest, ALinkToASpotIsAParkingLinkWithoutAName) {
+    SceneryObject* node = build::Node({ -100, 0 });
+    SceneryObject* spot = BigSpot({ 100, 0 });
+    layers.highlightedDesignator = build::Designator("A");
+    Drag({ -100, 0 }, { 100, 0 });
+    EXPECT_EQ(Copied(LinkOf(state.tail).start), node);
+    EXPECT_EQ(Copied(LinkOf(state.tail).end), spot);
+    EXPECT_EQ(LinkTypeOf(LinkOf(state.tail)), kParkingLink);
+    EXPECT_EQ(NameOf(Copied(LinkOf(state.tail).designator)), "");
+}
+
+TEST_F(LinkToolTest, ALinkFromASpotIsTurnedRound) {
+    SceneryObject* node = build::Node({ -100, 0 });
+    SceneryObject* spot = BigSpot({ 100, 0 });
+    Drag({ 100, 0 }, { -100, 0 });
+    EXPECT_EQ(Copied(LinkOf(state.tail).start), node);
+    EXPECT_EQ(Copied(LinkOf(state.tail).end), spot);
+    EXPECT_EQ(LinkTypeOf(LinkOf(state.tail)), kParkingLink);
+}
+
+TEST_F(LinkToolTest, TwoSpotsAreNotJoined) {
+    BigSpot({ -100, 0 });
+    BigSpot({ 100, 0 });
+    const ByteList before = File();
+    Drag({ -100, 0 }, { 100, 0 });
+    EXPECT_EQ(File(), before);
+    EXPECT_FALSE(CanUndo());
+    EXPECT_NE(fake.remark, "");
+    Press({ 300, 200 });
+    EXPECT_EQ(fake.remark, "");
+}
+
+TEST_F(LinkToolTest, AReleaseOnTheStartCreatesNothing) {
+    build::Node({ -100, 0 });
+    const ByteList before = File();
+    Drag({ -100, 0 }, { -97, 2 });
+    EXPECT_EQ(File(), before);
+    Drag({ 100, 0 }, { 101, 1 });  // a click on the ground
+    EXPECT_EQ(File(), before);
+    Drag({ 100, 0 }, { 104, 0 });  // within the node that would be made
+    EXPECT_EQ(File(), before);
+    EXPECT_FALSE(CanUndo());
+    EXPECT_FALSE(state.busy);
+}
+
+TEST_F(LinkToolTest, AnEndOnALinkSplitsIt) {
+    SceneryObject* a = build::Node({ 0, -100 });
+    SceneryObject* b = build::Node({ 0, 100 });
+    build::Link(a, b, kClosedLink);
+    const ByteList before = File();
+    Drag({ -100, 0 }, { 3, 0 });
+    ASSERT_EQ(AllOf(kTaxiNode).size(), 4u);
+    SceneryObject* middle = Copied(LinkOf(state.tail).end);
+    EXPECT_LT(DistanceTo(middle, { 0, 0 }), 0.5);
+    EXPECT_EQ(AllOf(kTaxiLink).size(), 3u);
+    EXPECT_EQ(LinkTypeOf(LinkOf(Between(middle, a))), kClosedLink);
+    EXPECT_EQ(LinkTypeOf(LinkOf(Between(middle, b))), kClosedLink);
+    ExpectOneAction(before);
+}
+
+TEST_F(LinkToolTest, BothEndsOnOneLinkReplaceThePieceBetween) {
+    SceneryObject* a = build::Node({ -200, 0 });
+    SceneryObject* b = build::Node({ 200, 0 });
+    build::Link(a, b);
+    const ByteList before = File();
+    Use(kClosedLink);
+    Drag({ -100, 0 }, { 100, 0 });
+    EXPECT_EQ(AllOf(kTaxiLink).size(), 3u);
+    EXPECT_EQ(LinkTypeOf(LinkOf(state.tail)), kClosedLink);
+    ExpectOneAction(before);
+}
+
+TEST_F(LinkToolTest, ANewLinkReplacesTheOneBetweenTheSameEnds) {
+    SceneryObject* a = build::Node({ -100, 0 });
+    SceneryObject* b = build::Node({ 100, 0 });
+    build::Link(b, a, kClosedLink);
+    Drag({ -100, 0 }, { 100, 0 });
+    EXPECT_EQ(AllOf(kTaxiLink).size(), 1u);
+    EXPECT_EQ(LinkTypeOf(LinkOf(state.tail)), kTaxiwayLink);
+}
+
+TEST_F(LinkToolTest, NewLinksGetTheCurrentName) {
+    SceneryObject* name = build::Designator("B");
+    layers.highlightedDesignator = name;
+    Drag({ -100, 0 }, { 100, 0 });
+    EXPECT_EQ(Copied(LinkOf(state.tail).designator), name);
+}
+
+TEST_F(LinkToolTest, WithoutACurrentNameThereIsABlankOne) {
+    build::Designator("B");
+    const ByteList before = File();
+    Drag({ -100, 0 }, { 100, 0 });
+    ASSERT_EQ(AllOf(kTaxiDesignator).size(), 2u);
+    SceneryObject* blank = BlankDesignator();
+    ASSERT_NE(blank, nullptr);
+    EXPECT_EQ(Copied(LinkOf(state.tail).designator), blank);
+    Drag({ -100, 100 }, { 100, 100 });
+    EXPECT_EQ(Copied(LinkOf(state.tail).designator), blank);
+    Undo();
+    ExpectOneAction(before);
+}
+
+TEST_F(LinkToolTest, ANameThatIsGoneIsNotUsed) {
+    SceneryObject* name = build::Designator("B");
+    layers.highlightedDesignator = name;
+    BeginAction();
+    DeleteObject(name);
+    Drag({ -100, 0 }, { 100, 0 });
+    EXPECT_EQ(Copied(LinkOf(state.tail).designator), BlankDesignator());
+}
+
+TEST_F(LinkToolTest, ARunwayLinkIsNamedAfterTheRunwayUnderIt) {
+    SceneryObject* runway = build::Runway(36);
+    PayloadAs<RunwayPayload>(runway).body.width = 47;
+    Use(kRunwayLink);
+    Drag({ 0, -100 }, { 0, 100 });
+    EXPECT_EQ(Copied(LinkOf(state.tail).designator), runway);
+    EXPECT_EQ(Copied(LinkOf(state.tail).width), 47);
+    EXPECT_EQ(fake.remark, "");
+}
+
+TEST_F(LinkToolTest, ElsewhereARunwayLinkIsMadeAndARemarkSaysSo) {
+    Use(kRunwayLink);
+    Drag({ 0, -100 }, { 0, 100 });
+    EXPECT_EQ(LinkTypeOf(LinkOf(state.tail)), kRunwayLink);
+    EXPECT_EQ(Copied(LinkOf(state.tail).designator), nullptr);
+    EXPECT_NE(fake.remark, "");
+}
+
+TEST_F(LinkToolTest, ARunwayIsNoNameForATaxiway) {
+    layers.highlightedDesignator = build::Runway(36);
+    Drag({ 200, -100 }, { 200, 100 });
+    EXPECT_EQ(Copied(LinkOf(state.tail).designator), BlankDesignator());
+}
+
+TEST_F(LinkToolTest, NewLinksLookLikeTheirTemplate) {
+    TaxiLinkPayload pattern{};
+    pattern.flagsWord = kClosedLink | 0x60 | 7 << 8 | 0xA50000 | 22u << 24;
+    pattern.width = 31;
+    pattern.carried[1] = 77;
+    pattern.start = state.airport;
+    UseLinkTemplate(pattern);
+    Drag({ -100, 0 }, { 100, 0 });
+    const TaxiLinkPayload& link = LinkOf(state.tail);
+    EXPECT_EQ(Copied(link.flagsWord), kTaxiwayLink | 0x60u | 0xA50000u | 22u << 24);
+    EXPECT_EQ(Copied(link.width), 31);
+    EXPECT_EQ(Copied(link.carried[1]), 77u);
+}
+
+TEST_F(LinkToolTest, NothingIsDrawnWhereThereIsNoPlaceOnEarth) {
+    view.span = 1e300;
+    ResizeView(kWidth, kHeight);
+    OnButtonDown({ 10, 10 }, {});
+    OnMouseMove({ 300, 300 }, {});
+    OnButtonUp({ 300, 300 }, {});
+    EXPECT_FALSE(CanUndo());
+    EXPECT_FALSE(state.busy);
+}
+
+TEST_F(LinkToolTest, WhatWasDeletedUnderTheDragIsNotUsed) {
+    SceneryObject* a = build::Node({ -100, 0 });
+    Paint();
+    Press({ -100, 0 });
+    BeginAction();
+    DeleteObject(a);
+    DragTo({ 100, 0 });
+    Release({ 100, 0 });
+    EXPECT_EQ(CountKind(kTaxiLink), 0u);
+    EXPECT_FALSE(state.busy);
+}
+
+TEST_F(LinkToolTest, NothingIsUndoneUnderTheDrag) {
+    Drag({ -100, 0 }, { 100, 0 });
+    Press({ 0, 100 });
+    EXPECT_TRUE(state.busy);
+    Undo();
+    EXPECT_EQ(CountKind(kTaxiLink), 1u);
+    CancelDrag();
+    Undo();
+    EXPECT_EQ(CountKind(kTaxiLink), 0u);
+}
+
+TEST_F(LinkToolTest, TheEndThatAReleaseWouldTakeIsKnown) {
+    build::Node({ -100, 0 });
+    SceneryObject* b = build::Node({ 100, 0 });
+    build::Link(build::Node({ 50, 100 }), build::Node({ 50, 300 }));
+    Paint();
+    Press({ -100, 0 });
+    DragTo({ -98, 0 });
+    EXPECT_FALSE(CurrentLinkDrag().hasTo);
+    DragTo({ 101, 2 });
+    ASSERT_TRUE(CurrentLinkDrag().hasTo);
+    EXPECT_EQ(CurrentLinkDrag().to.object, b);
+    DragTo({ 54, 200 });
+    EXPECT_TRUE(CurrentLinkDrag().to.onLink);
+    EXPECT_LT(DistanceBetween(CurrentLinkDrag().to.position, build::At({ 50, 200 })), 1.6);
+    DragTo({ 0, 200 });
+    EXPECT_TRUE(CurrentLinkDrag().hasTo);
+    EXPECT_FALSE(CurrentLinkDrag().to.onLink);
+    EXPECT_EQ(CurrentLinkDrag().to.object, nullptr);
+}
+
+TEST_F(LinkToolTest, TooManyNodesAreRefused) {
+    for (int i = 0; i < 4095; ++i) build::Node({ 5000.0 + i, 0 });
+    Paint();
+    Drag({ -100, 0 }, { 100, 0 });  // needs two
+    EXPECT_EQ(CountKind(kTaxiNode), 4095u);
+    EXPECT_NE(fake.remark, "");
+    SetTool(Tool::Nodes);
+    Click({ 0, 100 });
+    EXPECT_EQ(CountKind(kTaxiNode), 4096u);
+    Click({ 0, 200 });
+    EXPECT_EQ(CountKind(kTaxiNode), 4096u);
+}
+
+TEST_F(LinkToolTest, AnEndIsReattachedToAnotherNode) {
+    SceneryObject* a = build::Node({ -100, 0 });
+    SceneryObject* b = build::Node({ 100, 0 });
+    SceneryObject* c = build::Node({ 0, 150 });
+    SceneryObject* link = build::Link(a, b, kClosedLink, build::Designator("A"));
+    const ByteList before = File();
+    PullEnd(link, false, { 0, 150 });
+    EXPECT_EQ(Copied(LinkOf(link).start), a);
+    EXPECT_EQ(Copied(LinkOf(link).end), c);
+    EXPECT_EQ(link->flags & 0x2020u, 0x2020u);
+    EXPECT_EQ(CountKind(kTaxiNode), 3u);  // the node that it left stays
+    ExpectOneAction(before);
+}
+
+TEST_F(LinkToolTest, ReattachedToASpotALinkBecomesAParkingLinkAndBack) {
+    SceneryObject* a = build::Node({ -100, 0 });
+    SceneryObject* b = build::Node({ 100, 0 });
+    SceneryObject* spot = BigSpot({ 0, 150 });
+    SceneryObject* link = build::Link(a, b, kTaxiwayLink, build::Designator("A"));  // the last of the list
+    const ByteList before = File();
+    PullEnd(link, true, { 0, 150 });
+    EXPECT_EQ(Copied(LinkOf(link).start), b);
+    EXPECT_EQ(Copied(LinkOf(link).end), spot);
+    EXPECT_EQ(LinkTypeOf(LinkOf(link)), kParkingLink);
+    EXPECT_EQ(NameOf(Copied(LinkOf(link).designator)), "");
+    EXPECT_EQ(build::List(), build::ListFromTail());
+    ExpectOneAction(before);
+    PullEnd(link, false, { -100, 0 });
+    EXPECT_EQ(Copied(LinkOf(link).end), a);
+    EXPECT_EQ(LinkTypeOf(LinkOf(link)), kApronRouteLink);
+}
+
+TEST_F(LinkToolTest, ReattachedOntoItselfALinkGetsShorter) {
+    SceneryObject* a = build::Node({ -100, 0 });
+    SceneryObject* b = build::Node({ 100, 0 });
+    SceneryObject* link = build::Link(a, b);
+    PullEnd(link, false, { 20, 0 });
+    EXPECT_EQ(CountKind(kTaxiLink), 1u);
+    EXPECT_LT(DistanceTo(Copied(LinkOf(link).end), { 20, 0 }), 2);
+    EXPECT_EQ(CountKind(kTaxiNode), 3u);
+}
+
+TEST_F(LinkToolTest, ReattachingReplacesTheLinkThatIsThere) {
+    SceneryObject* a = build::Node({ -100, 0 });
+    SceneryObject* b = build::Node({ 100, 0 });
+    SceneryObject* c = build::Node({ 0, 150 });
+    SceneryObject* link = build::Link(a, b, kClosedLink);
+    build::Link(c, a);
+    const ByteList before = File();
+    PullEnd(link, false, { 0, 150 });
+    EXPECT_EQ(AllOf(kTaxiLink), std::vector<SceneryObject*>{ link });
+    ExpectOneAction(before);
+}
+
+TEST_F(LinkToolTest, ReattachingToEitherOfItsOwnEndsOrNotAtAllChangesNothing) {
+    SceneryObject* a = build::Node({ -100, 0 });
+    SceneryObject* b = build::Node({ 100, 0 });
+    SceneryObject* link = build::Link(a, b);
+    const ByteList before = File();
+    PullEnd(link, false, { -100, 0 });
+    PullEnd(link, false, { 100, 0 });
+    Point nearStart, nearEnd;
+    ASSERT_TRUE(LinkHandlesOf(link, &nearStart, &nearEnd));
+    OnButtonDown({ int(nearEnd.x), int(nearEnd.y) }, {});
+    OnButtonUp({ int(nearEnd.x) + 1, int(nearEnd.y) }, {});
+    EXPECT_EQ(File(), before);
+    EXPECT_FALSE(CanUndo());
+}
+
+TEST_F(LinkToolTest, ReattachingBetweenTwoSpotsIsRefused) {
+    SceneryObject* a = build::Node({ -100, 0 });
+    SceneryObject* link = build::Link(a, BigSpot({ 150, 0 }), kParkingLink);
+    BigSpot({ 0, 150 });
+    const ByteList before = File();
+    PullEnd(link, true, { 0, 150 });
+    EXPECT_EQ(File(), before);
+    EXPECT_FALSE(CanUndo());
+}
+
+TEST_F(LinkToolTest, OnlyASingleSelectedLinkHasHandles) {
+    SceneryObject* a = build::Node({ -100, 0 });
+    SceneryObject* link = build::Link(a, build::Node({ 100, 0 }));
+    EXPECT_EQ(OnlySelectedLink(), nullptr);
+    link->flags |= kSelected;
+    EXPECT_EQ(OnlySelectedLink(), link);
+    a->flags |= kSelected;
+    EXPECT_EQ(OnlySelectedLink(), nullptr);
+}
+
+TEST_F(LinkToolTest, ATooShortLinkIsRefusedWithARemark) {
+    Paint();
+    Press({ 0, 0 });
+    DragTo({ 5, 0 });
+    Release({ 5, 0 });
+    EXPECT_FALSE(CanUndo());
+    EXPECT_NE(fake.remark, "");
+    Press({ 0, 0 });  // a click is no attempt
+    Release({ 1, 0 });
+    EXPECT_EQ(fake.remark, "");
+}
+
+}  // namespace

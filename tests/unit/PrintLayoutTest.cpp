@@ -1,0 +1,307 @@
+// PrintLayoutTest.cpp - scale, box, clip, pens and title of the printed page.
+#include "map/PrintLayout.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "fakes/MapFixture.h"
+
+namespace {
+
+using map::Paper;
+using map::PrintDevice;
+using map::PrintPage;
+using map::PrintSettings;
+
+constexpr double kFeet = model::kFeetPerMetre;
+
+// A fine printer with a sheet of A4.
+constexpr PrintDevice kA4Printer = { 4958, 7016, 150, 150, 4658, 6716, 600, 600 };
+
+PrintSettings MetricPage() {
+    PrintSettings settings;
+    settings.paper = map::UsualPaper(true);
+    return settings;
+}
+
+// The view of the fixture shows 1600 m x 1200 m.
+struct PrintLayoutTest : MapFixture {
+    void SetUp() override {
+        MapFixture::SetUp();
+        app::settings.metric = true;
+        Open();
+    }
+    static PrintPage Fitted(PrintSettings* settings) {
+        map::FitPrintScale(settings);
+        return map::PlanPage(*settings, kA4Printer);
+    }
+    static PrintPage AtScale(PrintSettings* settings, double scale) {
+        settings->fitPage = false;
+        settings->printScale = scale;
+        return Fitted(settings);
+    }
+};
+
+platform::Pixel CentreOf(const CanvasCall& ellipse) {
+    return { (ellipse.points[0].x + ellipse.points[1].x) / 2, (ellipse.points[0].y + ellipse.points[1].y) / 2 };
+}
+
+}  // namespace
+
+TEST_F(PrintLayoutTest, AWideViewOnATallPageIsLimitedByItsWidth) {
+    app::settings.metric = false;
+    PrintSettings settings;
+    settings.paper = map::UsualPaper(false);
+    map::FitPrintScale(&settings);
+    EXPECT_NEAR(settings.printScale, 1600 * kFeet / 6.5, 1e-6);
+    std::swap(settings.paper.width, settings.paper.height);
+    map::FitPrintScale(&settings);
+    EXPECT_NEAR(settings.printScale, 1200 * kFeet / 6.5, 1e-6) << "now the height limits";
+}
+
+TEST_F(PrintLayoutTest, GroundAndPaperUnitsAreIndependent) {
+    PrintSettings settings = MetricPage();
+    map::FitPrintScale(&settings);
+    EXPECT_NEAR(settings.printScale, 100, 1e-9);
+    EXPECT_EQ(map::ScaleLabel(settings.paper), "S&cale (m/cm):");
+    EXPECT_EQ(map::ScaleLabel(map::UsualPaper(false)), "S&cale (m/in):");
+    app::settings.metric = false;
+    map::FitPrintScale(&settings);
+    EXPECT_NEAR(settings.printScale, 100 * kFeet, 1e-6);
+    EXPECT_EQ(map::ScaleLabel(settings.paper), "S&cale (ft/cm):");
+    EXPECT_EQ(map::ScaleLabel(map::UsualPaper(false)), "S&cale (ft/in):");
+}
+
+TEST_F(PrintLayoutTest, AScaleThatWasChosenStaysUntilFitIsAskedFor) {
+    PrintSettings settings = MetricPage();
+    AtScale(&settings, 250);
+    Scale(2);
+    map::FitPrintScale(&settings);
+    EXPECT_EQ(map::ScaleText(settings), "250");
+    settings.fitPage = true;
+    map::FitPrintScale(&settings);
+    EXPECT_EQ(map::ScaleText(settings), "25");
+}
+
+TEST_F(PrintLayoutTest, NoViewGivesAScaleBelowEight) {
+    PrintSettings settings = MetricPage();
+    Scale(1000);
+    map::FitPrintScale(&settings);
+    EXPECT_EQ(settings.printScale, map::kLeastPrintScale);
+    Scale(1e-300);
+    map::FitPrintScale(&settings);
+    EXPECT_EQ(map::ScaleText(settings), "4294967295");
+}
+
+TEST_F(PrintLayoutTest, ASpanOfNothingBecomesTheFirstOne) {
+    PrintSettings settings = MetricPage();
+    map::view.span = 0;
+    map::ResizeView(kWidth, kHeight);
+    map::FitPrintScale(&settings);
+    EXPECT_EQ(map::view.span, map::kInitialSpan);
+    EXPECT_NEAR(settings.printScale, map::kInitialSpan * kWidth / kHeight / 16, 1e-6);
+}
+
+TEST_F(PrintLayoutTest, TheFittedViewFillsTheMarginsInOneDirectionAndIsCentredInTheOther) {
+    PrintSettings settings = MetricPage();
+    const PrintPage page = Fitted(&settings);
+    EXPECT_EQ(page.box.left, std::lround(2.5 * 4958 / 21 - 150));
+    EXPECT_EQ(page.box.right, std::lround(18.5 * 4958 / 21 - 150));
+    EXPECT_EQ(page.box.top, std::lround((29.7 / 2 - 6) * 7016 / 29.7 - 150));
+    EXPECT_EQ(page.box.bottom, std::lround((29.7 / 2 + 6) * 7016 / 29.7 - 150));
+    EXPECT_NEAR(page.pixelsPerMetre, (4958 / 21.0 + 7016 / 29.7) / 2 / 100, 1e-9);
+}
+
+TEST_F(PrintLayoutTest, AtALargeScaleTheMarginsCutTheView) {
+    PrintSettings settings = MetricPage();
+    const PrintPage page = AtScale(&settings, 10);
+    EXPECT_EQ(page.box.left, std::lround(2.5 * 4958 / 21 - 150));
+    EXPECT_EQ(page.box.right, std::lround(18.5 * 4958 / 21 - 150));
+    EXPECT_EQ(page.box.top, std::lround(2.5 * 7016 / 29.7 - 150));
+    EXPECT_EQ(page.box.bottom, std::lround(27.2 * 7016 / 29.7 - 150));
+}
+
+TEST_F(PrintLayoutTest, AtASmallScaleTheViewLiesInTheMiddle) {
+    PrintSettings settings = MetricPage();
+    const PrintPage page = AtScale(&settings, 400);
+    EXPECT_EQ(page.box.left, std::lround((10.5 - 2) * 4958 / 21 - 150));
+    EXPECT_EQ(page.box.right, std::lround((10.5 + 2) * 4958 / 21 - 150));
+}
+
+TEST_F(PrintLayoutTest, NothingReachesBeyondWhatThePrinterCanReach) {
+    PrintSettings settings = MetricPage();
+    settings.paper.left = settings.paper.top = settings.paper.right = settings.paper.bottom = 0;
+    const PrintPage page = AtScale(&settings, 10);
+    EXPECT_EQ(page.box, (platform::PixelRect{ 0, 0, 4658, 6716 }));
+}
+
+TEST_F(PrintLayoutTest, WithoutRoomNothingIsDrawn) {
+    PrintSettings settings = MetricPage();
+    settings.printBorder = settings.printTitle = true;
+    settings.paper.left = 30;
+    const PrintPage page = Fitted(&settings);
+    EXPECT_TRUE(map::IsEmpty(page));
+    RecordingCanvas log;
+    map::PaintPage(&log.canvas, page);
+    map::PaintPageFrame(&log.canvas, page, settings);
+    EXPECT_TRUE(log.calls.empty());
+    settings.paper = {};
+    EXPECT_TRUE(map::IsEmpty(Fitted(&settings)));
+}
+
+TEST_F(PrintLayoutTest, AThousandMetresAreWhatTheScaleSays) {
+    build::Node({ 0, -500 });
+    build::Node({ 0, 500 });
+    PrintSettings settings = MetricPage();
+    const PrintPage page = Fitted(&settings);
+    RecordingCanvas log;
+    map::PaintPage(&log.canvas, page);
+    std::vector<platform::Pixel> centres;
+    for (const CanvasCall& call : log.FilledWith(map::InkOf(map::Ink::Node))) {
+        if (call.name == "ellipse") centres.push_back(CentreOf(call));
+    }
+    ASSERT_EQ(centres.size(), 2u);
+    const double pixels = 10 * 600 / 2.54;  // 1000 m at 100 m to the centimetre
+    EXPECT_NEAR(centres[0].y - centres[1].y, pixels, pixels * 0.0005 + 1);
+    EXPECT_NEAR((centres[0].y + centres[1].y) / 2.0, (page.box.bottom - page.box.top) / 2.0, 1.5) << "in the middle";
+    EXPECT_NEAR(centres[0].x, (page.box.right - page.box.left) / 2.0, 1.5);
+}
+
+TEST_F(PrintLayoutTest, TheMapIsClippedToItsBox) {
+    build::Node();
+    PrintSettings settings = MetricPage();
+    const PrintPage page = Fitted(&settings);
+    RecordingCanvas log;
+    map::PaintPage(&log.canvas, page);
+    ASSERT_FALSE(log.calls.empty());
+    ASSERT_EQ(log.calls.front().name, "clip");
+    const int32_t right = page.box.right - page.box.left, bottom = page.box.bottom - page.box.top;
+    const std::vector<platform::Pixel> corners = { { 0, 0 }, { right, 0 }, { right, bottom }, { 0, bottom } };
+    EXPECT_EQ(log.calls.front().path.points, corners);
+    EXPECT_EQ(log.calls.back().name, "unclip");
+    for (const CanvasCall& call : log.Drawn()) EXPECT_GE(call.clipDepth, 1);
+}
+
+TEST_F(PrintLayoutTest, LinesStayVisibleOnAFinePrinter) {
+    PrintSettings settings = MetricPage();
+    EXPECT_EQ(Fitted(&settings).penWidth, 3);
+    EXPECT_EQ(AtScale(&settings, 500).penWidth, 1);  // 0.47 pixels a metre
+    EXPECT_EQ(AtScale(&settings, 350).penWidth, 2);  // 0.67
+    EXPECT_EQ(AtScale(&settings, 50000).penWidth, 1);
+    build::Link(build::Node(), build::Node({ 100, 0 }));
+    const PrintPage page = AtScale(&settings, 100);
+    RecordingCanvas log;
+    map::PaintPage(&log.canvas, page);
+    for (const CanvasCall& call : log.calls) EXPECT_GE(call.penWidth, 3) << call.name;
+    EXPECT_EQ(log.canvas.thinnestPen, 1) << "for whatever is drawn next";
+}
+
+TEST_F(PrintLayoutTest, TheBorderIsOnePixelOfBlackAroundTheBox) {
+    PrintSettings settings = MetricPage();
+    const PrintPage page = Fitted(&settings);
+    RecordingCanvas none;
+    map::PaintPageFrame(&none.canvas, page, settings);
+    EXPECT_TRUE(none.calls.empty());
+    settings.printBorder = true;
+    RecordingCanvas log;
+    map::PaintPageFrame(&log.canvas, page, settings);
+    ASSERT_EQ(log.Drawn().size(), 1u);
+    const CanvasCall border = log.Drawn()[0];
+    EXPECT_EQ(border.penWidth, 1);
+    EXPECT_EQ(border.pen, 0u);
+    EXPECT_EQ(border.brush, platform::kNoBrush);
+    const int32_t right = page.box.right - page.box.left - 1, bottom = page.box.bottom - page.box.top - 1;
+    const std::vector<platform::Pixel> corners = { { 0, 0 }, { right, 0 }, { right, bottom }, { 0, bottom } };
+    EXPECT_EQ(border.points, corners);
+}
+
+TEST_F(PrintLayoutTest, TheTitleTellsAirportAndScale) {
+    model::SetAirportName("Z\xFCrich");
+    PrintSettings settings = MetricPage();
+    settings.printTitle = true;
+    const PrintPage page = AtScale(&settings, 123.6);
+    RecordingCanvas log;
+    map::PaintPageFrame(&log.canvas, page, settings);
+    ASSERT_EQ(log.Drawn().size(), 1u);
+    const CanvasCall title = log.Drawn()[0];
+    EXPECT_EQ(title.text, "KTST  Z\xC3\xBCrich,  Scale: 124 m/cm");
+    EXPECT_EQ(title.run.at, (platform::Pixel{ 8, 5 }));
+    EXPECT_EQ(title.run.height, -83) << "ten points at 600 to the inch";
+    EXPECT_EQ(title.run.colour, 0u);
+    EXPECT_FALSE(title.run.bold);
+}
+
+TEST_F(PrintLayoutTest, TheViewIsAsBefore) {
+    map::view.rotation = 1.25;
+    map::view.centre.lat += 0.001;
+    map::view.lastDragPoint = { 7, 9 };
+    const map::MapView before = map::view;
+    PrintSettings settings = MetricPage();
+    const PrintPage page = Fitted(&settings);
+    RecordingCanvas log;
+    fake.repaints = 0;
+    map::PaintPage(&log.canvas, page);
+    EXPECT_EQ(map::view.centre.lat, before.centre.lat);
+    EXPECT_EQ(map::view.centre.lon, before.centre.lon);
+    EXPECT_EQ(map::view.span, before.span);
+    EXPECT_EQ(map::view.pixelsPerMetre, before.pixelsPerMetre);
+    EXPECT_EQ(map::view.rotation, before.rotation);
+    EXPECT_EQ(map::view.clientWidth, before.clientWidth);
+    EXPECT_EQ(map::view.clientHeight, before.clientHeight);
+    EXPECT_EQ(map::view.screenCentreX, before.screenCentreX);
+    EXPECT_EQ(map::view.screenCentreY, before.screenCentreY);
+    EXPECT_EQ(map::view.fineness, 1);
+    EXPECT_EQ(map::view.lastDragPoint, before.lastDragPoint);
+    EXPECT_GT(fake.repaints, 0) << "or clicks would meet the places on the page";
+}
+
+TEST_F(PrintLayoutTest, TheGridIsAsWideOnPaperAsOnTheScreen) {
+    app::settings.showLatLongGrid = true;
+    PrintSettings settings = MetricPage();
+    const auto labels = [](const RecordingCanvas& log) { return log.Drawn("text").size(); };
+    Scale(0.05);
+    RecordingCanvas screen, paper;
+    Paint(&screen);
+    map::PaintPage(&paper.canvas, Fitted(&settings));
+    ASSERT_GT(labels(screen), 0u);
+    EXPECT_LE(labels(paper), labels(screen));
+}
+
+TEST_F(PrintLayoutTest, AScaleIsReadAsAWholeNumberOfAtLeastEight) {
+    EXPECT_EQ(map::ScaleFromText("250"), 250);
+    EXPECT_EQ(map::ScaleFromText("  250 "), 250);
+    EXPECT_EQ(map::ScaleFromText("12.9"), 12);
+    EXPECT_EQ(map::ScaleFromText("8"), 8);
+    for (const char* text : { "7", "0", "", "   ", "-20", "many" }) EXPECT_EQ(map::ScaleFromText(text), 8) << text;
+    EXPECT_EQ(map::ScaleFromText("99999999999999999999"), 4294967295.0);
+}
+
+TEST_F(PrintLayoutTest, ThePaperIsWhatThePageSetupTells) {
+    const Paper paper = map::PaperFrom({ 21590, 27940, 1000, 1100, 1200, 1300 }, true);
+    EXPECT_TRUE(paper.metric);
+    EXPECT_DOUBLE_EQ(paper.width, 21.59);
+    EXPECT_DOUBLE_EQ(paper.height, 27.94);
+    EXPECT_DOUBLE_EQ(paper.left, 1);
+    EXPECT_DOUBLE_EQ(paper.top, 1.1);
+    EXPECT_DOUBLE_EQ(paper.right, 1.2);
+    EXPECT_DOUBLE_EQ(paper.bottom, 1.3);
+    EXPECT_DOUBLE_EQ(map::PaperFrom({ 8268, 11693, 0, 0, 0, 0 }, false).left, 1) << "no margins told";
+    EXPECT_DOUBLE_EQ(map::PaperFrom({}, false).height, 11) << "no paper told";
+    EXPECT_DOUBLE_EQ(map::PaperFrom({ 8268, 11693, 0, 500, 0, 0 }, false).left, 0) << "a margin may be nothing";
+}
+
+TEST_F(PrintLayoutTest, ASheetChosenWithThePrinterTakesTheOthersPlace) {
+    Paper paper = map::UsualPaper(true);
+    map::TakeSheetOf(kA4Printer, &paper);
+    EXPECT_DOUBLE_EQ(paper.width, 21.0) << "what differs by a rounding stays";
+    PrintDevice turned = kA4Printer;
+    std::swap(turned.sheetWidth, turned.sheetHeight);
+    map::TakeSheetOf(turned, &paper);
+    EXPECT_NEAR(paper.width, 29.7, 0.01);
+    EXPECT_NEAR(paper.height, 21.0, 0.02);
+    Paper inches = map::UsualPaper(false);
+    map::TakeSheetOf(kA4Printer, &inches);
+    EXPECT_NEAR(inches.width, 4958 / 600.0, 1e-9);
+    map::TakeSheetOf({}, &inches);
+    EXPECT_NEAR(inches.width, 0, 1e-9);
+}

@@ -1,0 +1,136 @@
+// The manual as it ships: its links, its pictures, and the topics that the program opens.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <regex>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path Checkout() { return fs::path(TARVO_TEST_DATA).parent_path().parent_path(); }
+
+std::string ReadText(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return { std::istreambuf_iterator<char>(file), {} };
+}
+
+// What the first group matches, at every match.
+std::vector<std::string> AllMatches(const std::string& text, const std::string& pattern) {
+    std::vector<std::string> found;
+    const std::regex expression(pattern);
+    for (std::sregex_iterator it(text.begin(), text.end(), expression), end; it != end; ++it) found.push_back((*it)[1]);
+    return found;
+}
+
+class ReadMeTest : public testing::Test {
+protected:
+    std::string page = ReadText(Checkout() / "help" / "ReadMe.htm");
+    std::vector<std::string> ids = AllMatches(page, " id=\"([^\"]*)\"");
+
+    void SetUp() override { ASSERT_FALSE(ids.empty()) << "the manual was not read"; }
+    bool HasTopic(const std::string& id) const { return std::find(ids.begin(), ids.end(), id) != ids.end(); }
+};
+
+TEST_F(ReadMeTest, NoTwoTopicsShareAName) {
+    const std::set<std::string> distinct(ids.begin(), ids.end());
+    EXPECT_EQ(distinct.size(), ids.size());
+}
+
+TEST_F(ReadMeTest, EveryLinkWithinThePageLeadsSomewhere) {
+    const std::vector<std::string> links = AllMatches(page, "href=\"#([^\"]*)\"");
+    EXPECT_GT(links.size(), 10u);
+    for (const std::string& link : links) EXPECT_TRUE(HasTopic(link)) << link;
+}
+
+TEST_F(ReadMeTest, ThePageNeedsNothingFromTheNet) {
+    for (const std::string& target : AllMatches(page, "(?:href|src)=\"([^\"]*)\""))
+        EXPECT_EQ(target.find("//"), std::string::npos) << target;
+    EXPECT_EQ(page.find("<script"), std::string::npos);
+    EXPECT_EQ(page.find("@import"), std::string::npos);
+}
+
+TEST_F(ReadMeTest, EveryChapterIsListedInTheContents) {
+    const std::vector<std::string> links = AllMatches(page, "href=\"#([^\"]*)\"");
+    for (const std::string& chapter : AllMatches(page, "<h2 id=\"([^\"]*)\""))
+        EXPECT_NE(std::find(links.begin(), links.end(), chapter), links.end()) << chapter;
+}
+
+// A topic in the sources is a text that is nothing but "#" and its name.
+TEST_F(ReadMeTest, EveryTopicThatTheProgramOpensIsThere) {
+    std::set<std::string> topics;
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(Checkout() / "src")) {
+        if (entry.path().extension() != ".cpp") continue;
+        for (const std::string& topic : AllMatches(ReadText(entry.path()), "\"#([A-Z][A-Za-z]+)\""))
+            topics.insert(topic);
+    }
+    EXPECT_TRUE(topics.contains("Options")) << "the sources were not searched";
+    for (const std::string& topic : topics) EXPECT_TRUE(HasTopic(topic)) << topic;
+}
+
+// Width and height of a PNG file, from its first chunk; 0 for anything else.
+struct PictureSize {
+    uint32_t width = 0, height = 0;
+};
+PictureSize SizeOfPng(const fs::path& path) {
+    const std::string bytes = ReadText(path);
+    if (bytes.size() < 24 || bytes.substr(1, 3) != "PNG") return {};
+    const auto number = [&](size_t at) {
+        uint32_t value = 0;
+        for (size_t i = 0; i < 4; ++i) value = value << 8 | static_cast<uint8_t>(bytes[at + i]);
+        return value;
+    };
+    return { number(16), number(20) };
+}
+
+TEST_F(ReadMeTest, EveryPictureIsThereInTheSizeThatThePageKeepsFreeForIt) {
+    const std::vector<std::string> pictures = AllMatches(page, "(<img [^>]*>)");
+    for (const std::string& picture : pictures) {
+        const std::vector<std::string> file = AllMatches(picture, "src=\"([^\"]*)\"");
+        ASSERT_EQ(file.size(), 1u) << picture;
+        const PictureSize size = SizeOfPng(Checkout() / "help" / file[0]);
+        EXPECT_GT(size.width, 0u) << file[0];
+        EXPECT_NE(picture.find(" width=\"" + std::to_string(size.width) + "\""), std::string::npos) << picture;
+        EXPECT_NE(picture.find(" height=\"" + std::to_string(size.height) + "\""), std::string::npos) << picture;
+        EXPECT_EQ(AllMatches(picture, " alt=\"([^\"]+)\"").size(), 1u) << "no words for " << file[0];
+    }
+}
+
+TEST_F(ReadMeTest, NoPictureIsShippedUnused) {
+    for (const fs::directory_entry& entry : fs::directory_iterator(Checkout() / "help")) {
+        if (entry.path().extension() != ".png") continue;
+        EXPECT_NE(page.find("\"" + entry.path().filename().string() + "\""), std::string::npos) << entry.path();
+    }
+}
+
+// Every element that must be closed is, and in the right order.
+TEST_F(ReadMeTest, TheTagsNest) {
+    const std::set<std::string> single = { "!DOCTYPE", "meta", "img", "br", "hr", "link", "col" };
+    std::vector<std::string> open;
+    for (const std::string& tag : AllMatches(page, "<(/?[!A-Za-z][A-Za-z0-9]*)")) {
+        if (single.contains(tag)) continue;
+        if (tag[0] != '/') {
+            open.push_back(tag);
+            continue;
+        }
+        ASSERT_FALSE(open.empty()) << tag;
+        ASSERT_EQ(open.back(), tag.substr(1));
+        open.pop_back();
+    }
+    EXPECT_TRUE(open.empty());
+}
+
+TEST_F(ReadMeTest, NoCharacterNeedsMoreThanTheEncodingItNames) {
+    EXPECT_NE(page.find("<meta charset=\"utf-8\">"), std::string::npos);
+    EXPECT_TRUE(std::all_of(page.begin(), page.end(), [](char c) { return static_cast<uint8_t>(c) < 0x80; }))
+        << "beyond ASCII the page uses entities";
+}
+
+}  // namespace
