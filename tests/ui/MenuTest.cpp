@@ -210,7 +210,7 @@ TEST_F(MenuTest, TheToolbarShowsTheActiveToolAndGreysWhatHasNothingBehindIt) {
                     IDT_APRON_LINK, IDT_CLOSED_LINK })
         EXPECT_NE(ToolButtonState(toolbar, id), -1) << id;
     EXPECT_EQ(ToolButtonState(toolbar, IDT_POINTER), TBSTATE_ENABLED | TBSTATE_CHECKED);
-    EXPECT_EQ(ToolButtonState(toolbar, IDT_PRINT), 0);
+    EXPECT_EQ(ToolButtonState(toolbar, IDT_PRINT), TBSTATE_ENABLED);
     EXPECT_EQ(ToolButtonState(toolbar, IDT_UNDO), 0);
     ClickToolButton(mainWindow, IDT_ILS_HOLD_SHORT_NODE);
     EXPECT_EQ(ToolButtonState(toolbar, IDT_ILS_HOLD_SHORT_NODE), TBSTATE_ENABLED | TBSTATE_CHECKED);
