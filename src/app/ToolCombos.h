@@ -53,7 +53,7 @@ void ChooseSpec(int row, bool stepped);  // `stepped`: by a key with the list cl
 int CurrentTypeRow();                    // -1 for a type that the list lacks
 void ChooseType(int row);
 
-// The spec has been used: it leads the most-used ones, and beyond their limit the last one goes.
+// The airline has been used: it leads the most-used ones, and beyond their limit the last one goes.
 void NoteSpecUse(std::string_view name);
 
 // What a box tells of its list, in the orders that systems differ in, and what follows.

@@ -16,8 +16,8 @@ struct SpecIndex {
 };
 SpecIndex IndexSpecs();
 
-// The spec with the same codes in the same order; else one that begins with the spot's first code; else one that
-// holds it. Null when there is none.
+// The airline with the same codes in the same order; else one that begins with the spot's first code; else one that holds
+// it. Null when there is none.
 const app::ParkingSpec* SpecOfSpot(const SpecIndex& index, const model::SceneryObject* spot);
 
 Colour ColourOfSpec(const app::ParkingSpec& spec);  // by the lights: at night at half intensity
