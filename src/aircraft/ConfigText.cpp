@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "platform/CodePoint.h"
 #include "platform/Text.h"
 
 namespace aircraft {
@@ -20,27 +21,10 @@ std::string_view WithoutBlanksBehind(std::string_view text) {
     return text;
 }
 
-// Takes one code point off the front of UTF-8, half surrogates included; -1, and one byte less, for a broken one.
-int32_t TakeCode(std::string_view* text) {
-    const auto lead = static_cast<uint8_t>(text->front());
-    const size_t length = lead < 0x80 ? 1 : lead < 0xC2 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF5 ? 4 : 0;
-    uint32_t code = length <= 1 ? lead : lead & (0x7Fu >> length);
-    bool good = length != 0 && text->size() >= length;
-    for (size_t i = 1; good && i < length; ++i) {
-        const auto byte = static_cast<uint8_t>((*text)[i]);
-        good = (byte & 0xC0) == 0x80;
-        code = code << 6 | (byte & 0x3F);
-    }
-    constexpr uint32_t kFirstOfLength[5] = { 0, 0, 0x80, 0x800, 0x10000 };
-    good = good && code >= kFirstOfLength[length] && code <= 0x10FFFF;
-    text->remove_prefix(good ? length : 1);
-    return good ? static_cast<int32_t>(code) : -1;
-}
-
 bool IsUtf8(std::string_view text) {
     bool beyondAscii = false;
     while (!text.empty()) {
-        const int32_t code = TakeCode(&text);
+        const int32_t code = platform::TakeCodePoint(&text);
         if (code < 0 || (code & 0x1FF800) == 0xD800) return false;
         beyondAscii |= code >= 0x80;
     }
@@ -55,7 +39,7 @@ void PutUnit(uint32_t unit, bool highFirst, std::vector<uint8_t>* bytes) {
 
 void PutUtf16(std::string_view text, bool highFirst, std::vector<uint8_t>* bytes) {
     while (!text.empty()) {
-        const int32_t taken = TakeCode(&text);
+        const int32_t taken = platform::TakeCodePoint(&text);
         const uint32_t code = taken < 0 ? 0xFFFD : static_cast<uint32_t>(taken);
         if (code < 0x10000) {
             PutUnit(code, highFirst, bytes);

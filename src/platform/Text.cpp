@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <iterator>
 
+#include "platform/CodePoint.h"
+
 namespace platform {
 
 namespace {
@@ -28,25 +30,6 @@ void AppendUtf8(uint32_t code, std::string* text) {
         text->push_back(static_cast<char>(0x80 | (code >> 6 & 0x3F)));
         text->push_back(static_cast<char>(0x80 | (code & 0x3F)));
     }
-}
-
-constexpr uint32_t kBadCode = UINT32_MAX;
-
-// The code point at the start of the text, which loses it; kBadCode for a byte that starts none.
-uint32_t TakeCodePoint(std::string_view* text) {
-    const auto lead = static_cast<uint8_t>(text->front());
-    const size_t length = lead < 0x80 ? 1 : lead < 0xC2 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF5 ? 4 : 0;
-    uint32_t code = length <= 1 ? lead : lead & (0x7Fu >> length);
-    bool bad = length == 0 || text->size() < length;
-    for (size_t i = 1; !bad && i < length; ++i) {
-        const auto byte = static_cast<uint8_t>((*text)[i]);
-        bad = (byte & 0xC0) != 0x80;
-        code = code << 6 | (byte & 0x3F);
-    }
-    constexpr uint32_t kShortest[] = { 0, 0, 0x80, 0x800, 0x10000 };  // the first code that needs that many bytes
-    bad = bad || code < kShortest[length];
-    text->remove_prefix(bad ? 1 : length);
-    return bad ? kBadCode : code;
 }
 
 int Windows1252Byte(uint32_t code) {
@@ -74,8 +57,8 @@ std::string Windows1252FromUtf8(std::string_view text, bool* lossless) {
     std::string result;
     bool lost = false;
     while (!text.empty()) {
-        const uint32_t code = TakeCodePoint(&text);
-        const int byte = code == kBadCode ? -1 : Windows1252Byte(code);
+        const int32_t code = TakeCodePoint(&text);
+        const int byte = code < 0 ? -1 : Windows1252Byte(static_cast<uint32_t>(code));
         lost |= byte < 0;
         result.push_back(byte < 0 ? '?' : static_cast<char>(byte));
     }

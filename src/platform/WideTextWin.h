@@ -10,30 +10,16 @@
 #include <string>
 #include <string_view>
 
-namespace platform {
+#include "platform/CodePoint.h"
 
-// Takes one code point off the front of the text; a broken sequence yields U+FFFD and loses one byte.
-inline uint32_t TakeCode(std::string_view* text) {
-    const auto lead = static_cast<uint8_t>(text->front());
-    const size_t length = lead < 0x80 ? 1 : lead < 0xC2 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF5 ? 4 : 0;
-    uint32_t code = length <= 1 ? lead : lead & (0x7Fu >> length);
-    bool good = length != 0 && text->size() >= length;
-    for (size_t i = 1; good && i < length; ++i) {
-        const auto byte = static_cast<uint8_t>((*text)[i]);
-        good = (byte & 0xC0) == 0x80;
-        code = code << 6 | (byte & 0x3F);
-    }
-    constexpr uint32_t kFirstOfLength[5] = { 0, 0, 0x80, 0x800, 0x10000 };
-    good = good && code >= kFirstOfLength[length] && code <= 0x10FFFF;
-    text->remove_prefix(good ? length : 1);
-    return good ? code : 0xFFFD;
-}
+namespace platform {
 
 inline std::wstring WideFromUtf8(std::string_view text) {
     std::wstring wide;
     wide.reserve(text.size());
     while (!text.empty()) {
-        const uint32_t code = TakeCode(&text);
+        const int32_t taken = TakeCodePoint(&text);
+        const uint32_t code = taken < 0 ? 0xFFFD : static_cast<uint32_t>(taken);
         if (code < 0x10000) {
             wide.push_back(static_cast<wchar_t>(code));
         } else {
