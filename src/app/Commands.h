@@ -1,7 +1,7 @@
 // Commands.h - everything that a menu, the toolbar or a key can ask for.
 //
-// One row a command: what it runs, when it is enabled, when it is checked. All routes come through RunCommand, so a
-// greyed command stays dead by each of them. An id without a row has nothing behind it yet and is always greyed.
+// All routes come through RunCommand, so a greyed command stays dead by each of them. An id without a row in the
+// command table is always greyed.
 #pragma once
 
 #include <vector>
@@ -13,6 +13,9 @@ bool RunCommand(int id);
 
 bool IsCommandEnabled(int id);
 bool IsCommandChecked(int id);
+
+// The tooltip of the command's button; null when it has none.
+const char* CommandToolTip(int id);
 
 std::vector<int> CommandIds();  // of all rows
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "app/Commands.h"
 #include "Resource.h"
 
 namespace app {
@@ -12,56 +13,53 @@ namespace {
 constexpr ToolButton kSeparator = { 0 };
 
 constexpr ToolButton Box(int id, int width, const char* tooltip = "") {
-    return { 0, ToolPicture::Open, false, tooltip, id, width };
+    return { 0, ToolPicture::Open, false, id, width, tooltip };
 }
 
 constexpr ToolButton kFirst[] = {
-    { IDT_OPEN, ToolPicture::Open, false, "Open an airport from the scenery files" },
-    { IDT_SAVE, ToolPicture::Save, false, "Save an open airport back to the scenery files" },
+    { IDT_OPEN, ToolPicture::Open },
+    { IDT_SAVE, ToolPicture::Save },
     kSeparator,
-    { IDT_PRINT, ToolPicture::Print, false, "Print the airport map" },
+    { IDT_PRINT, ToolPicture::Print },
     kSeparator,
-    { IDT_UNDO, ToolPicture::Undo, false, "Undo (Ctrl+Z)" },
-    { IDT_REDO, ToolPicture::Redo, false, "Redo (Ctrl+Y)" },
+    { IDT_UNDO, ToolPicture::Undo },
+    { IDT_REDO, ToolPicture::Redo },
     kSeparator,
-    { IDT_ZOOM_IN, ToolPicture::ZoomIn, false, "Zoom in (mouse wheel or + key)" },
-    { IDT_ZOOM_OUT, ToolPicture::ZoomOut, false, "Zoom out (mouse wheel or - key)" },
+    { IDT_ZOOM_IN, ToolPicture::ZoomIn },
+    { IDT_ZOOM_OUT, ToolPicture::ZoomOut },
     kSeparator,
-    { IDT_LOCK, ToolPicture::Lock, true, "Lock the map location to the Flight Simulator aircraft location" },
+    { IDT_LOCK, ToolPicture::Lock, true },
     kSeparator,
-    { IDT_POINTER, ToolPicture::Pointer, true, "Pointer mode" },
+    { IDT_POINTER, ToolPicture::Pointer, true },
     kSeparator,
-    { IDT_NORMAL_NODE, ToolPicture::NormalNode, true, "Create normal nodes by clicking with the mouse" },
-    { IDT_HOLD_SHORT_NODE, ToolPicture::HoldShortNode, true, "Create hold-short nodes by clicking with the mouse" },
-    { IDT_ILS_HOLD_SHORT_NODE, ToolPicture::IlsHoldShortNode, true,
-      "Create ILS hold-short nodes by clicking with the mouse" },
+    { IDT_NORMAL_NODE, ToolPicture::NormalNode, true },
+    { IDT_HOLD_SHORT_NODE, ToolPicture::HoldShortNode, true },
+    { IDT_ILS_HOLD_SHORT_NODE, ToolPicture::IlsHoldShortNode, true },
     kSeparator,
-    { IDT_NORMAL_LINK, ToolPicture::NormalLink, true, "Create normal taxi link by connecting nodes with the mouse" },
-    { IDT_RUNWAY_LINK, ToolPicture::RunwayLink, true, "Create runway taxi link by connecting nodes with the mouse" },
-    { IDT_APRON_LINK, ToolPicture::ApronLink, true, "Create apron taxi link by connecting nodes with the mouse" },
-    { IDT_CLOSED_LINK, ToolPicture::ClosedLink, true, "Create closed taxi link by connecting nodes with the mouse" },
+    { IDT_NORMAL_LINK, ToolPicture::NormalLink, true },
+    { IDT_RUNWAY_LINK, ToolPicture::RunwayLink, true },
+    { IDT_APRON_LINK, ToolPicture::ApronLink, true },
+    { IDT_CLOSED_LINK, ToolPicture::ClosedLink, true },
     Box(IDC_DESIGNATOR, 112, "Select a designator to highlight taxi path, or to assign to new taxi links"),
     kSeparator,
     Box(IDC_ROTATION, 46),
 };
 
 constexpr ToolButton kSecond[] = {
-    { IDT_PARKING, ToolPicture::Parking, true, "Create parking spots by clicking with the mouse" },
+    { IDT_PARKING, ToolPicture::Parking, true },
     Box(IDC_PARKING_TYPE, 160, "Select the parking type"),
     Box(IDC_PARKING_SPEC, 306, "Select a parking spec (e.g. airline code) to assign to parking spots"),
-    { IDT_APRON, ToolPicture::Apron, true, "Create apron polygon by clicking clicking mouse to place points" },
-    { IDT_APRON_POINT, ToolPicture::ApronPoint, true,
-      "Insert new point in existing apron polygon by clicking with the mouse" },
-    { IDT_EDGE_LIGHTS, ToolPicture::EdgeLights, true,
-      "Insert apron light strip by clicking and pulling with the mouse" },
+    { IDT_APRON, ToolPicture::Apron, true },
+    { IDT_APRON_POINT, ToolPicture::ApronPoint, true },
+    { IDT_EDGE_LIGHTS, ToolPicture::EdgeLights, true },
     kSeparator,
-    { IDT_MARKERS, ToolPicture::Marker, true, "Create reference markers by clicking with the mouse" },
-    { IDT_GUIDELINES, ToolPicture::Guideline, true, "Create guidelines with the mouse" },
+    { IDT_MARKERS, ToolPicture::Marker, true },
+    { IDT_GUIDELINES, ToolPicture::Guideline, true },
 };
 
-const char* FindToolTip(std::span<const ToolButton> buttons, int id) {
+const char* BoxToolTip(std::span<const ToolButton> buttons, int id) {
     for (const ToolButton& button : buttons) {
-        if (button.command == id || button.box == id) return *button.tooltip ? button.tooltip : nullptr;
+        if (button.box == id) return *button.tooltip ? button.tooltip : nullptr;
     }
     return nullptr;
 }
@@ -81,8 +79,9 @@ std::span<const ToolButton> SecondToolbar() { return kSecond; }
 
 const char* ToolTipFor(int id) {
     if (id == 0) return nullptr;
-    const char* tooltip = FindToolTip(kFirst, id);
-    return tooltip ? tooltip : FindToolTip(kSecond, id);
+    if (const char* tooltip = CommandToolTip(id)) return tooltip;
+    const char* tooltip = BoxToolTip(kFirst, id);
+    return tooltip ? tooltip : BoxToolTip(kSecond, id);
 }
 
 std::vector<size_t> RowStarts(std::span<const ToolItem> items, int available) {
