@@ -1,18 +1,19 @@
 // FuzzFolder.h - a folder of this process for what only reads files.
 #pragma once
 
-#include <unistd.h>
-
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <string>
 
+#include "platform/Files.h"
+
 // Made on first use; whatever is in it is overwritten by the next input.
 inline std::string FuzzFolder() {
     static const std::filesystem::path folder = [] {
-        const auto path = std::filesystem::temp_directory_path() / ("tarvo-fuzz-" + std::to_string(getpid()));
+        const auto path =
+            std::filesystem::temp_directory_path() / ("tarvo-fuzz-" + std::to_string(platform::ProcessNumber()));
         std::filesystem::create_directories(path);
         return path;
     }();
