@@ -10,6 +10,7 @@
 #include "fakes/BuildObjects.h"
 #include "fakes/LiteralFaults.h"
 #include "faults/FaultSearch.h"
+#include "Ratios.h"
 
 namespace {
 
@@ -56,23 +57,41 @@ int64_t PassToTheEnd() {
     return count;
 }
 
+double SecondsOfPass() { return BestSeconds(5, PassToTheEnd); }
+
 void FaultPass(benchmark::State& state) {
-    MakeNetwork(static_cast<int>(state.range(0)), state.range(1) != 0);
+    const auto nodes = static_cast<int>(state.range(0));
+    const bool faulty = state.range(1) != 0;
+    MakeNetwork(500, faulty);
+    const double small = SecondsOfPass() / 500;
+    MakeNetwork(nodes, faulty);
     int64_t count = 0;
     for (auto _ : state) count = PassToTheEnd();
+    NoteRatio(
+        &state, "times_500",
+        { "fault pass per node, " + std::to_string(nodes) + (faulty ? " faulty" : " clean") + " nodes / 500 nodes",
+          SecondsOfPass() / nodes / small, 1.5 });
     state.counters["faults"] = static_cast<double>(count);
     state.counters["links"] = model::CountKind(model::kTaxiLink);
     model::ClearModel();
 }
 
-void LiteralPass(benchmark::State& state) {
-    MakeNetwork(static_cast<int>(state.range(0)), state.range(1) != 0);
+int64_t LiteralPassToTheEnd() {
+    literal::Finder finder;
     int64_t count = 0;
-    for (auto _ : state) {
-        literal::Finder finder;
-        count = 0;
-        while (literal::Press(&finder, 1).check >= 0) ++count;
-    }
+    while (literal::Press(&finder, 1).check >= 0) ++count;
+    return count;
+}
+
+void LiteralPass(benchmark::State& state) {
+    const auto nodes = static_cast<int>(state.range(0));
+    MakeNetwork(nodes, state.range(1) != 0);
+    int64_t count = 0;
+    for (auto _ : state) count = LiteralPassToTheEnd();
+    NoteRatio(
+        &state, "of_literal",
+        { "fault pass at " + std::to_string(nodes) + (state.range(1) ? " faulty" : " clean") + " nodes / nested walks",
+          SecondsOfPass() / BestSeconds(1, LiteralPassToTheEnd), 0 });
     state.counters["faults"] = static_cast<double>(count);
     model::ClearModel();
 }

@@ -17,14 +17,13 @@
 #include "bgl/SceneryFile.h"
 #include "fakes/RandomAirport.h"
 #include "model/ObjectList.h"
+#include "Ratios.h"
 
 namespace {
 
 using Clock = std::chrono::steady_clock;
 
 constexpr uint64_t kFixedTime = 0x01C4000000000000;
-
-double SecondsSince(Clock::time_point start) { return std::chrono::duration<double>(Clock::now() - start).count(); }
 
 // 800 nodes, 1100 links, 400 spots, as a file.
 const std::vector<uint8_t>& LargeFile() {
@@ -40,15 +39,11 @@ const std::vector<uint8_t>& LargeFile() {
 
 double SecondsToCopy(const std::vector<uint8_t>& bytes) {
     std::vector<uint8_t> copy(bytes.size());
-    double best = 1;
-    for (int i = 0; i < 1000; ++i) {
-        const Clock::time_point start = Clock::now();
+    return BestSeconds(1000, [&] {
         std::memcpy(copy.data(), bytes.data(), bytes.size());
         benchmark::DoNotOptimize(copy.data());
         benchmark::ClobberMemory();
-        best = std::min(best, SecondsSince(start));
-    }
-    return best;
+    });
 }
 
 double SecondsToMakeObjects(uint32_t count) {
@@ -64,10 +59,11 @@ double SecondsToMakeObjects(uint32_t count) {
     return best;
 }
 
-void Report(benchmark::State& state, const std::vector<uint8_t>& bytes, double best) {
+void Report(benchmark::State& state, const char* work, double aim, const std::vector<uint8_t>& bytes, double best) {
     state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(bytes.size()));
     state.counters["bytes"] = static_cast<double>(bytes.size());
-    state.counters["times_copy"] = best / SecondsToCopy(bytes);
+    NoteRatio(&state, "times_copy",
+              { std::string(work) + " / copying the same bytes", best / SecondsToCopy(bytes), aim });
 }
 
 void ReadLargeAirport(benchmark::State& state) {
@@ -91,8 +87,9 @@ void ReadLargeAirport(benchmark::State& state) {
     uint32_t objects = 0;
     for (const model::SceneryObject* o = model::state.head; o; o = o->next) ++objects;
     state.counters["objects"] = objects;
-    state.counters["times_objects"] = best / SecondsToMakeObjects(objects);
-    Report(state, record, best);
+    NoteRatio(&state, "times_objects",
+              { "reading an airport record / making as many objects", best / SecondsToMakeObjects(objects), 0 });
+    Report(state, "reading an airport record", 10, record, best);
     model::ClearModel();
 }
 BENCHMARK(ReadLargeAirport)->UseManualTime();
@@ -108,7 +105,7 @@ void OpenLargeFile(benchmark::State& state) {
         state.SetIterationTime(seconds);
         best = std::min(best, seconds);
     }
-    Report(state, file, best);
+    Report(state, "opening an airport file in memory", 0, file, best);
     model::ClearModel();
 }
 BENCHMARK(OpenLargeFile)->UseManualTime();
@@ -127,7 +124,7 @@ void WriteLargeAirport(benchmark::State& state) {
         best = std::min(best, seconds);
     }
     if (bytes != file) std::abort();
-    Report(state, bytes, best);
+    Report(state, "building an airport file in memory", 0, bytes, best);
     model::ClearModel();
 }
 BENCHMARK(WriteLargeAirport)->UseManualTime();

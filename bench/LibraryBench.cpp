@@ -20,6 +20,7 @@
 #include "bgl/SceneryFile.h"
 #include "fakes/TestLibrary.h"
 #include "platform/Files.h"
+#include "Ratios.h"
 
 namespace {
 
@@ -80,9 +81,7 @@ size_t ReadHeads(const std::string& path) {
 
 template <class Work>
 double SecondsOf(Work work) {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    return BestSeconds(1, work);
 }
 
 void ForgetCaches(const TestLibrary& library) {
@@ -90,8 +89,8 @@ void ForgetCaches(const TestLibrary& library) {
     platform::DeleteOneFile(library.program + "\\AirportIndex");
 }
 
-void Report(benchmark::State& state, double collecting, double reading) {
-    state.counters["ratio"] = collecting / reading;
+void Report(benchmark::State& state, const char* what, double collecting, double reading) {
+    NoteRatio(&state, "ratio", { what, collecting / reading, 2 });
     state.counters["opened"] = bgl::library.report.opened;
     state.counters["airports"] = static_cast<double>(bgl::library.airports.size());
 }
@@ -109,7 +108,7 @@ void ColdCollection(benchmark::State& state) {
         best = std::min(best, seconds);
         state.SetIterationTime(seconds);
     }
-    Report(state, best, plain);
+    Report(state, "cold collection / plain walk of heads and name lists", best, plain);
 }
 BENCHMARK(ColdCollection)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(9);
 
@@ -132,8 +131,8 @@ void WarmCollection(benchmark::State& state) {
         best = std::min(best, seconds);
         state.SetIterationTime(seconds);
     }
-    Report(state, best, plain);
-    state.counters["of cold"] = best / cold;
+    Report(state, "warm collection / listing folders and reading the caches", best, plain);
+    NoteRatio(&state, "of_cold", { "warm collection / cold collection", best / cold, 0 });
 }
 BENCHMARK(WarmCollection)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(25);
 
@@ -150,7 +149,9 @@ void MemoryOfTheIndex(benchmark::State& state) {
     for (const auto& place : held.places) {
         bytes += place.children.capacity() * sizeof(uint32_t);
     }
-    state.counters["bytes/airport"] = static_cast<double>(bytes) / static_cast<double>(held.airports.size());
+    NoteRatio(&state, "bytes_per_airport",
+              { "bytes of the index / airports in it",
+                static_cast<double>(bytes) / static_cast<double>(held.airports.size()), 0 });
 }
 BENCHMARK(MemoryOfTheIndex)->Unit(benchmark::kMillisecond)->Iterations(1);
 

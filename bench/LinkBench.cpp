@@ -4,29 +4,22 @@
 // compares with the smallest airport in the same run: it should stay near 1.
 #include <benchmark/benchmark.h>
 
-#include <algorithm>
-#include <chrono>
 #include <cstdlib>
 
 #include "app/SimLink.h"
 #include "fakes/FakeTransport.h"
-#include "fakes/RandomAirport.h"
 #include "link/Simulator.h"
 #include "map/MapView.h"
 #include "model/ObjectList.h"
+#include "Networks.h"
+#include "Ratios.h"
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
 
 constexpr int kTicksInARow = 1000;
 
 void OpenNetwork(uint32_t nodes) {
-    AirportCounts counts;
-    counts.nodes = nodes;
-    counts.links = nodes + nodes / 4;
-    counts.spots = nodes / 4;
-    MakeRandomAirport(nodes, counts);
+    MakeNetworkOfNodes(nodes);
     model::state.loaded = true;
     ResetTransport();
     app::ReleaseSimulator();
@@ -37,25 +30,23 @@ void MoveAndTick(int64_t* latitude) {
     app::PollSimulator();
 }
 
-double BestSecondsPerTick() {
+double SecondsOfTicks() {
     int64_t latitude = 0;
-    double best = 1;
-    for (int round = 0; round < 20; ++round) {
-        const Clock::time_point start = Clock::now();
+    return BestSeconds(20, [&] {
         for (int i = 0; i < kTicksInARow; ++i) MoveAndTick(&latitude);
-        best = std::min(best, std::chrono::duration<double>(Clock::now() - start).count() / kTicksInARow);
-    }
-    return best;
+    });
 }
 
 void LinkTick(benchmark::State& state) {
     OpenNetwork(40);
-    const double secondsWith40 = BestSecondsPerTick();
+    const double secondsWith40 = SecondsOfTicks();
     OpenNetwork(static_cast<uint32_t>(state.range(0)));
     int64_t latitude = 0;
     for (auto _ : state) MoveAndTick(&latitude);
     if (simlink::simulator.position.latitude != latitude || !map::simAircraft.active) std::abort();
-    state.counters["times_40_nodes"] = BestSecondsPerTick() / secondsWith40;
+    const std::string nodes = std::to_string(state.range(0));
+    NoteRatio(&state, "times_40_nodes",
+              { "simulator poll at " + nodes + " nodes / at 40 nodes", SecondsOfTicks() / secondsWith40, 1.5 });
     app::ReleaseSimulator();
     model::ClearModel();
 }

@@ -4,8 +4,6 @@
 // map as a picture takes in the same run. times_500 compares 4,000 nodes with eight times the work for 500.
 #include <benchmark/benchmark.h>
 
-#include <algorithm>
-#include <chrono>
 #include <cstdlib>
 #include <string>
 #include <vector>
@@ -13,33 +11,17 @@
 #include "fakes/BuildObjects.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/RecordingCanvas.h"
+#include "Hub.h"
 #include "map/MapView.h"
 #include "map/PaintMap.h"
 #include "map/TaxiwaySurface.h"
 #include "platform/CanvasSvg.h"
-#include "sample/AirportModel.h"
-#include "sample/Layouts.h"
-#include "sample/NavaidModel.h"
-#include "sample/RunwayPlans.h"
-#include "sample/World.h"
+#include "Ratios.h"
 
 namespace {
 
 constexpr int kColumns = 80, kRows = 50;  // 4,000 nodes
 constexpr double kStep = 60;              // metres between them
-
-using Clock = std::chrono::steady_clock;
-
-template <class Work>
-double BestSeconds(int rounds, Work work) {
-    double best = 1e9;
-    for (int i = 0; i < rounds; ++i) {
-        const Clock::time_point start = Clock::now();
-        work();
-        best = std::min(best, std::chrono::duration<double>(Clock::now() - start).count());
-    }
-    return best;
-}
 
 void MakeNetwork(int rows) {
     ResetFakes();
@@ -106,25 +88,18 @@ void JunctionGeometry(benchmark::State& state) {
     for (auto _ : state) LayJunctions();
     const auto nodes = static_cast<double>(model::CountKind(model::kTaxiNode));
     state.counters["nodes"] = nodes;
-    state.counters["times_500"] = BestSeconds(20, LayJunctions) / nodes / small;
+    NoteRatio(&state, "times_500",
+              { "a node's junction among " + std::to_string(state.range(0)) + " nodes / among 500",
+                BestSeconds(20, LayJunctions) / nodes / small, 1.5 });
     model::ClearModel();
 }
 BENCHMARK(JunctionGeometry)->Arg(1000)->Arg(4000)->Unit(benchmark::kMillisecond);
 
 // The hub of the sample airports on a page of 1280 x 1024; the arguments are the span in metres and the lights.
 void PaintHub(benchmark::State& state) {
-    ResetFakes();
-    sample::World world;
-    std::string error;
-    if (!sample::LoadWorld(TARVO_SAMPLE_DATA, &world, &error)) std::abort();
-    const sample::AirportRow* row = sample::FindAirport(world, sample::kHubIdent);
-    if (!row) std::abort();
-    sample::AirportPlan plan =
-        sample::PlanAirport(world, *row, sample::VariationAt(sample::MapVariations(world), row->position));
-    sample::LayOut(&plan);
-    sample::MakeAirportModel(plan);
+    const model::LatLon middle = MakeHub();
     Look(static_cast<double>(state.range(0)), 1280, 1024);
-    map::view.centre = row->position;
+    map::view.centre = middle;
     map::layers.lights = state.range(1) != 0;
     map::layers.navaids = map::layers.starts = true;
     CallCounts counts;
@@ -139,7 +114,10 @@ void PaintHub(benchmark::State& state) {
     });
     state.counters["shapes"] = static_cast<double>(counts.shapes);
     state.counters["texts"] = static_cast<double>(counts.texts);
-    state.counters["of_svg"] = BestSeconds(10, paint) / drawing;
+    const std::string span = std::to_string(state.range(0)), light = state.range(1) ? " by night" : " by day";
+    NoteRatio(&state, "of_svg",
+              { "computing the hub at " + span + " m" + light + " / with writing it as SVG",
+                BestSeconds(10, paint) / drawing, 0 });
     model::ClearModel();
 }
 BENCHMARK(PaintHub)

@@ -10,6 +10,7 @@
 #include "map/PaintMap.h"
 #include "map/Selection.h"
 #include "model/EditHistory.h"
+#include "Ratios.h"
 
 namespace {
 
@@ -38,16 +39,30 @@ void MakeRows(int links) {
 }
 
 // A node on one of the links, and what undoing it costs.
+void JoinAndUndo() {
+    model::BeginAction();
+    model::SceneryObject* node = model::CreateObject(model::kTaxiNode, sizeof(model::TaxiNodeRecord));
+    model::SetPosition(node, build::At({ kStep / 2, 2 }));
+    model::AddObject(node);
+    map::JoinNodeIntoLinks(node);
+    model::Undo();
+}
+
+// The work's time at that many of something, by the time at 500 and the growth in numbers.
+template <class Work>
+void NoteGrowth(benchmark::State* state, const char* what, double secondsAt500, Work work) {
+    const auto count = static_cast<double>(state->range(0));
+    NoteRatio(state, "times_500",
+              { std::string(what) + std::to_string(state->range(0)) + " / at 500, each",
+                BestSeconds(20, work) / secondsAt500 * 500 / count, 1.5 });
+}
+
 void JoinNode(benchmark::State& state) {
+    MakeRows(500);
+    const double small = BestSeconds(20, JoinAndUndo);
     MakeRows(static_cast<int>(state.range(0)));
-    for (auto _ : state) {
-        model::BeginAction();
-        model::SceneryObject* node = model::CreateObject(model::kTaxiNode, sizeof(model::TaxiNodeRecord));
-        model::SetPosition(node, build::At({ kStep / 2, 2 }));
-        model::AddObject(node);
-        map::JoinNodeIntoLinks(node);
-        model::Undo();
-    }
+    for (auto _ : state) JoinAndUndo();
+    NoteGrowth(&state, "joining a node into links at ", small, JoinAndUndo);
     state.counters["links"] = static_cast<double>(model::CountKind(model::kTaxiLink));
     model::ClearModel();
 }
@@ -55,11 +70,18 @@ BENCHMARK(JoinNode)->Arg(500)->Arg(4000)->Unit(benchmark::kMillisecond);
 
 // The pointer over empty ground: every object is asked.
 void HitTest(benchmark::State& state) {
-    MakeRows(static_cast<int>(state.range(0)) / 2);
-    CallCounts counts;
-    platform::Canvas canvas = CountingCanvas(&counts);
-    map::PaintMap(&canvas);
-    for (auto _ : state) benchmark::DoNotOptimize(map::PickObject({ 3, 3 }));
+    const auto show = [](int64_t objects) {
+        MakeRows(static_cast<int>(objects) / 2);
+        CallCounts counts;
+        platform::Canvas canvas = CountingCanvas(&counts);
+        map::PaintMap(&canvas);
+    };
+    const auto pick = [] { benchmark::DoNotOptimize(map::PickObject({ 3, 3 })); };
+    show(500);
+    const double small = BestSeconds(200, pick);
+    show(state.range(0));
+    for (auto _ : state) pick();
+    NoteGrowth(&state, "hit test of objects at ", small, pick);
     state.counters["objects"] = static_cast<double>(build::List().size());
     model::ClearModel();
 }
@@ -67,8 +89,12 @@ BENCHMARK(HitTest)->Arg(500)->Arg(4000)->Unit(benchmark::kMicrosecond);
 
 // What every move, deletion and dialog does besides.
 void HoldShortMarkings(benchmark::State& state) {
+    const auto note = [] { benchmark::DoNotOptimize(map::NoteHoldShorts()); };
+    MakeRows(500);
+    const double small = BestSeconds(20, note);
     MakeRows(static_cast<int>(state.range(0)));
-    for (auto _ : state) benchmark::DoNotOptimize(map::NoteHoldShorts());
+    for (auto _ : state) note();
+    NoteGrowth(&state, "noting hold-short directions at links ", small, note);
     model::ClearModel();
 }
 BENCHMARK(HoldShortMarkings)->Arg(500)->Arg(4000)->Unit(benchmark::kMillisecond);

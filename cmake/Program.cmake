@@ -1,6 +1,6 @@
 # Tarvo.exe and the folder that a user gets: the program, its help and the parking specs.
 enable_language(RC)
-file(GLOB_RECURSE help_files RELATIVE ${CMAKE_SOURCE_DIR}/help CONFIGURE_DEPENDS help/*.htm help/*.png)
+file(GLOB_RECURSE help_files RELATIVE ${CMAKE_SOURCE_DIR}/help CONFIGURE_DEPENDS help/*.htm help/*.png help/*.txt)
 file(GLOB parking_specs CONFIGURE_DEPENDS samples/ParkingSpecs.txt)
 file(GLOB resource_files CONFIGURE_DEPENDS res/*)
 set(program_folder ${TARVO_OUTPUT}/Tarvo)
@@ -10,7 +10,8 @@ if(win_sources AND EXISTS ${CMAKE_SOURCE_DIR}/res/Tarvo.rc)
     tarvo_options(Tarvo)
     # windres does not report what a script includes, so any changed resource rebuilds it.
     set_source_files_properties(res/Tarvo.rc PROPERTIES OBJECT_DEPENDS "${resource_files}")
-    target_link_options(Tarvo PRIVATE -municode) # wWinMain
+    # wWinMain; and no time of linking, so that the same sources give the same bytes.
+    target_link_options(Tarvo PRIVATE -municode -Wl,--no-insert-timestamp)
     target_link_libraries(
         Tarvo PRIVATE core comctl32 comdlg32 shell32 ole32 gdi32 winspool shlwapi uuid advapi32)
 
