@@ -14,7 +14,7 @@
 #include "bgl/AirportReader.h"
 #include "bgl/AirportWriter.h"
 #include "bgl/OpenAirport.h"
-#include "bgl/SceneryFile.h"
+#include "bgl/SceneryStructure.h"
 #include "fakes/RandomAirport.h"
 #include "model/ObjectList.h"
 #include "Ratios.h"
@@ -68,7 +68,7 @@ void Report(benchmark::State& state, const char* work, double aim, const std::ve
 
 void ReadLargeAirport(benchmark::State& state) {
     const std::vector<uint8_t>& file = LargeFile();
-    bgl::SceneryFile structure;
+    bgl::SceneryStructure structure;
     bgl::AirportPlace place;
     if (!bgl::ReadStructure(bgl::SourceOfBytes(file), &structure) || !bgl::FindAirport(&structure, "", &place))
         std::abort();

@@ -17,7 +17,7 @@
 #include "bgl/IndexCache.h"
 #include "bgl/LibraryScan.h"
 #include "bgl/SceneryAreas.h"
-#include "bgl/SceneryFile.h"
+#include "bgl/SceneryStructure.h"
 #include "fakes/TestLibrary.h"
 #include "platform/Files.h"
 #include "Ratios.h"
@@ -67,7 +67,7 @@ void ListAll(const TestLibrary& library, Visit visit) {
 // Header, tables and name lists, and nothing done with them.
 size_t ReadHeads(const std::string& path) {
     const platform::FileHandle handle = platform::OpenForReading(path);
-    bgl::SceneryFile file;
+    bgl::SceneryStructure file;
     if (!handle || !bgl::ReadStructure(bgl::SourceOfFile(handle.get()), &file)) return 0;
     size_t size = 0;
     for (const bgl::SectionEntry& section : file.sections) {

@@ -25,7 +25,7 @@ bgl::CacheTexts Compose() {
 void ReadBack(const bgl::CacheTexts& texts) {
     bgl::ReleaseLibrary();
     Require(bgl::ParseFileList(texts, "C:\\FS9") == bgl::CacheState::Checked);
-    for (bgl::LibraryFile& file : library.files) file.present = true;
+    for (bgl::SceneryFile& file : library.files) file.present = true;
     bgl::ParseAirportIndex(texts.airportIndex);
 }
 
@@ -34,7 +34,7 @@ void ReadUnchecked(const std::string& text) {
     const bgl::CacheState state = bgl::ParseFileList({ text, text }, "C:\\FS9");
     Require(state != bgl::CacheState::Checked);
     Require(state == bgl::CacheState::Unchecked || library.files.empty());
-    for (bgl::LibraryFile& file : library.files) file.present = true;
+    for (bgl::SceneryFile& file : library.files) file.present = true;
     bgl::ParseAirportIndex(text);
     bgl::DoubtFilesWithoutAirports();
     bgl::ReleaseLibrary();
@@ -50,7 +50,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     bgl::ReleaseLibrary();
     ReadUnchecked(text);
     for (const char* path : { "C:\\a.bgl", "C:\\b.bgl" }) {
-        bgl::LibraryFile& file = library.files[bgl::FileNumberOf(path)];
+        bgl::SceneryFile& file = library.files[bgl::FileNumberOf(path)];
         file.kind = bgl::FileKind::AddOn;
         file.present = true;
     }

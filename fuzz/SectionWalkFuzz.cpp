@@ -2,12 +2,12 @@
 #include <cstddef>
 
 #include "bgl/Navaids.h"
-#include "bgl/SceneryFile.h"
+#include "bgl/SceneryStructure.h"
 #include "SavedAirport.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (!bgl::OpenAirportBytes({ data, size }, "")) return 0;
-    bgl::SceneryFile file;
+    bgl::SceneryStructure file;
     Require(bgl::ReadStructure(bgl::SourceOfBytes({ data, size }), &file), "a file with an airport is a scenery file");
     bgl::AppendStockNavaids(&file);
     bgl::TieReplacements();

@@ -23,6 +23,7 @@
 #define IDM_AIRPORT_PROPERTIES 40037
 #define IDM_PAGE_SETUP 40070
 #define IDM_PRINT 40069
+#define IDM_SAVE_PICTURE 40401
 #define IDM_EXIT 40007
 
 // The recent airports at the end of the File menu

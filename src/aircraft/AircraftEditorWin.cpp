@@ -37,8 +37,7 @@ struct EditorWindow {
     std::vector<Variation> rows;  // as the list shows them
     std::vector<CodeChoice> choices;
     Aircraft aircraft;  // of the selected row
-    int sortColumn = kManufacturer;
-    bool descending = false;
+    SortOrder order;
     bool busy = false;  // what the controls report is our own doing
 };
 
@@ -97,7 +96,7 @@ void ShowSortArrow(const EditorWindow& editor) {
         item.mask = HDI_FORMAT;
         SendMessageW(header, HDM_GETITEMW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&item));
         item.fmt &= ~(HDF_SORTUP | HDF_SORTDOWN);
-        if (column == editor.sortColumn) item.fmt |= editor.descending ? HDF_SORTDOWN : HDF_SORTUP;
+        if (column == editor.order.column) item.fmt |= editor.order.descending ? HDF_SORTDOWN : HDF_SORTUP;
         SendMessageW(header, HDM_SETITEMW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&item));
     }
 }
@@ -113,7 +112,7 @@ int RowOf(const std::vector<Variation>& rows, const Variation& wanted) {
 void Sort(EditorWindow* editor) {
     const int selected = SelectedRow(*editor);
     const Variation before = selected < 0 ? Variation{} : editor->rows[static_cast<size_t>(selected)];
-    SortVariations(&editor->rows, editor->sortColumn, editor->descending);
+    SortVariations(&editor->rows, editor->order);
     ShowSortArrow(*editor);
     editor->busy = true;
     if (selected >= 0) SelectRow(editor, RowOf(editor->rows, before));
@@ -122,8 +121,7 @@ void Sort(EditorWindow* editor) {
 }
 
 void OnColumnClicked(EditorWindow* editor, int column) {
-    editor->descending = column == editor->sortColumn && !editor->descending;
-    editor->sortColumn = column;
+    editor->order = OrderAfterClick(editor->order, column);
     Sort(editor);
 }
 
@@ -180,7 +178,7 @@ void OnTextAsked(const EditorWindow& editor, LVITEMW* item) {
 // Typing finds in the column by which the list is sorted.
 int OnFindAsked(const EditorWindow& editor, const NMLVFINDITEMW& find) {
     if (!(find.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) || !find.lvfi.psz) return -1;
-    return FindVariation(editor.rows, editor.sortColumn, platform::Utf8FromWide(find.lvfi.psz), find.iStart);
+    return FindVariation(editor.rows, editor.order.column, platform::Utf8FromWide(find.lvfi.psz), find.iStart);
 }
 
 INT_PTR OnNotify(EditorWindow* editor, NMHDR* notice) {
@@ -249,7 +247,7 @@ void ShowAircraftEditor(const std::string& simulatorFolder) {
     EditorWindow editor;
     const HCURSOR before = SetCursor(LoadCursorW(nullptr, IDC_WAIT));
     editor.rows = ListVariations(simulatorFolder);
-    SortVariations(&editor.rows, editor.sortColumn, editor.descending);
+    SortVariations(&editor.rows, editor.order);
     editor.choices = CodeChoices();
     SetCursor(before);
     platform::RunDialog(IDD_AIRCRAFT_EDITOR, EditorProc, &editor);

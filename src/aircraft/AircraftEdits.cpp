@@ -160,11 +160,11 @@ Aircraft LoadAircraft(const Variation& row) {
     const platform::IniSection* section = FindSection(sections, SectionName(row.number));
     if (!section) return aircraft;
 
-    aircraft.title = Limited(ShownText(config, platform::IniValue(*section, kTitleKey)), kTitleLimit);
-    aircraft.shown.airline = Limited(ConfigValue(config, *section, kAirlineKey), kAirlineLimit);
-    aircraft.shown.types = Limited(ConfigValue(config, *section, kTypesKey), kTypesLimit);
+    aircraft.title = platform::FirstCharacters(ShownText(config, platform::IniValue(*section, kTitleKey)), kTitleLimit);
+    aircraft.shown.airline = platform::FirstCharacters(ConfigValue(config, *section, kAirlineKey), kAirlineLimit);
+    aircraft.shown.types = platform::FirstCharacters(ConfigValue(config, *section, kTypesKey), kTypesLimit);
     aircraft.shown.code = FirstCode(ConfigValue(config, *section, kCodesKey));
-    aircraft.modelPath = FindModelFile(row.folder, Limited(ConfigValue(config, *section, kModelKey), kModelLimit));
+    aircraft.modelPath = FindModelFile(row.folder, ModelOf(config, *section));
     aircraft.radius = ReadRadius(aircraft.modelPath);
     if (aircraft.radius) aircraft.shown.radius = std::to_string(aircraft.radius);
     aircraft.hasBackup = platform::FileExists(path + kBackupEnd);

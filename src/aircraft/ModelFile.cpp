@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "aircraft/ConfigText.h"
 #include "platform/Files.h"
 #include "platform/IniText.h"
 #include "platform/Text.h"
@@ -48,13 +49,11 @@ std::string FindModelFile(const std::string& aircraftFolder, const std::string& 
     const std::string folder = FolderIn(aircraftFolder, model.empty() ? "Model" : "Model." + model);
     const std::string config = folder.empty() ? "" : FileIn(folder, "Model.cfg");
     if (config.empty()) return "";
-    const std::string text = platform::ReadIniText(config);
-    for (const platform::IniSection& section : platform::ParseIni(text)) {
-        if (!platform::EqualNoCase(section.name, "models")) continue;
-        const std::string name(platform::IniValue(section, "normal"));
-        return name.empty() ? "" : FileIn(folder, name + ".mdl");
-    }
-    return "";
+    const ConfigText text = { platform::ReadIniText(config), "", Encoding::Utf8 };
+    const std::vector<platform::IniSection> sections = platform::ParseIni(text.text);
+    const platform::IniSection* models = FindSection(sections, "models");
+    const std::string name = models ? ConfigValue(text, *models, "normal") : "";
+    return name.empty() ? "" : FileIn(folder, name + ".mdl");
 }
 
 uint32_t RadiusOf(std::span<const uint8_t> model) {

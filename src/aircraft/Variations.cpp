@@ -31,12 +31,12 @@ int NumberOf(std::string_view section) {
 Variation ReadVariation(const ConfigText& config, const platform::IniSection& section) {
     const auto plain = [&](std::string_view key) { return ShownText(config, platform::IniValue(section, key)); };
     Variation row;
-    row.title = Limited(plain(kTitleKey), kListedTitleLimit);
+    row.title = platform::FirstCharacters(plain(kTitleKey), kListedTitleLimit);
     row.manufacturer = plain("ui_manufacturer");
     row.type = plain("ui_type");
     row.name = plain("ui_variation");
-    row.airline = Limited(ConfigValue(config, section, kAirlineKey), kAirlineLimit);
-    row.parkingTypes = Limited(ConfigValue(config, section, kTypesKey), kTypesLimit);
+    row.airline = platform::FirstCharacters(ConfigValue(config, section, kAirlineKey), kAirlineLimit);
+    row.parkingTypes = platform::FirstCharacters(ConfigValue(config, section, kTypesKey), kTypesLimit);
     row.code = FirstCode(ConfigValue(config, section, kCodesKey));
     return row;
 }
@@ -82,16 +82,11 @@ std::string FirstCode(std::string_view codes) {
     constexpr std::string_view kSeparators = " \t,";
     const size_t start = std::min(codes.find_first_not_of(kSeparators), codes.size());
     const size_t end = std::min(codes.find_first_of(kSeparators, start), codes.size());
-    return Limited(std::string(codes.substr(start, end - start)), kCodeLimit);
+    return std::string(platform::FirstCharacters(codes.substr(start, end - start), kCodeLimit));
 }
 
-std::string Limited(const std::string& text, size_t most) {
-    const auto starts = [](char c) { return (static_cast<uint8_t>(c) & 0xC0) != 0x80; };  // a character of UTF-8
-    size_t characters = 0;
-    for (size_t i = 0; i < text.size(); ++i) {
-        if (starts(text[i]) && characters++ == most) return text.substr(0, i);
-    }
-    return text;
+std::string ModelOf(const ConfigText& config, const platform::IniSection& section) {
+    return std::string(platform::FirstCharacters(ConfigValue(config, section, kModelKey), kModelLimit));
 }
 
 std::vector<Variation> VariationsOf(const std::string& folder, const ConfigText& config) {
@@ -102,7 +97,7 @@ std::vector<Variation> VariationsOf(const std::string& folder, const ConfigText&
         if (number < 0) continue;
         Variation row = ReadVariation(config, section);
         if (row.title.empty()) continue;
-        const std::string model = Limited(ConfigValue(config, section, kModelKey), kModelLimit);
+        const std::string model = ModelOf(config, section);
         const auto [known, isNew] = radii.try_emplace(platform::UpperCased(model), 0);
         if (isNew) known->second = ReadRadius(FindModelFile(folder, model));
         row.folder = folder;
@@ -139,11 +134,15 @@ std::string CellText(const Variation& row, int column) {
     return column >= 0 && column < kRadius ? TextOf(row, column) : "";
 }
 
-void SortVariations(std::vector<Variation>* rows, int column, bool descending) {
+SortOrder OrderAfterClick(SortOrder order, int column) {
+    return { column, column == order.column && !order.descending };
+}
+
+void SortVariations(std::vector<Variation>* rows, SortOrder order) {
     std::sort(rows->begin(), rows->end(), [=](const Variation& a, const Variation& b) {
         if (&a == &b) return false;
-        const int order = Compare(a, b, column);
-        return order != 0 ? (order < 0) != descending : CompareRows(a, b) < 0;
+        const int first = Compare(a, b, order.column);
+        return first != 0 ? (first < 0) != order.descending : CompareRows(a, b) < 0;
     });
 }
 

@@ -26,8 +26,8 @@ struct Variation {
 
 std::string SectionName(int number);  // "fltsim.3"
 
-std::string FirstCode(std::string_view codes);              // of codes that commas or blanks part
-std::string Limited(const std::string& text, size_t most);  // its first characters
+std::string FirstCode(std::string_view codes);  // of codes that commas or blanks part
+std::string ModelOf(const ConfigText& config, const platform::IniSection& section);
 
 // All variations that have a title, of all folders of the simulator's Aircraft folder, in the order of folders and
 // sections. `simulatorFolder` may be empty.
@@ -42,8 +42,16 @@ void RefreshVariations(const std::string& folder, std::vector<Variation>* rows);
 enum Column { kManufacturer, kType, kVariation, kAirline, kParkingTypes, kCode, kRadius, kColumns };
 std::string CellText(const Variation& row, int column);
 
+struct SortOrder {
+    int column = kManufacturer;
+    bool descending = false;
+};
+
+// A click on a column's head sorts by it; where the list is sorted by it already, the other way round.
+SortOrder OrderAfterClick(SortOrder order, int column);
+
 // Without regard to case, the radius by its number. Equal rows go by manufacturer, type and variation.
-void SortVariations(std::vector<Variation>* rows, int column, bool descending);
+void SortVariations(std::vector<Variation>* rows, SortOrder order);
 
 // The first row from `start` on, going on from the top, whose cell begins with the text without regard to case;
 // -1 when none does.

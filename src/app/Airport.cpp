@@ -7,8 +7,9 @@
 #include "app/AppHost.h"
 #include "app/AppState.h"
 #include "app/AutoBackup.h"
+#include "app/SimLink.h"
 #include "bgl/OpenAirport.h"
-#include "bgl/SceneryFile.h"
+#include "bgl/SceneryStructure.h"
 #include "faults/FaultFinder.h"
 #include "map/MapView.h"
 #include "map/Tools.h"
@@ -78,6 +79,7 @@ bool OpenAirportAt(const bgl::AirportPlace& place) {
     model::state.modified = false;
     map::ResetTools();
     faults::ForgetAirport();
+    ForgetPresses();
     map::layers.navaids = false;
     map::ResetView(model::PositionOf(model::state.airport));
     ShowAirport();
@@ -92,6 +94,7 @@ void CloseAirport() {
     DeleteRootBackup();
     map::ResetTools();
     faults::ForgetAirport();
+    ForgetPresses();
     model::ClearModel();
     state.sourceFile.clear();
     state.savePath.clear();

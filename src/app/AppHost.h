@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "app/MapPictures.h"
 #include "platform/Platform.h"
 
 namespace app {
@@ -31,8 +32,11 @@ void ShowText(std::string_view title, std::string_view text, platform::Icon icon
 // Opens a document with the program that the system has for it. Nothing is reported when there is none.
 void OpenDocument(const std::string& path);
 
-// Opens ReadMe.htm of the program folder at a topic such as "#Options". Nothing is reported when that fails.
-void OpenHelp(std::string_view topic);
+// The command line that opens what is registered so, "http" or ".htm" for example; "" when nothing is.
+std::string RegisteredCommand(std::string_view association);
+
+// Starts the program of the command line. False when that fails, and for "".
+bool StartCommand(const std::string& command);
 
 // The dialogs, which run until the user has closed them.
 void ShowOpenAirportDialog();
@@ -41,6 +45,12 @@ void ShowPageSetup();
 
 // Asks for a printer and prints what the map shows on one page.
 void PrintAirportMap();
+
+// The save dialog for a picture of the map. False when the user cancelled it.
+bool AskPicturePath(const PictureQuestion& question, PictureAnswer* answer);
+
+// The picture as the bytes of a file. False when the system has no memory for it.
+bool DrawMapPicture(PictureFormat format, const map::PictureSize& size, std::vector<uint8_t>* bytes);
 
 // The File menu lists the recent airports again.
 void ShowRecentAirports();

@@ -8,7 +8,7 @@
 #include "app/AppState.h"
 #include "app/Notices.h"
 #include "bgl/AirportWriter.h"
-#include "bgl/SceneryFile.h"
+#include "bgl/SceneryStructure.h"
 #include "model/ObjectList.h"
 #include "platform/Files.h"
 #include "platform/Platform.h"

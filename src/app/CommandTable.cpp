@@ -9,6 +9,7 @@
 #include "app/EditCommands.h"
 #include "app/HelpPage.h"
 #include "app/HelpTexts.h"
+#include "app/MapPictures.h"
 #include "app/RecentAirports.h"
 #include "app/SaveAirport.h"
 #include "app/SimLink.h"
@@ -91,7 +92,7 @@ void UseLinks() {
 
 template <uint32_t kind>
 bool LinksInUse() {
-    return map::tools.tool == map::Tool::Links && map::tools.linkKind == kind;
+    return map::tools.toolMode == map::Tool::Links && map::tools.linkKind == kind;
 }
 
 template <map::Tool tool>
@@ -101,12 +102,12 @@ void Use() {
 
 template <map::Tool tool>
 bool InUse() {
-    return map::tools.tool == tool;
+    return map::tools.toolMode == tool;
 }
 
 template <uint8_t kind>
 bool NodesInUse() {
-    return map::tools.tool == map::Tool::Nodes && map::tools.nodeKind == kind;
+    return map::tools.toolMode == map::Tool::Nodes && map::tools.nodeKind == kind;
 }
 
 template <bool (*dialog)()>
@@ -129,6 +130,7 @@ constexpr Command kCommands[] = {
     { IDM_AIRPORT_PROPERTIES, EditAirportProperties, AirportAtRest },
     { IDM_PAGE_SETUP, ShowPageSetup, AirportAtRest },
     { IDM_PRINT, PrintAirportMap, AirportAtRest },
+    { IDM_SAVE_PICTURE, [] { SaveMapPicture(); }, AirportAtRest },
     { IDM_EXIT, CloseMainWindow, Always },
     { IDM_RECENT_FIRST, OpenRecent<0>, RecentKnown<0> },
     { IDM_RECENT_FIRST + 1, OpenRecent<1>, RecentKnown<1> },
@@ -199,7 +201,7 @@ constexpr Command kCommands[] = {
     { IDT_LOCK, ToggleLock, Always, LockedToSimulator,
       "Lock the map location to the Flight Simulator aircraft location" },
     { IDT_POINTER, [] { map::SetTool(map::Tool::Pointer); }, Always,
-      [] { return map::tools.tool == map::Tool::Pointer; }, "Pointer mode" },
+      [] { return map::tools.toolMode == map::Tool::Pointer; }, "Pointer mode" },
     { IDT_NORMAL_NODE, UseNodes<1>, AirportLoaded, NodesInUse<1>, "Create normal nodes by clicking with the mouse" },
     { IDT_HOLD_SHORT_NODE, UseNodes<2>, AirportLoaded, NodesInUse<2>,
       "Create hold-short nodes by clicking with the mouse" },

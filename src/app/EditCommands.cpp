@@ -7,7 +7,6 @@
 #include "app/SaveAirport.h"
 #include "dialogs/DialogHost.h"
 #include "dialogs/Editors.h"
-#include "map/HoldShortUpdate.h"
 #include "map/MapView.h"
 #include "map/Selection.h"
 #include "model/ObjectList.h"
@@ -38,10 +37,7 @@ void NewAirport() {
 void EditAirportProperties() { EditProperties(model::state.airport); }
 
 void EditProperties(model::SceneryObject* object) {
-    const map::HoldShortSides before = map::NoteHoldShorts();
-    const model::SceneryObject* newest = model::state.undoHead;
     dialogs::EditObject(object);
-    if (model::state.undoHead != newest) map::FollowHoldShorts(before);  // in the action of the dialog
     ShowEdited();
 }
 

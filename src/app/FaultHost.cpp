@@ -2,6 +2,7 @@
 #include "faults/FaultHost.h"
 
 #include "app/AppHost.h"
+#include "app/HelpPage.h"
 #include "dialogs/OverMap.h"
 #include "model/ObjectList.h"
 

@@ -3,10 +3,15 @@
 
 #include <algorithm>
 
+#include "app/AppHost.h"
+#include "app/AppState.h"
+#include "platform/Files.h"
+
 namespace app {
 
 namespace {
 
+constexpr std::string_view kBrowsers[] = { "http", ".htm" };  // where one may be registered, in order
 constexpr std::string_view kLongPath = "\\\\?\\", kLongServerPath = "\\\\?\\UNC\\";
 
 bool StaysAsItIs(char character) {
@@ -69,6 +74,16 @@ std::string BrowserCommand(std::string_view command, std::string_view url) {
         if (at != std::string::npos) return line.replace(at, place.size(), url);
     }
     return line + " \"" + std::string(url) + "\"";
+}
+
+void OpenHelp(std::string_view topic) {
+    const std::string page = HelpFile(state.programFolder);
+    if (!platform::FileExists(page)) return;
+    const std::string url = FileUrl(page, topic);
+    for (const std::string_view browser : kBrowsers) {
+        if (StartCommand(BrowserCommand(RegisteredCommand(browser), url))) return;
+    }
+    OpenDocument(page);
 }
 
 }  // namespace app

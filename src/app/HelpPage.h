@@ -16,4 +16,8 @@ std::string FileUrl(std::string_view path, std::string_view topic);
 // follows the command when that has no place for it. "" for an empty command.
 std::string BrowserCommand(std::string_view command, std::string_view url);
 
+// Opens the page at a topic such as "#Options": with the browser for web addresses, else with the program for pages. The
+// shell opens files but loses the topic, so it comes last. Nothing is reported when all fail, or there is no page.
+void OpenHelp(std::string_view topic);
+
 }  // namespace app

@@ -1,6 +1,4 @@
-// HelpWin.cpp - opens the manual at a topic.
-//
-// The shell opens files but loses a "#topic" behind their names, so the browser itself is told.
+// HelpWin.cpp - the programs that the system has for the manual, and the ways to it from the dialogs (HelpPage.h).
 #include <windows.h>
 
 #include <shlwapi.h>
@@ -9,22 +7,19 @@
 
 #include "aircraft/AircraftEditor.h"
 #include "app/AppHost.h"
-#include "app/AppState.h"
 #include "app/HelpPage.h"
 #include "dialogs/DialogHost.h"
 #include "platform/WideTextWin.h"
 
 namespace app {
 
-namespace {
-
-// What the system would start for such an address or file; "" when nothing is registered.
-std::string RegisteredCommand(const wchar_t* association) {
+std::string RegisteredCommand(std::string_view association) {
+    const std::wstring name = platform::WideFromUtf8(association);
     DWORD length = 0;
-    AssocQueryStringW(ASSOCF_NOTRUNCATE, ASSOCSTR_COMMAND, association, L"open", nullptr, &length);
+    AssocQueryStringW(ASSOCF_NOTRUNCATE, ASSOCSTR_COMMAND, name.c_str(), L"open", nullptr, &length);
     if (length == 0) return {};
     std::wstring command(length, L'\0');
-    if (AssocQueryStringW(ASSOCF_NOTRUNCATE, ASSOCSTR_COMMAND, association, L"open", command.data(), &length) != S_OK)
+    if (AssocQueryStringW(ASSOCF_NOTRUNCATE, ASSOCSTR_COMMAND, name.c_str(), L"open", command.data(), &length) != S_OK)
         return {};
     return platform::Utf8FromWide(command.c_str());
 }
@@ -41,23 +36,6 @@ bool StartCommand(const std::string& command) {
     CloseHandle(started.hThread);
     CloseHandle(started.hProcess);
     return true;
-}
-
-bool IsFile(const std::string& path) {
-    const DWORD attributes = GetFileAttributesW(platform::WideFromUtf8(path).c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
-}
-
-}  // namespace
-
-void OpenHelp(std::string_view topic) {
-    const std::string page = HelpFile(state.programFolder);
-    if (!IsFile(page)) return;
-    const std::string url = FileUrl(page, topic);
-    for (const wchar_t* association : { L"http", L".htm" }) {
-        if (StartCommand(BrowserCommand(RegisteredCommand(association), url))) return;
-    }
-    OpenDocument(page);
 }
 
 }  // namespace app

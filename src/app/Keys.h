@@ -6,6 +6,7 @@ namespace app {
 // Virtual-key codes; letters have the code of their capital.
 enum Key : int {
     kBackspace = 8,
+    kTab = 9,
     kClear = 12,
     kEnter = 13,
     kEscape = 27,

@@ -73,8 +73,7 @@ bool OnCreate(HWND handle) {
     ShowRecentAirports();
     ShowCommandStates();
     LayOut();
-    OpenSession(handle);
-    return true;
+    return OpenSession(handle);
 }
 
 void OnPaint() {

@@ -28,11 +28,11 @@ bool PrepareSurface(HDC window, int width, int height) {
     FreeMapSurface();
     surface.dc = CreateCompatibleDC(window);
     surface.bitmap = CreateCompatibleBitmap(window, width, height);
-    if (!surface.dc || !surface.bitmap) {
+    if (surface.dc && surface.bitmap) surface.firstBitmap = SelectObject(surface.dc, surface.bitmap);
+    if (!surface.firstBitmap) {
         FreeMapSurface();
         return false;
     }
-    surface.firstBitmap = SelectObject(surface.dc, surface.bitmap);
     surface.width = width;
     surface.height = height;
     return true;

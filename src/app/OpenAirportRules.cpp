@@ -21,7 +21,7 @@ constexpr const char* kCachesNotKept = "Tarvo may not write in its folder: the l
 
 struct Candidate {
     const bgl::AirportIndexEntry* entry;
-    const bgl::LibraryFile* file;
+    const bgl::SceneryFile* file;
     std::string ident;  // upper case
     // Of the highest airport with the identifier:
     std::string_view leadingName;

@@ -11,6 +11,7 @@
 #include "app/AirportFileWin.h"
 #include "app/AppHost.h"
 #include "app/AppState.h"
+#include "app/HelpPage.h"
 #include "app/OpenAirportRules.h"
 #include "app/RecentAirports.h"
 #include "bgl/AirportIndex.h"

@@ -2,6 +2,7 @@
 #include <windows.h>
 
 #include "app/AppHost.h"
+#include "app/HelpPage.h"
 #include "app/Options.h"
 #include "OptionsIds.h"
 #include "platform/DialogWin.h"

@@ -117,16 +117,11 @@ UINT_PTR CALLBACK SetupHook(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
     return message == WM_INITDIALOG;  // the system does the rest of everything else
 }
 
-// The sheet of the sample is a printer with few pixels.
 void DrawSample(HDC dc) {
-    map::PrintDevice device;
-    device.width = device.sheetWidth = setup.sheet.right - setup.sheet.left;
-    device.height = device.sheetHeight = setup.sheet.bottom - setup.sheet.top;
-    const double perUnit = device.sheetHeight / map::print.paper.height;
-    device.perInchX = device.perInchY = static_cast<int32_t>(perUnit * (map::print.paper.metric ? 2.54 : 1) + 0.5);
+    const int width = setup.sheet.right - setup.sheet.left, height = setup.sheet.bottom - setup.sheet.top;
     const int state = SaveDC(dc);
     OffsetViewportOrgEx(dc, setup.sheet.left, setup.sheet.top, nullptr);
-    DrawPrintPage(dc, device);
+    DrawPrintPage(dc, map::SampleDevice(map::print.paper, width, height));
     RestoreDC(dc, state);
 }
 
@@ -157,9 +152,9 @@ void LearnPaper() {
         map::print.paper = map::UsualPaper(metric);
         return;
     }
-    printer = { dialog.hDevMode, dialog.hDevNames };
+    GlobalFree(dialog.hDevMode);
+    GlobalFree(dialog.hDevNames);
     map::print.paper = PaperOf(dialog, metric);
-    map::print.pageSetupDone = true;
 }
 
 void ShowPageSetup() {
@@ -174,11 +169,14 @@ void ShowPageSetup() {
     dialog.lpfnPageSetupHook = SetupHook;
     dialog.lpfnPagePaintHook = SampleHook;
     dialog.Flags |= PSD_MARGINS | PSD_ENABLEPAGESETUPTEMPLATE | PSD_ENABLEPAGESETUPHOOK | PSD_ENABLEPAGEPAINTHOOK;
+    const platform::OthersDisabled others(dialog.hwndOwner, nullptr);
     const bool chosen = PageSetupDlgW(&dialog);
+    const bool shown = setup.dialog != nullptr;
     setup = {};
     printer = { dialog.hDevMode, dialog.hDevNames };
     if (!chosen) {
         map::print = before;
+        map::print.pageSetupDone |= shown;
         return TellPrinterTrouble();
     }
     map::print.paper = PaperOf(dialog, map::print.paper.metric);

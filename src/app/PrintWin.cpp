@@ -6,7 +6,6 @@
 #include "app/AppHost.h"
 #include "app/PrinterWin.h"
 #include "map/PrintLayout.h"
-#include "platform/CanvasGdiWin.h"
 #include "platform/PlatformWin.h"
 
 namespace app {
@@ -15,21 +14,12 @@ namespace {
 
 constexpr wchar_t kDocument[] = L"Tarvo Airport Printout";
 
-map::PrintDevice DeviceOf(HDC dc) {
-    map::PrintDevice device;
-    device.sheetWidth = GetDeviceCaps(dc, PHYSICALWIDTH);
-    device.sheetHeight = GetDeviceCaps(dc, PHYSICALHEIGHT);
-    device.left = GetDeviceCaps(dc, PHYSICALOFFSETX);
-    device.top = GetDeviceCaps(dc, PHYSICALOFFSETY);
-    device.width = GetDeviceCaps(dc, HORZRES);
-    device.height = GetDeviceCaps(dc, VERTRES);
-    device.perInchX = GetDeviceCaps(dc, LOGPIXELSX);
-    device.perInchY = GetDeviceCaps(dc, LOGPIXELSY);
-    if (device.sheetWidth <= 0 || device.sheetHeight <= 0) {  // no sheet, but a picture
-        device.sheetWidth = device.width;
-        device.sheetHeight = device.height;
-    }
-    return device;
+// It may be gone: the next dialog begins with the one that the system prefers.
+void RefusePrinter() {
+    GlobalFree(printer.mode);
+    GlobalFree(printer.names);
+    printer = {};
+    platform::ShowMessage("ERROR: The printer cannot be used.", platform::Buttons::Ok, platform::Icon::Exclamation);
 }
 
 // Null when the user cancelled. To be deleted.
@@ -41,9 +31,11 @@ HDC AskPrinter() {
     dialog.hDevNames = printer.names;
     dialog.Flags = PD_RETURNDC | PD_NOSELECTION | PD_NOPAGENUMS | PD_USEDEVMODECOPIESANDCOLLATE;
     dialog.nCopies = 1;
+    const platform::OthersDisabled others(dialog.hwndOwner, nullptr);
     const bool chosen = PrintDlgW(&dialog);
     printer = { dialog.hDevMode, dialog.hDevNames };
     if (!chosen) TellPrinterTrouble();
+    if (chosen && !dialog.hDC) RefusePrinter();
     return chosen ? dialog.hDC : nullptr;
 }
 
@@ -85,22 +77,7 @@ void PrintDocument(HDC dc) {
 
 void TellPrinterTrouble() {
     const DWORD error = CommDlgExtendedError();
-    if (error == 0 || error == PDERR_NODEFAULTPRN) return;  // of a missing printer the dialog tells itself
-    printer = {};                                           // it may be gone
-    platform::ShowMessage("ERROR: The printer cannot be used.", platform::Buttons::Ok, platform::Icon::Exclamation);
-}
-
-void DrawPrintPage(HDC dc, const map::PrintDevice& device) {
-    const map::PrintPage page = map::PlanPage(map::print, device);
-    POINT origin{};
-    OffsetViewportOrgEx(dc, page.box.left, page.box.top, &origin);
-    platform::GdiCanvas gdi = platform::OpenGdiCanvas(dc, page.textScale);
-    map::PaintPage(&gdi.canvas, page);
-    platform::CloseGdiCanvas(&gdi);
-    gdi = platform::OpenGdiCanvas(dc, 1);  // the title's height is the printer's own already
-    map::PaintPageFrame(&gdi.canvas, page, map::print);
-    platform::CloseGdiCanvas(&gdi);
-    SetViewportOrgEx(dc, origin.x, origin.y, nullptr);
+    if (error != 0 && error != PDERR_NODEFAULTPRN) RefusePrinter();  // of a missing printer the dialog tells itself
 }
 
 void PrintAirportMap() {

@@ -35,7 +35,7 @@ bool HasUserChangedSettings() {
 
 bool KeepSettings() {
     settings.windowMaximized = IsMainWindowMaximized();
-    return SaveSettings(state.programFolder) || !HasUserChangedSettings();
+    return (state.settingsRead && SaveSettings(state.programFolder)) || !HasUserChangedSettings();
 }
 
 void SaySettingsAreLost() {
@@ -69,7 +69,7 @@ void WriteBackupAtOnce() {
 
 void LoadProgramFiles() {
     LoadParkingSpecs(state.programFolder);
-    LoadSettings(state.programFolder);
+    state.settingsRead = LoadSettings(state.programFolder);
     state.loadedSettings = settings;
     FindSimulatorFolder();
     map::view = {};

@@ -8,7 +8,7 @@
 #include "app/AppHost.h"
 #include "app/Settings.h"
 #include "bgl/AirportIndex.h"
-#include "bgl/SceneryFile.h"
+#include "bgl/SceneryStructure.h"
 #include "model/ObjectList.h"
 #include "platform/Files.h"
 #include "platform/Text.h"
@@ -30,6 +30,7 @@ bool HasLostAirport(const RecentAirport& airport) {
 }  // namespace
 
 void NoteOpenedAirport(std::string_view ident, std::string_view path) {
+    if (ident.empty()) return;  // the entry would open nothing
     ident = ident.substr(0, kIdentLength);
     std::vector<std::string>& entries = settings.previousFiles;
     std::erase_if(entries, [&](const std::string& entry) { return platform::EqualNoCase(IdentOf(entry), ident); });

@@ -51,10 +51,10 @@ bool IsWithoutAsking(LPARAM reason) { return (static_cast<DWORD>(reason) & ENDSE
 
 }  // namespace
 
-void OpenSession(HWND window) {
-    SetTimer(window, kSimLinkTimer, kSimLinkPeriod, nullptr);
-    SetTimer(window, kBackupTimer, kBackupPeriod, nullptr);
+bool OpenSession(HWND window) {
     DragAcceptFiles(window, TRUE);
+    return SetTimer(window, kSimLinkTimer, kSimLinkPeriod, nullptr) &&
+           SetTimer(window, kBackupTimer, kBackupPeriod, nullptr);
 }
 
 void OnTimer(WPARAM timer) {

@@ -7,8 +7,8 @@
 
 namespace app {
 
-// Timers, and files may be dropped. Once the window is made.
-void OpenSession(HWND window);
+// Timers, and files may be dropped. Once the window is made. False without the timers: no backup would ever be written.
+bool OpenSession(HWND window);
 
 void OnTimer(WPARAM timer);
 void OnDroppedFiles(HWND window, HDROP drop);

@@ -161,8 +161,9 @@ bool ReplaceByDraft(const std::string& draft, const std::string& file) {
 
 }  // namespace
 
-void LoadSettings(const std::string& programFolder) {
+bool LoadSettings(const std::string& programFolder) {
     const std::string file = programFolder + kFileName;
+    const bool readable = !platform::FileExists(file) || platform::OpenForReading(file);
     const Settings defaults;
     for (const ByteRow& row : kByteRows) {
         settings.*row.member = static_cast<uint8_t>(ReadNumber(file, row.key, defaults.*row.member, 0, 255));
@@ -178,6 +179,7 @@ void LoadSettings(const std::string& programFolder) {
     }
     settings.previousFiles = ReadList(file, kPrevious, "PrevOpenedFile", kPreviousFiles, kPreviousLimit);
     settings.mostUsedSpecs = ReadList(file, kMostUsed, "SpecName", kMostUsedSpecs, kSpecNameLimit);
+    return readable;
 }
 
 // The profile functions change a file key by key. So they work on a draft, and the file is replaced as a whole.

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "app/AppHost.h"
-#include "app/AppState.h"
 #include "app/Settings.h"
 #include "app/SimLinkHost.h"
 #include "link/Simulator.h"
@@ -32,8 +31,7 @@ struct SimLinkState {
     bool hasLast = false;  // the two below hold the last poll with an airport open
     simlink::SimPosition lastPosition;
     uint32_t lastHeading = 0;
-    std::vector<Press> presses;  // still to be carried out
-    std::string airportFile;     // that they are meant for
+    std::vector<Press> presses;  // still to be carried out, in the airport that is open
 };
 SimLinkState simLink;
 
@@ -61,15 +59,15 @@ void ShowMove() {
     ShowReadOuts();
 }
 
-// The press counts even when the simulator can no longer be told that it was seen.
+// The press counts even when the simulator can no longer be told that it was seen. It is not told of further ones
+// then: each try would block as long as the first.
 void TakePresses() {
     bool answered = true;
     for (size_t key = 0; key < simlink::kHotKeys; ++key) {
         simlink::HotKeySlot& slot = simlink::hotKeys.slots[key];
         if (!simlink::IsPressed(slot)) continue;
-        if (!simlink::AcknowledgeHotKey(&slot)) answered = false;
+        if (answered) answered = simlink::AcknowledgeHotKey(&slot);
         if (simLink.presses.size() >= kMostPresses) continue;
-        simLink.airportFile = state.sourceFile;
         simLink.presses.push_back({ key, AircraftPosition(), AircraftHeading() });
     }
     if (!answered) simlink::LoseLink();
@@ -83,7 +81,7 @@ void CarryOut(const Press& press) {
 
 // Under a drag or a dialog the objects are in other hands: what is pressed then is made afterwards, in its place.
 void CarryOutPresses() {
-    if (!model::state.loaded || state.sourceFile != simLink.airportFile) simLink.presses.clear();
+    if (!model::state.loaded) ForgetPresses();
     if (simLink.presses.empty() || model::state.busy || map::tools.pressed || !IsMapInFront()) return;
     const std::vector<Press> presses = std::move(simLink.presses);
     simLink.presses.clear();
@@ -125,6 +123,8 @@ void PollSimulator() {
     ShowConnection();
     CarryOutPresses();
 }
+
+void ForgetPresses() { simLink.presses.clear(); }
 
 void ReleaseSimulator() {
     simlink::ReleaseLink();

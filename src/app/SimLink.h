@@ -13,6 +13,9 @@ constexpr int kSimLinkTimer = 1, kSimLinkPeriod = 100;  // milliseconds
 // At every tick of the timer.
 void PollSimulator();
 
+// Another airport is open, or none: what was pressed while a dialog was at work was not meant for it.
+void ForgetPresses();
+
 // At the end of the program: the simulator forgets the hot keys.
 void ReleaseSimulator();
 

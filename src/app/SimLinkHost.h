@@ -1,5 +1,6 @@
-// SimLinkHost.h - what the link, and who wants to end the program, ask of the window. SimLinkWin.cpp serves the program, tests/fakes/FakeSimLinkHost.cpp
-// the tests.
+// SimLinkHost.h - what the link, and who wants to end the program, ask of the window.
+//
+// SimLinkWin.cpp serves the program, tests/fakes/FakeSimLinkHost.cpp the tests.
 #pragma once
 
 namespace app {

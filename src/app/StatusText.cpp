@@ -42,9 +42,8 @@ bool FindWay(platform::Pixel cursor, model::Polar* way) {
 
 std::string PositionText(platform::Pixel cursor) {
     if (!model::state.loaded) return {};
-    model::LatLon position = CursorPosition(cursor);
+    const model::LatLon position = CursorPosition(cursor);
     if (!(std::fabs(position.lat) <= model::kPi / 2 && std::fabs(position.lon) <= 2 * model::kTwoPi)) return {};
-    position.lon = std::remainder(position.lon, model::kTwoPi);
     const model::CoordinateTexts texts = model::FormatLatLon(position);
     return texts.latitude + "   " + texts.longitude;
 }

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "app/Keys.h"
 #include "app/ParkingSpecs.h"
 #include "app/Settings.h"
 #include "app/ViewCommands.h"
@@ -71,6 +72,7 @@ void UseSpec(const SpecRow& row, std::vector<std::string> codes) {
 }  // namespace
 
 void RefreshDesignatorRows() {
+    if (!model::state.loaded) TakeBackTyping();
     if (toolCombos.designators.revision == model::state.revision) return;
     toolCombos.designators = { dialogs::DesignatorChoices(), model::state.revision };
     if (map::layers.highlightedDesignator && !IsListed(map::layers.highlightedDesignator)) map::SetHighlight(nullptr);
@@ -98,8 +100,6 @@ void CycleDesignator(bool backwards) {
     ChooseDesignator((CurrentDesignatorRow() + (backwards ? count - 1 : 1)) % count);
 }
 
-bool NeedsQuestion(const std::string& typed) { return MayEdit() && dialogs::NamesNewDesignator(typed); }
-
 void TypeDesignatorText(const std::string& typed) {
     if (!MayEdit()) return;
     RefreshDesignatorRows();
@@ -108,6 +108,36 @@ void TypeDesignatorText(const std::string& typed) {
     map::SetHighlight(
         dialogs::TypeDesignator(typed, current == 0 ? nullptr : rows[static_cast<size_t>(current)].object));
 }
+
+void StartTyping() { toolCombos.typing = true; }
+
+bool NeedsQuestion(const std::string& typed) {
+    return toolCombos.typing && MayEdit() && dialogs::NamesNewDesignator(typed);
+}
+
+// The typing is over before the question comes: it takes the focus from the box, which then counts as left.
+bool FinishTyping(const std::string& typed, bool held) {
+    if (!toolCombos.typing) return false;
+    TakeBackTyping();
+    if (!held) TypeDesignatorText(typed);
+    return true;
+}
+
+bool LeaveTyping(const std::string& typed, bool held) {
+    if (!NeedsQuestion(typed)) return FinishTyping(typed, held);
+    TakeBackTyping();
+    return true;
+}
+
+void TakeBackTyping() { toolCombos.typing = false; }
+
+TypingKey TypingKeyOf(int key, bool listOpen) {
+    if (listOpen) return TypingKey::None;
+    if (key == kEnter || key == kTab) return TypingKey::Finish;
+    return key == kEscape ? TypingKey::TakeBack : TypingKey::None;
+}
+
+bool IsTypingKeyCharacter(int character) { return character == kEnter || character == kTab || character == kEscape; }
 
 void RefreshSpecRows() {
     const SpecRow line = { std::string(kLineLength, '-'), kLineRow, false };

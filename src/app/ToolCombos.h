@@ -29,6 +29,7 @@ struct SpecRow {
 
 struct ToolCombos {
     DesignatorRows designators;
+    bool typing = false;         // the designator box holds what the user types
     std::vector<SpecRow> specs;  // as the box shows them; they follow the most-used specs when its list opens
     int spec = kNoSpec;          // the current one
     bool fromMostUsed = false;   // it was chosen among the most-used ones
@@ -43,8 +44,18 @@ void RefreshDesignatorRows();
 int CurrentDesignatorRow();
 void ChooseDesignator(int row);
 void CycleDesignator(bool backwards);               // the row behind or before the current one, around the ends
-bool NeedsQuestion(const std::string& typed);       // typing this makes a new designator, if the user agrees
 void TypeDesignatorText(const std::string& typed);  // the user has finished typing
+
+// Typing in the designator box, which ends when the user says so, goes elsewhere or takes it back. Under a dialog that
+// holds the airport nothing comes of it.
+enum class TypingKey { None, Finish, TakeBack };
+void StartTyping();
+bool NeedsQuestion(const std::string& typed);            // finishing now makes a new designator, if the user agrees
+bool FinishTyping(const std::string& typed, bool held);  // false when nobody was typing
+bool LeaveTyping(const std::string& typed, bool held);   // the same, but nobody is asked: a new name is dropped
+void TakeBackTyping();
+TypingKey TypingKeyOf(int key, bool listOpen);  // an open list has these keys for itself
+bool IsTypingKeyCharacter(int character);       // what these keys type, which is no text for the box
 
 // The parking boxes. A choice that comes too soon after the last one, or that cannot be made, leaves all as it was.
 void RefreshSpecRows();

@@ -29,7 +29,6 @@ constexpr UINT kComboDelay = 50;  // milliseconds until an opened list is there
 struct Boxes {
     std::vector<std::string> designators;  // the texts in the box
     ListTracker tracker;                   // of the list that is open; only one can be
-    bool typing = false;                   // the designator box holds what the user types
     std::wstring rotationText;
 };
 Boxes boxes;
@@ -61,25 +60,24 @@ void FillDesignators(const std::vector<std::string>& texts) {
     const std::wstring typed = platform::WideFromUtf8(TypedText());
     const LRESULT cursor = SendMessageW(toolBoxes.designator, CB_GETEDITSEL, 0, 0);
     Fill(toolBoxes.designator, texts);
-    if (!boxes.typing) return;
+    if (!toolCombos.typing) return;
     SetWindowTextW(toolBoxes.designator, typed.c_str());
     SendMessageW(toolBoxes.designator, CB_SETEDITSEL, 0, cursor);
 }
 
 void RestoreDesignator() {
-    boxes.typing = false;
+    TakeBackTyping();
     ShowRow(toolBoxes.designator, CurrentDesignatorRow());
 }
 
 void ShowDesignators() {
     EnableWindow(toolBoxes.designator, model::state.loaded && !dialogs::overMap.open);
-    if (!model::state.loaded) boxes.typing = false;
     RefreshDesignatorRows();
     if (IsOpen(toolBoxes.designator)) return;
     std::vector<std::string> texts;
     for (const dialogs::DesignatorChoice& row : toolCombos.designators.rows) texts.push_back(row.text);
     if (texts != boxes.designators) FillDesignators(texts);
-    if (!boxes.typing && ChosenRow(toolBoxes.designator) != CurrentDesignatorRow()) RestoreDesignator();
+    if (!toolCombos.typing && ChosenRow(toolBoxes.designator) != CurrentDesignatorRow()) RestoreDesignator();
 }
 
 void FillSpecs() {
@@ -129,41 +127,31 @@ void OnListEvent(HWND combo, ListEvent event) {
     if (result == ListResult::Choose) Choose(combo, true);
 }
 
-void FinishTyping() {
-    if (!boxes.typing) return;
-    boxes.typing = false;
-    const std::string typed = TypedText();
-    if (!IsHeldByDialog()) TypeDesignatorText(typed);
+void ShowTyped() {
     ShowDesignators();
     RestoreDesignator();
     ShowCommandStates();
 }
 
-// The user went elsewhere. Nobody is asked about a name then: it is dropped when it would be a new one.
 void OnTypingLeft() {
-    if (!boxes.typing) return;
-    if (NeedsQuestion(TypedText())) return RestoreDesignator();
-    FinishTyping();
+    if (LeaveTyping(TypedText(), IsHeldByDialog())) ShowTyped();
 }
 
-// Enter and Tab finish the typing, Esc takes it back. While the list is open these keys are the list's.
 bool HandleEditKey(WPARAM key) {
-    if (IsOpen(toolBoxes.designator)) return false;
-    if (key == VK_RETURN || key == VK_TAB) {
-        PostMessageW(platform::MainWindow(), WM_USER, 0, 0);
+    switch (TypingKeyOf(static_cast<int>(key), IsOpen(toolBoxes.designator))) {
+    case TypingKey::Finish: PostMessageW(platform::MainWindow(), WM_USER, 0, 0); return true;
+    case TypingKey::TakeBack:
+        RestoreDesignator();
+        SetFocus(platform::MainWindow());
         return true;
+    default: return false;
     }
-    if (key != VK_ESCAPE) return false;
-    RestoreDesignator();
-    SetFocus(platform::MainWindow());
-    return true;
 }
-
-bool IsEndingCharacter(WPARAM character) { return character == '\r' || character == '\t' || character == 27; }
 
 LRESULT CALLBACK EditProc(HWND edit, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
     if (message == WM_KEYDOWN && HandleEditKey(wParam)) return 0;
-    if (message == WM_CHAR && IsEndingCharacter(wParam)) return 0;  // an edit control beeps at these
+    if (message == WM_CHAR && IsTypingKeyCharacter(static_cast<int>(wParam)))
+        return 0;  // an edit control beeps at these
     return DefSubclassProc(edit, message, wParam, lParam);
 }
 
@@ -207,7 +195,7 @@ bool OnComboNotice(int id, int code) {
     case CBN_SELENDCANCEL: OnListEvent(combo, ListEvent::Cancelled); break;
     case CBN_SELCHANGE: OnListEvent(combo, ListEvent::Moved); break;
     case CBN_CLOSEUP: OnListEvent(combo, ListEvent::Closed); break;
-    case CBN_EDITCHANGE: boxes.typing = true; break;
+    case CBN_EDITCHANGE: StartTyping(); break;
     case CBN_KILLFOCUS: OnTypingLeft(); break;
     default: break;
     }
@@ -221,12 +209,12 @@ void OnComboTimer() {
 }
 
 void CommitTypedDesignator() {
-    FinishTyping();
+    if (FinishTyping(TypedText(), IsHeldByDialog())) ShowTyped();
     SetFocus(platform::MainWindow());
 }
 
 bool LeaveToolBoxes() {
-    const bool asks = boxes.typing && NeedsQuestion(TypedText());
+    const bool asks = NeedsQuestion(TypedText());
     CommitTypedDesignator();
     return !asks;
 }

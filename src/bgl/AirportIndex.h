@@ -18,7 +18,8 @@ namespace bgl {
 // In the order of the letters "USAN" of the file cache.
 enum class FileKind : uint8_t { NotExamined, Stock, AddOn, NoAirports };
 
-struct LibraryFile {
+// One file of the library.
+struct SceneryFile {
     std::string path;
     uint32_t writeTime = 0;  // see ScanTime
     uint32_t layer = 0;      // of the area; the higher one wins
@@ -51,7 +52,7 @@ struct CollectionReport {
 };
 
 struct AirportLibrary {
-    std::vector<LibraryFile> files;
+    std::vector<SceneryFile> files;
     std::unordered_map<std::string, uint32_t> fileOfPath;  // by PathKey
     std::vector<AirportIndexEntry> airports;
     std::vector<Place> places;      // the first is the root, which has no name

@@ -9,7 +9,7 @@ namespace bgl {
 
 constexpr uint64_t kLongestAirport = 16 << 20;  // bytes that are read; large real airports need a twentieth of it
 
-// Where an airport record lies (SceneryFile.h finds it).
+// Where an airport record lies (SceneryStructure.h finds it).
 struct AirportPlace {
     std::string path;     // UTF-8
     uint64_t offset = 0;  // of the airport record's head, from the start of the file

@@ -5,7 +5,7 @@
 
 #include "bgl/Cells.h"
 #include "bgl/RecordIds.h"
-#include "bgl/SceneryFile.h"
+#include "bgl/SceneryStructure.h"
 
 namespace bgl {
 

@@ -79,7 +79,7 @@ std::string_view WithoutLineEnd(std::string_view line) {
     return line;
 }
 
-std::string FileLine(const LibraryFile& file, FileKind kind) {
+std::string FileLine(const SceneryFile& file, FileKind kind) {
     char head[32];
     std::snprintf(head, sizeof head, "%c|%u|%X|", kKindLetters[static_cast<size_t>(kind)], file.layer, file.writeTime);
     return head + file.path + '\n';
@@ -96,7 +96,7 @@ void AppendAirportLine(const AirportIndexEntry& entry, uint32_t number, std::str
 // The kinds as they are to be written: a file with an airport whose line is too long counts as not examined.
 std::vector<FileKind> KindsToWrite() {
     std::vector<FileKind> kinds;
-    for (const LibraryFile& file : library.files) kinds.push_back(file.kind);
+    for (const SceneryFile& file : library.files) kinds.push_back(file.kind);
     constexpr size_t kLongestNumber = 10;
     for (const AirportIndexEntry& entry : library.airports) {
         const size_t names = entry.country.size() + entry.state.size() + entry.city.size() + entry.name.size();
@@ -198,7 +198,7 @@ void ParseAirportIndex(std::string airportIndex) {
     AirportIndexEntry entry;
     while (!rest.empty()) {
         if (!ParseAirportLine(TakeLine(&rest), &entry) || entry.file >= library.files.size()) continue;
-        const LibraryFile& file = library.files[entry.file];
+        const SceneryFile& file = library.files[entry.file];
         if (file.present && file.kind != FileKind::NotExamined) library.airports.push_back(entry);
     }
 }
@@ -207,7 +207,7 @@ void DoubtFilesWithoutAirports() {
     std::vector<bool> hasAirports(library.files.size());
     for (const AirportIndexEntry& entry : library.airports) hasAirports[entry.file] = true;
     for (size_t i = 0; i < library.files.size(); ++i) {
-        LibraryFile& file = library.files[i];
+        SceneryFile& file = library.files[i];
         if (file.kind != FileKind::NoAirports && !hasAirports[i]) file.kind = FileKind::NotExamined;
     }
 }

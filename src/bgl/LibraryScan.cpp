@@ -12,7 +12,7 @@
 #include "bgl/NameList.h"
 #include "bgl/RecordIds.h"
 #include "bgl/SceneryAreas.h"
-#include "bgl/SceneryFile.h"
+#include "bgl/SceneryStructure.h"
 #include "model/Ident.h"
 #include "platform/Files.h"
 #include "platform/Platform.h"
@@ -36,7 +36,7 @@ constexpr uint32_t kFirstLaterClass = 5, kLastLaterClass = 7;  // and sections o
 
 constexpr int kScanned = 5, kExamined = 85, kFileRead = 30, kDone = 100;  // percent of the progress bar
 
-bool IsForLaterSimulator(const SceneryFile& file) {
+bool IsForLaterSimulator(const SceneryStructure& file) {
     return std::any_of(file.sections.begin(), file.sections.end(), [](const SectionEntry& section) {
         return section.type == kLaterSummarySection || section.sectionClass > kLargestClass ||
                (section.sectionClass >= kFirstLaterClass && section.sectionClass <= kLastLaterClass);
@@ -44,7 +44,7 @@ bool IsForLaterSimulator(const SceneryFile& file) {
 }
 
 // Opens the structure with what it may read kept within the limits above.
-bool ReadLimitedStructure(const ByteSource& source, SceneryFile* file) {
+bool ReadLimitedStructure(const ByteSource& source, SceneryStructure* file) {
     ByteSource head = source;
     head.size = std::min(source.size, kFileHeaderSize + kMostSections * kSectionEntrySize);
     if (!ReadStructure(head, file)) return false;
@@ -69,7 +69,7 @@ void AddAirports(Bytes subsection, uint32_t file, uint64_t* nameBytesLeft) {
     }
 }
 
-bool AddNameLists(SceneryFile* structure, const SectionEntry& section, uint32_t file, uint64_t* nameBytesLeft) {
+bool AddNameLists(SceneryStructure* structure, const SectionEntry& section, uint32_t file, uint64_t* nameBytesLeft) {
     const std::vector<SubsectionEntry> subsections = ReadSubsections(structure, section);
     for (const SubsectionEntry& subsection : subsections) {
         if (!CoverRecords(structure, subsection)) break;
@@ -90,7 +90,7 @@ void CountResult(ScanResult result) {
 }
 
 void ScanFile(const std::string& path, uint32_t time, uint32_t layer) {
-    LibraryFile& file = library.files[FileNumberOf(path)];
+    SceneryFile& file = library.files[FileNumberOf(path)];
     // Several areas may lead to one folder: then the highest layer counts.
     if (file.present) layer = std::max(file.layer, layer);
     if (!file.present) ++library.report.present;
@@ -125,13 +125,13 @@ struct KnownFile {
 std::vector<KnownFile> KnownFiles() {
     std::vector<KnownFile> known;
     known.reserve(library.files.size());
-    for (const LibraryFile& file : library.files) known.push_back({ file.layer, file.writeTime });
+    for (const SceneryFile& file : library.files) known.push_back({ file.layer, file.writeTime });
     return known;
 }
 
 bool DiffersFrom(const std::vector<KnownFile>& known) {
     if (library.files.size() != known.size() || library.report.present != known.size()) return true;
-    const auto isSame = [](const LibraryFile& file, const KnownFile& before) {
+    const auto isSame = [](const SceneryFile& file, const KnownFile& before) {
         return file.layer == before.layer && file.writeTime == before.writeTime;
     };
     return !std::equal(library.files.begin(), library.files.end(), known.begin(), isSame);
@@ -163,7 +163,7 @@ void ExamineFiles() {
     for (size_t i = 0; i < files.size(); ++i) {
         const ScanResult result = ScanBglHeader(files[i]);
         CountResult(result);
-        LibraryFile& file = library.files[files[i]];
+        SceneryFile& file = library.files[files[i]];
         file.kind = KindAfter(result, file.path);
         const size_t share = static_cast<size_t>(kExamined - kScanned) * (i + 1) / files.size();
         MoveProgress(kScanned + static_cast<int>(share), &shown);
@@ -199,7 +199,7 @@ ScanResult ScanBglHeader(uint32_t file) {
     ++library.report.opened;
     const platform::FileHandle handle = platform::OpenForReading(library.files[file].path);
     if (!handle) return ScanResult::CannotOpen;
-    SceneryFile structure;
+    SceneryStructure structure;
     if (!ReadLimitedStructure(SourceOfFile(handle.get()), &structure)) return ScanResult::NotScenery;
     if (IsForLaterSimulator(structure)) return ScanResult::NoAirports;
     bool found = false;
@@ -238,7 +238,7 @@ bool CollectAirportsFromFile(const std::string& path) {
     ShowProgress(kCollecting);
     ReleaseLibrary();
     const uint32_t number = FileNumberOf(path);
-    LibraryFile& file = library.files[number];
+    SceneryFile& file = library.files[number];
     file.present = true;
     library.report.present = 1;
     file.kind = IsInSceneryFolder(path) && IsStockFileName(path) ? FileKind::Stock : FileKind::AddOn;

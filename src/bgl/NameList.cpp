@@ -137,7 +137,7 @@ NamedAirport NameListEntry(const NameListView& list, uint32_t index) {
 }
 
 // The low bits of an ident word tell the kind of object; some compilers leave them out of the list.
-bool FindNames(SceneryFile* file, uint32_t ident, NamedAirport* names) {
+bool FindNames(SceneryStructure* file, uint32_t ident, NamedAirport* names) {
     bool found = false;
     for (const SectionEntry& section : file->sections) {
         if ((section.sectionClass & 0xFFFF) != kNameList) continue;  // whatever its type, as for the airport index

@@ -9,7 +9,7 @@
 
 #include "bgl/ByteReader.h"
 #include "bgl/ByteWriter.h"
-#include "bgl/SceneryFile.h"
+#include "bgl/SceneryStructure.h"
 #include "model/Records.h"
 
 namespace bgl {
@@ -35,6 +35,6 @@ bool OpenNameList(Bytes subsection, NameListView* list);
 NamedAirport NameListEntry(const NameListView& list, uint32_t index);
 
 // The entry of the airport with that ident word, from the first name list that has one.
-bool FindNames(SceneryFile* file, uint32_t ident, NamedAirport* names);
+bool FindNames(SceneryStructure* file, uint32_t ident, NamedAirport* names);
 
 }  // namespace bgl

@@ -8,7 +8,7 @@
 #include "bgl/NameList.h"
 #include "bgl/Navaids.h"
 #include "bgl/RecordIds.h"
-#include "bgl/SceneryFile.h"
+#include "bgl/SceneryStructure.h"
 #include "bgl/WriteLimits.h"
 #include "model/ObjectList.h"
 #include "platform/Files.h"
@@ -26,7 +26,7 @@ bool StartsWithAirport(Bytes records) {
            BytesLeft(reader) >= sizeof(model::AirportRecord);
 }
 
-void ReadPlaceNames(SceneryFile* file) {
+void ReadPlaceNames(SceneryStructure* file) {
     NamedAirport names;
     if (!FindNames(file, model::PayloadAs<model::AirportRecord>(model::state.airport).ident, &names)) return;
     model::state.country = names.country;
@@ -48,7 +48,7 @@ bool IsOfOtherKind(const SectionEntry& section) {
 OpenWarnings WarningsFor(const std::string& path, const ByteSource& source) {
     OpenWarnings warnings;
     warnings.doesNotFit = WhatDoesNotFit();
-    SceneryFile file;
+    SceneryStructure file;
     if (!IsOwnFileName(path) || !ReadStructure(source, &file)) return warnings;
     const size_t count = FindAllAirports(&file).size();
     warnings.airportsInFile = count > 1 ? count : 0;
@@ -76,7 +76,7 @@ bool ReadFrom(const ByteSource& source, const AirportPlace& place) {
     if (!StartsWithAirport(records)) return false;
     model::ClearModel();
     ReadAirport(records);
-    SceneryFile file;
+    SceneryStructure file;
     if (!ReadStructure(source, &file)) return true;
     ReadPlaceNames(&file);
     if (!IsStockFileName(place.path)) AppendOwnNavaids(&file);
@@ -107,7 +107,7 @@ bool OpenAirport(const AirportPlace& place, const std::string& simulatorFolder, 
 
 bool OpenAirportBytes(std::span<const uint8_t> bytes, std::string_view ident) {
     const ByteSource source = SourceOfBytes(bytes);
-    SceneryFile file;
+    SceneryStructure file;
     AirportPlace place;
     return ReadStructure(source, &file) && FindAirport(&file, ident, &place) && ReadFrom(source, place);
 }

@@ -51,7 +51,7 @@ constexpr size_t kMostCells = 64;  // our own files have eight; with more the fi
 
 std::string TextOf(uint32_t ident) { return model::UnpackIdent(ident >> model::kIdentShift); }
 
-Cells ReadCells(SceneryFile* file, uint32_t sectionType) {
+Cells ReadCells(SceneryStructure* file, uint32_t sectionType) {
     Cells cells;
     size_t subsection = 0;  // that of the last cell
     const auto all = [](uint32_t) { return true; };
@@ -65,7 +65,7 @@ Cells ReadCells(SceneryFile* file, uint32_t sectionType) {
     return cells;
 }
 
-Index ReadIndex(SceneryFile* file, uint32_t sectionType) {
+Index ReadIndex(SceneryStructure* file, uint32_t sectionType) {
     Index index;
     for (const SectionEntry& section : file->sections) {
         if (section.type != sectionType) continue;
@@ -115,7 +115,7 @@ void AppendInOrder(Cells* cells, Index* index) {
     }
 }
 
-void AppendSection(SceneryFile* file, uint32_t sectionType, uint32_t indexType) {
+void AppendSection(SceneryStructure* file, uint32_t sectionType, uint32_t indexType) {
     Cells cells = ReadCells(file, sectionType);
     Index index;
     if (cells.size() <= kMostCells && indexType != 0) index = ReadIndex(file, indexType);
@@ -124,7 +124,7 @@ void AppendSection(SceneryFile* file, uint32_t sectionType, uint32_t indexType) 
 
 }  // namespace
 
-void AppendOwnNavaids(SceneryFile* file) {
+void AppendOwnNavaids(SceneryStructure* file) {
     AppendSection(file, kVorSection, kVorIndexSection);
     AppendSection(file, kMarkerSection, 0);
     AppendSection(file, kNdbSection, kNdbIndexSection);

@@ -8,9 +8,10 @@
 #include <map>
 #include <set>
 
+#include "bgl/AirportIndex.h"
 #include "bgl/Cells.h"
 #include "bgl/RecordIds.h"
-#include "bgl/SceneryFile.h"
+#include "bgl/SceneryStructure.h"
 #include "platform/Files.h"
 #include "platform/Text.h"
 
@@ -19,9 +20,16 @@ namespace bgl {
 namespace {
 
 constexpr const char* kRegions[] = { "Afri", "Asia", "Aust", "Eure", "Eurw", "Namc", "Name", "Namw", "Ocen", "Same" };
+constexpr const char* kFileKinds[] = { "AP9", "UT9", "ST9", "RR9", "RD9", "PK9", "OB9",
+                                       "NV9", "HP9", "HL9", "FL9", "BR9", "AT9", "AB9" };
 constexpr int kBlockShift = 23;  // 96 columns and 64 rows
 constexpr size_t kAllBlocks = 96 * 64;
 constexpr uint32_t kColumnWeight = 100;
+
+// With a separator at its end.
+std::string FolderOfRegion(const std::string& simulatorFolder, const char* region) {
+    return simulatorFolder + "\\Scenery\\" + region + "\\Scenery\\";
+}
 
 using FilesOfBlock = std::map<uint32_t, std::vector<std::string>>;
 
@@ -49,7 +57,7 @@ void AddAirportFile(const std::string& folder, const std::string& name, FilesOfB
 
 void AddNavaidFile(const std::string& path, FilesOfBlock* files) {
     const platform::FileHandle handle = platform::OpenForReading(path);
-    SceneryFile file;
+    SceneryStructure file;
     if (!handle || !ReadStructure(SourceOfFile(handle.get()), &file)) return;
     std::vector<uint32_t> cells;
     std::set<uint32_t> blocks;
@@ -77,7 +85,7 @@ const StockTables& TablesFor(const std::string& simulatorFolder) {
     if (!tables.airports.empty() && !tables.navaids.empty()) return tables;
     tables = {};
     for (const char* region : kRegions) {
-        const std::string folder = simulatorFolder + "\\Scenery\\" + region + "\\Scenery\\";
+        const std::string folder = FolderOfRegion(simulatorFolder, region);
         for (const platform::FileEntry& entry : platform::ListFiles(folder, ".bgl")) {
             AddAirportFile(folder, entry.name, &tables.airports);
             if (platform::EqualNoCase(entry.name, std::string("nv9") + region + "0.bgl"))
@@ -106,6 +114,17 @@ std::vector<std::string> StockFilesAt(const std::string& simulatorFolder, std::s
     AddFilesAt(tables.airports, points, &paths);
     AddFilesAt(tables.navaids, points, &paths);
     return paths;
+}
+
+bool IsStockSceneryPath(std::string_view path, const std::string& simulatorFolder) {
+    if (simulatorFolder.empty()) return false;
+    const std::string key = PathKey(path);
+    for (const char* region : kRegions) {
+        for (const char* kind : kFileKinds) {
+            if (key.starts_with(PathKey(FolderOfRegion(simulatorFolder, region) + kind))) return true;
+        }
+    }
+    return false;
 }
 
 void ForgetStockFiles() { tablesOf.clear(); }

@@ -48,7 +48,7 @@ bool IsWanted(const SceneryObject* navaid, const StockArea& area) {
     }
 }
 
-void AppendFromFile(SceneryFile* file, const StockArea& area) {
+void AppendFromFile(SceneryStructure* file, const StockArea& area) {
     const auto intersects = [&](uint32_t cell) { return Intersects(RectOfCell(cell), area.far); };
     WalkNavaids(file, { kVorSection, kNdbSection, kMarkerSection }, intersects, [&](const NavaidRecord& record) {
         SceneryObject* navaid = MakeNavaid(record.head, record.body);
@@ -107,7 +107,7 @@ std::vector<Pair> PossiblePairs(const std::vector<SceneryObject*>& own, const st
 
 }  // namespace
 
-void WalkNavaids(SceneryFile* file, std::initializer_list<uint32_t> sectionTypes,
+void WalkNavaids(SceneryStructure* file, std::initializer_list<uint32_t> sectionTypes,
                  const std::function<bool(uint32_t)>& wanted, const std::function<void(const NavaidRecord&)>& visit) {
     NavaidRecord record;
     for (const SectionEntry& section : file->sections) {
@@ -126,7 +126,7 @@ void WalkNavaids(SceneryFile* file, std::initializer_list<uint32_t> sectionTypes
     }
 }
 
-void AppendStockNavaids(SceneryFile* file) {
+void AppendStockNavaids(SceneryStructure* file) {
     if (model::state.airport) AppendFromFile(file, AreaAround(model::state.airport));
 }
 
@@ -147,7 +147,7 @@ void LoadStockNavaids(const std::string& simulatorFolder) {
     const StockArea area = AreaAround(model::state.airport);
     for (const std::string& path : StockFilesAt(simulatorFolder, ProbePoints(model::state.airport, area.far))) {
         const platform::FileHandle handle = platform::OpenForReading(path);
-        SceneryFile file;
+        SceneryStructure file;
         if (handle && ReadStructure(SourceOfFile(handle.get()), &file)) AppendFromFile(&file, area);
     }
     TieReplacements();

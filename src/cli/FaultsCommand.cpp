@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "bgl/OpenAirport.h"
-#include "bgl/SceneryFile.h"
+#include "bgl/SceneryStructure.h"
 #include "cli/Verbs.h"
 #include "faults/FaultSearch.h"
 #include "model/Names.h"
@@ -71,19 +71,13 @@ std::string NodeName(const SceneryObject* node) {
     return what + std::to_string(NumberAmongNodes(node));
 }
 
-std::string RunwayName(const SceneryObject* runway) {
-    const model::RunwayRecord& body = model::PayloadAs<model::RunwayPayload>(runway).body;
-    return model::RunwayEndName(body.primaryNumber, body.primaryDesignator) + '/' +
-           model::RunwayEndName(body.secondaryNumber, body.secondaryDesignator);
-}
-
 std::string LinkName(const SceneryObject* link) {
     const auto& payload = model::PayloadAs<model::TaxiLinkPayload>(link);
     constexpr const char* kTypes[] = { "", "taxiway ", "runway ", "parking ", "apron ", "closed " };
     const uint32_t type = model::LinkTypeOf(payload);
     std::string name = std::string(type < std::size(kTypes) ? kTypes[type] : "") + "link";
     const SceneryObject* designator = payload.designator;
-    if (designator && KindOf(designator) == model::kRunway) return name + ' ' + RunwayName(designator);
+    if (designator && KindOf(designator) == model::kRunway) return name + ' ' + model::RunwayName(designator);
     if (designator && KindOf(designator) == model::kTaxiDesignator) {
         const auto& text = model::PayloadAs<model::TaxiDesignatorRecord>(designator).name;
         const std::string_view taxiway(text, static_cast<size_t>(std::find(text, std::end(text), '\0') - text));
@@ -197,7 +191,7 @@ std::string ObjectName(const SceneryObject* object) {
     case model::kTaxiNode: return NodeName(object);
     case model::kTaxiLink: return LinkName(object);
     case model::kParkingSpot: return SpotName(object);
-    case model::kRunway: return "runway " + RunwayName(object);
+    case model::kRunway: return "runway " + model::RunwayName(object);
     case model::kApron: return "apron";
     default: return "object";
     }

@@ -29,7 +29,7 @@ struct Row {
 std::string Utf8(std::string_view text) { return platform::Utf8FromWindows1252(text); }
 
 Row RowOf(const bgl::AirportIndexEntry& entry) {
-    const bgl::LibraryFile& file = bgl::library.files[entry.file];
+    const bgl::SceneryFile& file = bgl::library.files[entry.file];
     Row row{ Utf8(entry.ident),   Utf8(entry.name), Utf8(entry.city), Utf8(entry.state),
              Utf8(entry.country), file.path,        "Unknwn",         file.layer };
     if (file.kind == bgl::FileKind::Stock) row.type = "Stock";
@@ -94,7 +94,7 @@ constexpr KindCount kKindCounts[] = {
 int64_t FilesOfKind(bgl::FileKind kind) {
     const auto& files = bgl::library.files;
     return std::count_if(files.begin(), files.end(),
-                         [&](const bgl::LibraryFile& file) { return file.present && file.kind == kind; });
+                         [&](const bgl::SceneryFile& file) { return file.present && file.kind == kind; });
 }
 
 struct Duration {

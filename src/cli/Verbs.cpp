@@ -7,7 +7,7 @@
 #include "bgl/AirportReader.h"
 #include "bgl/AirportWriter.h"
 #include "bgl/OpenAirport.h"
-#include "bgl/SceneryFile.h"
+#include "bgl/SceneryStructure.h"
 #include "cli/Dump.h"
 #include "platform/Files.h"
 #include "platform/Platform.h"

@@ -9,7 +9,6 @@
 #include "dialogs/DialogHost.h"
 #include "dialogs/Editors.h"
 #include "dialogs/EditorWin.h"
-#include "dialogs/Subject.h"
 #include "model/Records.h"
 #include "platform/DialogWin.h"
 
@@ -29,7 +28,7 @@ constexpr FieldControl kControls[] = {
     { Field::Name, IDC_AIRPORT_NAME },
 };
 
-void Load(HWND dialog, const AirportFields& fields) {
+void Show(HWND dialog, const AirportFields& fields) {
     ShowPosition(dialog, IDC_AIRPORT_LATITUDE, IDC_AIRPORT_LONGITUDE, fields.position);
     if (app::settings.metric) platform::SetFieldText(dialog, IDC_AIRPORT_ELEVATION_LABEL, "&Elevation (m ASL)");
     platform::SetFieldText(dialog, IDC_AIRPORT_ELEVATION, fields.elevation);
@@ -63,32 +62,20 @@ AirportFields Read(HWND dialog) {
     return fields;
 }
 
-Editor AirportEditor(const AirportFields& shown, SceneryObject* airport) {
-    Editor editor;
-    editor.resource = IDD_AIRPORT;
-    editor.topic = "#AirportProperties";
-    editor.controls = kControls;
-    editor.load = [&shown](HWND dialog) { Load(dialog, shown); };
-    editor.clicked = [airport](HWND dialog, model::LatLon at) {
-        ShowPosition(dialog, IDC_AIRPORT_LATITUDE, IDC_AIRPORT_LONGITUDE, MoveToClick(airport, at));
-    };
-    return editor;
-}
+constexpr ObjectEditor<AirportFields> kEditor = {
+    IDD_AIRPORT,          "#AirportProperties",  kControls, LoadAirportFields, Show, Read, StoreAirportFields,
+    IDC_AIRPORT_LATITUDE, IDC_AIRPORT_LONGITUDE,
+};
 
 }  // namespace
 
-bool EditAirport(SceneryObject* airport) {
-    const AirportFields shown = LoadAirportFields(airport);
-    Editor editor = AirportEditor(shown, airport);
-    editor.store = [&](HWND dialog, BadField* bad) { return StoreAirportFields(shown, Read(dialog), airport, bad); };
-    return RunEditor(editor);
-}
+bool EditAirport(SceneryObject* airport) { return RunEditor(kEditor, airport); }
 
 // The map has no place to click on yet.
 bool RunNewAirport() {
     SceneryObject* airport = MakeNewAirport();
     const AirportFields shown = LoadAirportFields(airport);
-    Editor editor = AirportEditor(shown, airport);
+    Editor editor = EditorFor(kEditor, shown, airport);
     editor.clicked = nullptr;
     editor.store = [&](HWND dialog, BadField* bad) { return StoreNewAirport(shown, Read(dialog), bad); };
     const bool stored = RunEditor(editor);

@@ -3,6 +3,7 @@
 
 #include <cstdio>
 
+#include "dialogs/NumberField.h"
 #include "dialogs/TextField.h"
 #include "model/Names.h"
 #include "model/ObjectList.h"
@@ -56,6 +57,13 @@ std::vector<RunwayEndRef> AllRunwayEnds() {
         ends.push_back({ runway, kReciprocalEnd });
     }
     return ends;
+}
+
+const RunwayEndRef* ChosenEnd(const std::vector<RunwayEndRef>& ends, int choice, BadField* bad) {
+    if (choice >= 0 && static_cast<size_t>(choice) < ends.size()) return &ends[static_cast<size_t>(choice)];
+    ShowError("You must select a runway");
+    *bad = { Field::Runway };
+    return nullptr;
 }
 
 std::string DesignatorName(const SceneryObject* designator) {

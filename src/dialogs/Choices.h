@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "dialogs/Field.h"
 #include "model/Links.h"
 #include "model/SceneryObject.h"
 
@@ -32,6 +33,9 @@ struct RunwayEndRef {
 };
 std::string EndName(const SceneryObject* runway, int end);  // "16L"
 std::vector<RunwayEndRef> AllRunwayEnds();                  // in list order, base ends first
+
+// The end that was chosen of those; null after the message that none was.
+const RunwayEndRef* ChosenEnd(const std::vector<RunwayEndRef>& ends, int choice, BadField* bad);
 
 // What the designators of taxi links are chosen from: the blank one first, then the named ones as
 // "Taxi A", then the runways as "Rwy 16L/34R".

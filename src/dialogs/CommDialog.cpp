@@ -34,9 +34,8 @@ bool RefuseNone(BadField* bad) {
 
 bool ReadFrequency(const std::string& shown, const std::string& entered, bool otherType, CommFrequencyRecord* record,
                    BadField* bad) {
-    double hertz = record->frequency, typed = 1;
-    const bool none = IsBlank(entered) || (ReadNumber(entered, &typed) && typed == 0);
-    if (entered == shown ? hertz == 0 : none) return RefuseNone(bad);
+    double hertz = record->frequency;
+    if (entered == shown ? hertz == 0 : ReadsAsZero(kVoice, entered)) return RefuseNone(bad);
     // The band is that of the type: another type judges an old frequency too.
     const Quantity& band = IsBroadcast(record->type) ? kBroadcast : kVoice;
     double judged = 0;

@@ -3,6 +3,7 @@
 
 #include "dialogs/Editors.h"
 #include "dialogs/EditorWin.h"
+#include "model/Records.h"
 #include "NavaidIds.h"
 #include "platform/DialogWin.h"
 
@@ -12,10 +13,11 @@ namespace {
 
 constexpr FieldControl kControls[] = { { Field::Frequency, IDC_NAV_FREQUENCY }, { Field::Name, IDC_NAV_NAME } };
 
-void Load(HWND dialog, const CommFields& fields) {
+void Show(HWND dialog, const CommFields& fields) {
     platform::SetFieldText(dialog, IDC_NAV_FREQUENCY, fields.frequency);
     platform::FillChoices(dialog, IDC_NAV_TYPE, kCommTypes);
     platform::SetChoice(dialog, IDC_NAV_TYPE, fields.type);
+    platform::LimitField(dialog, IDC_NAV_NAME, model::kCommNameSize);
     platform::SetFieldText(dialog, IDC_NAV_NAME, fields.name);
 }
 
@@ -27,18 +29,13 @@ CommFields Read(HWND dialog) {
     return fields;
 }
 
+constexpr ObjectEditor<CommFields> kEditor = {
+    IDD_COMM, "#CommFrequencies", kControls, LoadCommFields, Show, Read, StoreCommFields,
+};
+
 }  // namespace
 
-bool EditComm(SceneryObject* comm) {
-    const CommFields shown = LoadCommFields(comm);
-    Editor editor;
-    editor.resource = IDD_COMM;
-    editor.topic = "#CommFrequencies";
-    editor.controls = kControls;
-    editor.load = [&](HWND dialog) { Load(dialog, shown); };
-    editor.store = [&](HWND dialog, BadField* bad) { return StoreCommFields(shown, Read(dialog), comm, bad); };
-    return RunEditor(editor);
-}
+bool EditComm(SceneryObject* comm) { return RunEditor(kEditor, comm); }
 
 bool InsertCommDialog() { return EditComm(InsertComm()); }
 

@@ -1,6 +1,8 @@
 // EditorWin.cpp - see EditorWin.h.
 #include "dialogs/EditorWin.h"
 
+#include <map>
+
 #include "dialogs/DialogHost.h"
 #include "dialogs/OverMap.h"
 #include "dialogs/Subject.h"
@@ -13,6 +15,9 @@ namespace {
 
 constexpr size_t kPositionLimit = 30;  // characters of a position field
 
+std::map<int, POINT> leftAt;  // where the user has moved the dialogs, by resource; until the program ends
+POINT openedAt;               // the one that is open
+
 const Editor& EditorOf(HWND dialog) { return *static_cast<const Editor*>(platform::DialogData(dialog)); }
 
 void SendTo(HWND dialog, const BadField& bad) {
@@ -23,9 +28,28 @@ void SendTo(HWND dialog, const BadField& bad) {
     }
 }
 
+POINT PlaceOf(HWND dialog) {
+    RECT place{};
+    GetWindowRect(dialog, &place);
+    return { place.left, place.top };
+}
+
+void Place(HWND dialog) {
+    if (const auto left = leftAt.find(EditorOf(dialog).resource); left != leftAt.end())
+        platform::PlaceDialog(dialog, left->second);
+    openedAt = PlaceOf(dialog);
+}
+
+// Only what the user has moved stays there: the others open over the main window, wherever it is then.
+void RememberPlace(HWND dialog) {
+    const POINT place = PlaceOf(dialog);
+    if (place.x != openedAt.x || place.y != openedAt.y) leftAt[EditorOf(dialog).resource] = place;
+}
+
 INT_PTR OnInit(HWND dialog, LPARAM data) {
     platform::StartDialog(dialog, data);
     EditorOf(dialog).load(dialog);
+    Place(dialog);
     if (EditorOf(dialog).clicked)
         overMap.clicked = [dialog](model::LatLon at) {
             EditorOf(dialog).clicked(dialog, at);
@@ -51,6 +75,7 @@ INT_PTR CALLBACK EditorProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lPa
     if (!platform::DialogData(dialog)) return FALSE;
     switch (message) {
     case WM_COMMAND: OnCommand(dialog, LOWORD(wParam), HIWORD(wParam)); return TRUE;
+    case WM_DESTROY: RememberPlace(dialog); return FALSE;
     case WM_NOTIFY:
         return EditorOf(dialog).notify ? EditorOf(dialog).notify(dialog, reinterpret_cast<NMHDR*>(lParam)) : FALSE;
     default: return FALSE;

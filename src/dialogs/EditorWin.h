@@ -1,4 +1,5 @@
-// EditorWin.h - runs the window of a property dialog: OK with its refusals, Cancel, "&Help", and clicks on the map.
+// EditorWin.h - runs the window of a property dialog: OK with its refusals, Cancel, "&Help", clicks on the map, and the
+// place on the screen to which the user has moved it.
 #pragma once
 
 #include <windows.h>
@@ -7,6 +8,7 @@
 #include <span>
 
 #include "dialogs/Field.h"
+#include "dialogs/Subject.h"
 #include "model/CoordinateText.h"
 #include "model/Geodesy.h"
 
@@ -44,5 +46,43 @@ bool ExtendKeyHeld();
 // The pair of position fields: limits their length and shows the texts.
 void ShowPosition(HWND dialog, int latitude, int longitude, const model::CoordinateTexts& texts);
 model::CoordinateTexts PositionIn(HWND dialog, int latitude, int longitude);
+
+// An editor of one object whose fields are shown and read as a whole: two functions of the window, two of its portable
+// half.
+template <class Fields>
+struct ObjectEditor {
+    int resource;
+    const char* topic;
+    std::span<const FieldControl> controls;
+    Fields (*load)(const SceneryObject* object);
+    void (*show)(HWND dialog, const Fields& fields);
+    Fields (*read)(HWND dialog);
+    bool (*store)(const Fields& shown, const Fields& entered, SceneryObject* object, BadField* bad);
+    int latitude = 0, longitude = 0;  // the controls that a click on the map fills; 0 for an object without a position
+};
+
+// What runs it, for a dialog that adds something. `of` and `shown` must outlive it.
+template <class Fields>
+Editor EditorFor(const ObjectEditor<Fields>& of, const Fields& shown, SceneryObject* object) {
+    Editor editor;
+    editor.resource = of.resource;
+    editor.topic = of.topic;
+    editor.controls = of.controls;
+    editor.load = [&](HWND dialog) { of.show(dialog, shown); };
+    editor.store = [&of, &shown, object](HWND dialog, BadField* bad) {
+        return of.store(shown, of.read(dialog), object, bad);
+    };
+    if (of.latitude != 0)
+        editor.clicked = [&of, object](HWND dialog, model::LatLon at) {
+            ShowPosition(dialog, of.latitude, of.longitude, MoveToClick(object, at));
+        };
+    return editor;
+}
+
+template <class Fields>
+bool RunEditor(const ObjectEditor<Fields>& of, SceneryObject* object) {
+    const Fields shown = of.load(object);
+    return RunEditor(EditorFor(of, shown, object));
+}
 
 }  // namespace dialogs

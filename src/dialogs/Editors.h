@@ -9,11 +9,11 @@ namespace dialogs {
 
 using model::SceneryObject;
 
-// The property dialog for the object's kind. False when the kind has none or nothing was changed.
+// The property dialog for the object's kind. False when the kind has none or the user has cancelled it.
 bool EditObject(SceneryObject* object);
 bool HasEditor(const SceneryObject* object);
 
-// `object` is of the kind that the name tells. Whether anything was changed.
+// `object` is of the kind that the name tells. Whether it was closed by OK.
 bool EditNode(SceneryObject* object);
 bool EditLink(SceneryObject* object);
 bool EditParking(SceneryObject* object);

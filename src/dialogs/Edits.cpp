@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "dialogs/Subject.h"
+#include "map/HoldShortUpdate.h"
 #include "model/EditHistory.h"
 #include "model/ObjectList.h"
 #include "model/Replacement.h"
@@ -64,6 +65,8 @@ bool Commit(Edits* edits) {
     EndPreview();
     std::erase_if(edits->drafts, [&](const Draft& draft) { return !IsChange(*edits, draft); });
     if (edits->added.empty() && edits->drafts.empty()) return false;
+    map::HoldShortSides sides = map::NoteHoldShorts();
+    sides.erase(edits->turned);
     model::BeginAction();
     for (ObjectPtr& object : edits->added) model::AddObject(object.release());
     for (Draft& draft : edits->drafts) {
@@ -72,6 +75,7 @@ bool Commit(Edits* edits) {
         else
             RecordChange(edits, &draft);
     }
+    map::FollowHoldShorts(sides);
     *edits = {};
     platform::RequestRepaint();
     return true;

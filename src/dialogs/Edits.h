@@ -29,6 +29,7 @@ struct Edits {
     std::vector<Draft> drafts;
     std::vector<ObjectPtr> added;
     std::optional<model::PlaceTexts> texts;  // those of the airport, when they change
+    const SceneryObject* turned = nullptr;   // the hold-short node whose marking the user turned by hand
 };
 
 // The draft of the object: a copy, the same one for every call. Previews on the map do not show in it.
@@ -39,7 +40,7 @@ SceneryObject* AddDraft(Edits* edits, ObjectPtr object);
 
 // Ends the previews and records everything that differs, as one action: first what is added, then what is
 // changed. A provisional record is recorded as added, with what its draft holds. A stock object gets a
-// replacement. Whether anything was recorded.
+// replacement. The markings of hold-short nodes follow what was changed around them. Whether anything was recorded.
 bool Commit(Edits* edits);
 
 }  // namespace dialogs

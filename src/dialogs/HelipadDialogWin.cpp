@@ -1,16 +1,9 @@
 // HelipadDialogWin.cpp - the window "Helipad Properties".
 #include "dialogs/HelipadDialog.h"
 
-#include <windows.h>
-
-#include "app/Settings.h"
 #include "dialogs/Choices.h"
 #include "dialogs/Editors.h"
-#include "dialogs/EditorWin.h"
-#include "dialogs/FieldTablesWin.h"
-#include "dialogs/Subject.h"
-#include "PlacesIds.h"
-#include "platform/DialogWin.h"
+#include "dialogs/PlacesWin.h"
 
 namespace dialogs {
 
@@ -38,41 +31,26 @@ constexpr ChoiceControl<HelipadFields> kChoices[] = {
 };
 constexpr FieldTable<HelipadFields> kTable = { kTexts, kBoxes, kChoices };
 
-void Load(HWND dialog, const HelipadFields& fields) {
+void Show(HWND dialog, const HelipadFields& fields) {
     if (app::settings.metric) {
-        platform::SetFieldText(dialog, IDC_PLACE_ELEVATION_LABEL, "&Elevation (m ASL)");
         platform::SetFieldText(dialog, IDC_HELIPAD_LENGTH_LABEL, "Length (m)");
         platform::SetFieldText(dialog, IDC_HELIPAD_WIDTH_LABEL, "Width (m)");
     }
     platform::FillChoices(dialog, IDC_HELIPAD_SURFACE, SurfaceChoices());
     platform::FillChoices(dialog, IDC_HELIPAD_TYPE, kHelipadTypes);
-    ShowPosition(dialog, IDC_PLACE_LATITUDE, IDC_PLACE_LONGITUDE, fields.position);
-    ShowFields(dialog, kTable, fields);
+    ShowPlace(dialog, kTable, fields);
 }
 
-HelipadFields Read(HWND dialog) {
-    HelipadFields fields;
-    fields.position = PositionIn(dialog, IDC_PLACE_LATITUDE, IDC_PLACE_LONGITUDE);
-    ReadFields(dialog, kTable, &fields);
-    return fields;
-}
+HelipadFields Read(HWND dialog) { return ReadPlace(dialog, kTable); }
+
+constexpr ObjectEditor<HelipadFields> kEditor = {
+    IDD_HELIPAD, "#Helipads",        kControls,          LoadHelipadFields,   Show,
+    Read,        StoreHelipadFields, IDC_PLACE_LATITUDE, IDC_PLACE_LONGITUDE,
+};
 
 }  // namespace
 
-bool EditHelipad(SceneryObject* helipad) {
-    SelectSubject(helipad, ExtendKeyHeld());
-    const HelipadFields shown = LoadHelipadFields(helipad);
-    Editor editor;
-    editor.resource = IDD_HELIPAD;
-    editor.topic = "#Helipads";
-    editor.controls = kControls;
-    editor.load = [&](HWND dialog) { Load(dialog, shown); };
-    editor.store = [&](HWND dialog, BadField* bad) { return StoreHelipadFields(shown, Read(dialog), helipad, bad); };
-    editor.clicked = [&](HWND dialog, model::LatLon at) {
-        ShowPosition(dialog, IDC_PLACE_LATITUDE, IDC_PLACE_LONGITUDE, MoveToClick(helipad, at));
-    };
-    return RunEditor(editor);
-}
+bool EditHelipad(SceneryObject* helipad) { return EditPlace(kEditor, helipad); }
 
 bool InsertHelipadDialog() { return EditHelipad(InsertHelipad()); }
 

@@ -183,6 +183,25 @@ void SetRunwayIdent(const RunwayEndRef& ref, uint32_t ident, Edits* edits) {
     std::memcpy(DraftOf(edits, ref.runway)->payload + kEndPlaces[ref.end].ils, &ident, sizeof ident);
 }
 
+bool NamesEnd(const LocalizerPart& localizer, const RunwayEndRef& ref) {
+    return ref.runway->payload[kEndPlaces[ref.end].number] == localizer.runwayNumber &&
+           ref.runway->payload[kEndPlaces[ref.end].designator] == localizer.runwayDesignator;
+}
+
+// A runway end has room for one ILS.
+bool CheckEndFree(const SceneryObject* ils, const LocalizerPart& localizer, BadField* bad) {
+    for (const RunwayEndRef& ref : AllRunwayEnds()) {
+        if (!NamesEnd(localizer, ref)) continue;
+        for (const SceneryObject* other : BelongingsOf(ref.runway, ref.end).ils) {
+            if (other == ils) continue;
+            ShowError("Runway " + EndName(ref.runway, ref.end) + " already has an ILS");
+            *bad = { Field::Runway };
+            return false;
+        }
+    }
+    return true;
+}
+
 // Runway ends that name the ILS follow it; another end that it now serves gets its name.
 void UpdateRunways(const SceneryObject* ils, const SceneryObject* draft, bool otherEnd, Edits* edits) {
     const auto& is = model::PayloadAs<IlsPayload>(draft);
@@ -192,9 +211,7 @@ void UpdateRunways(const SceneryObject* ils, const SceneryObject* draft, bool ot
     for (const RunwayEndRef& ref : AllRunwayEnds()) {
         uint32_t named;
         std::memcpy(&named, ref.runway->payload + kEndPlaces[ref.end].ils, sizeof named);
-        const bool serves = ref.runway->payload[kEndPlaces[ref.end].number] == is.localizer.runwayNumber &&
-                            ref.runway->payload[kEndPlaces[ref.end].designator] == is.localizer.runwayDesignator;
-        if (otherEnd && serves)
+        if (otherEnd && NamesEnd(is.localizer, ref))
             SetRunwayIdent(ref, newIdent, edits);
         else if (named != 0 && named == oldIdent && ServesEnd(ils, ref.runway, ref.end))
             SetRunwayIdent(ref, otherEnd ? 0 : newIdent, edits);
@@ -250,6 +267,7 @@ bool StoreIlsFields(const IlsFields& shown, const IlsFields& entered, SceneryObj
     payload.body.frequency = frequency;
     SetFlag(kBackCourse, shown.backCourse, entered.backCourse, &payload.body.flags);
     const bool otherEnd = StoreEnd(shown, entered, &payload.localizer);
+    if (otherEnd && !CheckEndFree(ils, payload.localizer, bad)) return false;
     UpdateRunways(ils, draft, otherEnd, &edits);
     Commit(&edits);
     return true;

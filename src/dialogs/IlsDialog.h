@@ -31,7 +31,7 @@ struct IlsFields {
 IlsFields LoadIlsFields(const SceneryObject* ils);
 
 // Runways that name the ILS follow its identifier, and the name goes to another runway end with the
-// number. A part that is switched on and never had a place gets its usual one.
+// number; an end that has an ILS is refused. A part that is switched on and never had a place gets its usual one.
 bool StoreIlsFields(const IlsFields& shown, const IlsFields& entered, SceneryObject* ils, BadField* bad);
 
 // The user switches a part on or off: the texts of one that never had a place become its usual ones.

@@ -24,6 +24,7 @@ constexpr FieldControl kControls[] = {
     { Field::Range, IDC_NAV_RANGE },
     { Field::Variation, IDC_NAV_VARIATION },
     { Field::Heading, IDC_NAV_HEADING },
+    { Field::Runway, IDC_NAV_RUNWAY },
     { Field::BeamWidth, IDC_ILS_WIDTH },
     { Field::Latitude, IDC_ILS_SLOPE_LATITUDE, kGlideSlopeFields },
     { Field::Longitude, IDC_ILS_SLOPE_LONGITUDE, kGlideSlopeFields },
@@ -35,6 +36,8 @@ constexpr FieldControl kControls[] = {
     { Field::Elevation, IDC_ILS_DME_ELEVATION, kDmeFields },
     { Field::Range, IDC_ILS_DME_RANGE, kDmeFields },
 };
+
+constexpr FieldControl kNewControls[] = { { Field::Runway, IDC_NAV_RUNWAY } };
 
 constexpr int kSlopeControls[] = { IDC_ILS_SLOPE_LATITUDE, IDC_ILS_SLOPE_LONGITUDE, IDC_ILS_SLOPE_ELEVATION,
                                    IDC_ILS_SLOPE_RANGE, IDC_ILS_SLOPE_PITCH };
@@ -63,6 +66,7 @@ void ShowDme(HWND dialog, const IlsFields& fields) {
     platform::SetFieldText(dialog, IDC_ILS_DME_ELEVATION, fields.dmeElevation);
     platform::SetFieldText(dialog, IDC_ILS_DME_RANGE, fields.dmeRange);
     for (const int control : kDmeControls) platform::EnableField(dialog, control, fields.dme);
+    platform::ShowField(dialog, IDC_NAV_CHANNEL, fields.dme);
 }
 
 void ShowCourse(HWND dialog) {
@@ -71,7 +75,7 @@ void ShowCourse(HWND dialog) {
     platform::SetFieldText(dialog, IDC_ILS_COURSE, MagneticCourseText(heading, variation));
 }
 
-void Load(HWND dialog, const IlsFields& fields) {
+void Show(HWND dialog, const IlsFields& fields) {
     for (const int label : { IDC_ILS_SLOPE_ELEVATION_LABEL, IDC_ILS_DME_ELEVATION_LABEL }) {
         LabelUnit(dialog, label, "Elevation (", Unit::Elevation, " ASL)");
     }
@@ -140,17 +144,16 @@ void OnCommand(HWND dialog, int id, int code, const SceneryObject* ils, int* par
     if (id == IDC_NAV_FREQUENCY) ShowChannel(dialog, "");
 }
 
+constexpr ObjectEditor<IlsFields> kEditor = {
+    IDD_ILS, "#Navaids", kControls, LoadIlsFields, Show, Read, StoreIlsFields,
+};
+
 }  // namespace
 
 bool EditIls(SceneryObject* ils) {
     const IlsFields shown = LoadIlsFields(ils);
     int part = kLocalizerFields;
-    Editor editor;
-    editor.resource = IDD_ILS;
-    editor.topic = "#Navaids";
-    editor.controls = kControls;
-    editor.load = [&](HWND dialog) { Load(dialog, shown); };
-    editor.store = [&](HWND dialog, BadField* bad) { return StoreIlsFields(shown, Read(dialog), ils, bad); };
+    Editor editor = EditorFor(kEditor, shown, ils);
     editor.command = [&](HWND dialog, int id, int code) { OnCommand(dialog, id, code, ils, &part); };
     editor.clicked = [&](HWND dialog, model::LatLon at) {
         const bool off = !IsWindowEnabled(GetDlgItem(dialog, kPositions[part].latitude));
@@ -170,14 +173,15 @@ bool InsertIlsDialog() {
     Editor editor;
     editor.resource = IDD_NEW_ILS;
     editor.topic = "#Navaids";
+    editor.controls = kNewControls;
     editor.load = [&](HWND dialog) {
         platform::FillChoices(dialog, IDC_NAV_RUNWAY, names);
         platform::SetChoice(dialog, IDC_NAV_RUNWAY, 0);
     };
-    editor.store = [&](HWND dialog, BadField*) {
-        const int choice = platform::ChoiceOf(dialog, IDC_NAV_RUNWAY);
-        made = CreateIls(ends[static_cast<size_t>(choice)], SeededRandom());
-        return true;
+    editor.store = [&](HWND dialog, BadField* bad) {
+        const RunwayEndRef* end = ChosenEnd(ends, platform::ChoiceOf(dialog, IDC_NAV_RUNWAY), bad);
+        if (end) made = CreateIls(*end, SeededRandom());
+        return end != nullptr;
     };
     if (!RunEditor(editor)) return false;
     SelectOnly(made);

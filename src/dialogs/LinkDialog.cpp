@@ -101,15 +101,24 @@ void Couple(const TaxiLinkPayload& link, LinkChange* change, Edits* edits) {
     }
 }
 
-void Apply(const LinkChange& change, const LinkFields& entered, SceneryObject* draft, Edits* edits) {
+// Also on a selected link of another type than the dialog's own, type and name must fit together afterwards.
+void ApplyTypeAndName(const LinkChange& change, SceneryObject* draft, Edits* edits) {
     auto& link = model::PayloadAs<TaxiLinkPayload>(draft);
     if (IsParkingConnector(link)) {
         SetType(&link, model::kParkingLink);
         if (change.designator) link.designator = BlankDesignatorIn(edits);
-    } else {
-        if (change.type) SetType(&link, *change.type);
-        if (change.designator) link.designator = *change.designator;
+        return;
     }
+    if (!change.type && change.designator && *change.designator) return DesignateLink(draft, *change.designator);
+    if (change.type) SetType(&link, *change.type);
+    if (change.designator) link.designator = *change.designator;
+    const bool lostRunway = change.type && *change.type != model::kRunwayLink && IsRunway(link.designator);
+    if (lostRunway) link.designator = BlankDesignatorIn(edits);
+}
+
+void Apply(const LinkChange& change, const LinkFields& entered, SceneryObject* draft, Edits* edits) {
+    ApplyTypeAndName(change, draft, edits);
+    auto& link = model::PayloadAs<TaxiLinkPayload>(draft);
     if (change.surface) SetBits(&link, kSurface, 0xFF, *change.surface);
     if (change.width) link.width = *change.width;
     if (change.edges && entered.leftEdge >= 0)
@@ -122,6 +131,15 @@ void Apply(const LinkChange& change, const LinkFields& entered, SceneryObject* d
     }
     if (change.centreLine) SetBits(&link, kCentreLine, kBit, entered.centreLine);
     if (change.centreLights) SetBits(&link, kCentreLights, kBit, entered.centreLights);
+}
+
+// The blank designator of a choice that the new type overruled.
+void DropUnusedDesignators(Edits* edits) {
+    std::erase_if(edits->added, [&](const ObjectPtr& added) {
+        return std::none_of(edits->drafts.begin(), edits->drafts.end(), [&](const Draft& draft) {
+            return model::PayloadAs<TaxiLinkPayload>(draft.copy.get()).designator == added.get();
+        });
+    });
 }
 
 // What differs between the two; nothing when the width cannot be read.
@@ -217,6 +235,7 @@ bool StoreLinkFields(const LinkFields& shown, const LinkFields& entered, Scenery
          other = model::NextOfKind(other, model::kTaxiLink)) {
         if (other != link && model::IsSelected(other)) Apply(forOthers, entered, DraftOf(&edits, other), &edits);
     }
+    DropUnusedDesignators(&edits);
     if (Commit(&edits) && model::LinkTypeOf(model::PayloadAs<TaxiLinkPayload>(link)) != model::kRunwayLink)
         UseLinkTemplate(model::PayloadAs<TaxiLinkPayload>(link));
     return true;

@@ -16,13 +16,18 @@ constexpr int kColumnGap = 8;  // dialog units between the widest text of a colu
 
 bool IsListView(const ListControl& list) { return !list.header; }
 
-void AddColumns(const ListControl& list) {
-    const std::vector<std::string> titles = CellsOf(list.headerText);
+// Points into the titles.
+std::vector<platform::Column> ColumnsOf(const std::vector<std::string>& titles) {
     std::vector<platform::Column> columns;
     for (size_t i = 0; i < titles.size() && i < std::size(kShares); ++i) {
         columns.push_back({ titles[i].c_str(), kShares[i] });
     }
-    platform::SetColumns(list.rows, columns);
+    return columns;
+}
+
+void AddColumns(const ListControl& list) {
+    const std::vector<std::string> titles = CellsOf(list.headerText);
+    platform::SetColumns(list.rows, ColumnsOf(titles));
     SendMessageW(list.rows, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
 }
 
@@ -56,9 +61,8 @@ struct Measure {
     }
 };
 
-// The last column is as wide as its texts; a list narrower than that scrolls. The texts themselves are asked for when
-// they are painted (AnswerCell).
-void FillListView(const ListControl& list, const std::vector<ListRow>& rows) {
+// The last column is as wide as its texts; a list narrower than that scrolls.
+void WidenLastColumn(const ListControl& list, const std::vector<ListRow>& rows) {
     const Measure measure(list.rows);
     const int margin = Pixels(list.rows, kColumnGap);
     int needed = 0;
@@ -66,6 +70,11 @@ void FillListView(const ListControl& list, const std::vector<ListRow>& rows) {
     const WPARAM column = static_cast<WPARAM>(LastColumn());
     if (SendMessageW(list.rows, LVM_GETCOLUMNWIDTH, column, 0) < needed)
         SendMessageW(list.rows, LVM_SETCOLUMNWIDTH, column, needed);
+}
+
+// The texts themselves are asked for when they are painted (AnswerCell).
+void FillListView(const ListControl& list, const std::vector<ListRow>& rows) {
+    WidenLastColumn(list, rows);
     SendMessageW(list.rows, LVM_SETITEMCOUNT, rows.size(), 0);
 }
 
@@ -123,6 +132,25 @@ void FillList(ListControl* list, const std::vector<ListRow>& rows) {
         FillListBox(list, rows);
     SendMessageW(list->rows, WM_SETREDRAW, TRUE, 0);
     InvalidateRect(list->rows, nullptr, TRUE);
+}
+
+void FitList(ListControl* list, const std::vector<ListRow>& rows) {
+    if (IsListView(*list)) {
+        const std::vector<std::string> titles = CellsOf(list->headerText);
+        platform::FitColumns(list->rows, ColumnsOf(titles));
+        WidenLastColumn(*list, rows);
+    } else {
+        FitTabStops(list, rows);
+        InvalidateRect(list->header, nullptr, TRUE);
+    }
+    InvalidateRect(list->rows, nullptr, TRUE);
+}
+
+bool IsPointerOnRow(const ListControl& list) {
+    const DWORD place = GetMessagePos();
+    POINT at = { static_cast<short>(LOWORD(place)), static_cast<short>(HIWORD(place)) };
+    ScreenToClient(list.rows, &at);
+    return HIWORD(SendMessageW(list.rows, LB_ITEMFROMPOINT, 0, MAKELPARAM(at.x, at.y))) == 0;
 }
 
 int SelectedRow(const ListControl& list) {

@@ -25,6 +25,12 @@ void StartListControl(ListControl* list, HWND rows, HWND header, const char* hea
 // What is selected and how far the list is scrolled is lost.
 void FillList(ListControl* list, const std::vector<ListRow>& rows);
 
+// The columns anew, after the control's size or the resolution of its monitor has changed.
+void FitList(ListControl* list, const std::vector<ListRow>& rows);
+
+// Whether the message at hand is that of a pointer on a row of a list box, not below the last one.
+bool IsPointerOnRow(const ListControl& list);
+
 int SelectedRow(const ListControl& list);          // -1 when there is none
 void SelectRow(const ListControl& list, int row);  // and brings it into sight; -1 selects none
 

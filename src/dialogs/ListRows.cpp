@@ -24,6 +24,7 @@
 #include "model/Positions.h"
 #include "model/Records.h"
 #include "platform/Platform.h"
+#include "platform/Text.h"
 
 namespace dialogs {
 
@@ -138,7 +139,13 @@ bool MayDeleteDesignator(const SceneryObject* object) {
     return platform::ShowMessage(question, Buttons::OkCancel, Icon::Exclamation) == Answer::Ok;
 }
 
-char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+// In capitals, and blanks that follow one another as one: the rows have more of them than anybody types.
+std::string Findable(std::string_view text) {
+    std::string found = platform::UpperCased(text);
+    const auto last = std::unique(found.begin(), found.end(), [](char a, char b) { return a == ' ' && b == ' '; });
+    found.erase(last, found.end());
+    return found;
+}
 
 bool IsInList(const SceneryObject* object) {
     for (const SceneryObject* other = model::state.head; other; other = other->next) {
@@ -202,10 +209,7 @@ std::vector<std::string> CellsOf(const std::string& text) {
 }
 
 int RowBeginningWith(const std::vector<ListRow>& rows, int from, std::string_view typed) {
-    const auto begins = [typed](const std::string& cell) {
-        const auto same = [](char a, char b) { return Lower(a) == Lower(b); };
-        return cell.size() >= typed.size() && std::equal(typed.begin(), typed.end(), cell.begin(), same);
-    };
+    const auto begins = [word = Findable(typed)](const std::string& cell) { return Findable(cell).starts_with(word); };
     const size_t first = static_cast<size_t>(std::max(from, 0));
     for (size_t i = 0; i < rows.size(); ++i) {
         const size_t row = (first + i) % rows.size();

@@ -30,6 +30,8 @@ namespace {
 
 // How the parking list is sorted besides by a column.
 constexpr int kOriginalOrder = -1, kRandomOrder = -2;
+constexpr UINT kFitColumns = WM_APP;
+constexpr UINT kDpiChanged = 0x02E0;  // WM_DPICHANGED of Windows 8.1
 constexpr DWORD kTypingPause = 1000;  // milliseconds; whoever pauses longer begins a new word
 
 struct Window {
@@ -231,7 +233,7 @@ void OnCommand(Window* window, int id, int code) {
     switch (id) {
     case IDC_LIST_ROWS:
         if (code == LBN_SELCHANGE) OnSelected(window);
-        if (code == LBN_DBLCLK) OnProperties(window);
+        if (code == LBN_DBLCLK && HasProperties(*window) && IsPointerOnRow(window->list)) OnProperties(window);
         break;
     case IDC_LIST_DELETE: OnDelete(window); break;
     case IDC_LIST_PROPERTIES: OnProperties(window); break;
@@ -271,7 +273,8 @@ INT_PTR CALLBACK ListProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lPara
     case WM_COMMAND: OnCommand(window, LOWORD(wParam), HIWORD(wParam)); return TRUE;
     case WM_NOTIFY: OnNotify(window, reinterpret_cast<NMHDR*>(lParam)); return FALSE;
     case WM_DRAWITEM: DrawListHeader(window->list, *reinterpret_cast<DRAWITEMSTRUCT*>(lParam)); return TRUE;
-    case WM_HELP: OpenHelpTopic(window->topic); return TRUE;
+    case kDpiChanged: PostMessageW(dialog, kFitColumns, 0, 0); return FALSE;  // the dialog gets its new size first
+    case kFitColumns: FitList(&window->list, window->rows); return TRUE;
     case WM_DESTROY: OnDestroy(window); return FALSE;
     default: return FALSE;
     }

@@ -105,8 +105,8 @@ bool LoadNewMarkerFields(NewMarkerFields* fields) {
 
 bool CreateMarkers(const NewMarkerFields& shown, const NewMarkerFields& entered, BadField* bad) {
     const std::vector<RunwayEndRef> ends = AllRunwayEnds();
-    if (entered.runwayEnd < 0 || static_cast<size_t>(entered.runwayEnd) >= ends.size())
-        return Refuse("ERROR: You must select a runway", { Field::Runway }, bad);
+    const RunwayEndRef* end = ChosenEnd(ends, entered.runwayEnd, bad);
+    if (!end) return false;
     if (!entered.wanted[0] && !entered.wanted[1] && !entered.wanted[2])
         return Refuse("You must select at least one of the marker types\n", { Field::MarkerKind, 2 }, bad);
     Edits edits;
@@ -117,7 +117,7 @@ bool CreateMarkers(const NewMarkerFields& shown, const NewMarkerFields& entered,
             *bad = { Field::Distance, static_cast<int>(i) };
             return false;
         }
-        AddDraft(&edits, MakeMarker(ends[static_cast<size_t>(entered.runwayEnd)], static_cast<uint8_t>(i), distance));
+        AddDraft(&edits, MakeMarker(*end, static_cast<uint8_t>(i), distance));
     }
     Commit(&edits);
     return true;

@@ -14,7 +14,7 @@ constexpr FieldControl kControls[] = {
     { Field::Heading, IDC_NAV_HEADING },
 };
 
-void Load(HWND dialog, const MarkerFields& fields) {
+void Show(HWND dialog, const MarkerFields& fields) {
     LabelUnit(dialog, IDC_NAV_ELEVATION_LABEL, "Elevation (", Unit::Elevation, " ASL)");
     platform::LimitField(dialog, IDC_NAV_IDENT, kIdentLimit);
     platform::SetFieldText(dialog, IDC_NAV_IDENT, fields.ident);
@@ -43,7 +43,7 @@ constexpr FieldControl kNewControls[] = {
     { Field::Distance, kDistances[1], 1 }, { Field::Distance, kDistances[2], 2 },
 };
 
-void LoadNew(HWND dialog, const NewMarkerFields& fields) {
+void ShowNew(HWND dialog, const NewMarkerFields& fields) {
     LabelUnit(dialog, IDC_MARKERS_DISTANCE_LABEL, "Distance from Threshold (", Unit::Length, ")");
     platform::FillChoices(dialog, IDC_NAV_RUNWAY, MarkerRunwayChoices());
     platform::SetChoice(dialog, IDC_NAV_RUNWAY, fields.runwayEnd);
@@ -69,19 +69,14 @@ void EnableDistances(HWND dialog) {
     }
 }
 
+constexpr ObjectEditor<MarkerFields> kEditor = {
+    IDD_MARKER, "#Navaids",        kControls,        LoadMarkerFields,  Show,
+    Read,       StoreMarkerFields, IDC_NAV_LATITUDE, IDC_NAV_LONGITUDE,
+};
+
 }  // namespace
 
-bool EditMarker(SceneryObject* marker) {
-    const MarkerFields shown = LoadMarkerFields(marker);
-    Editor editor;
-    editor.resource = IDD_MARKER;
-    editor.topic = "#Navaids";
-    editor.controls = kControls;
-    editor.load = [&](HWND dialog) { Load(dialog, shown); };
-    editor.store = [&](HWND dialog, BadField* bad) { return StoreMarkerFields(shown, Read(dialog), marker, bad); };
-    editor.clicked = [&](HWND dialog, model::LatLon at) { ShowNavaidAt(dialog, marker, at); };
-    return RunEditor(editor);
-}
+bool EditMarker(SceneryObject* marker) { return RunEditor(kEditor, marker); }
 
 bool InsertMarkersDialog() {
     NewMarkerFields shown;
@@ -90,7 +85,7 @@ bool InsertMarkersDialog() {
     editor.resource = IDD_NEW_MARKERS;
     editor.topic = "#Navaids";
     editor.controls = kNewControls;
-    editor.load = [&](HWND dialog) { LoadNew(dialog, shown); };
+    editor.load = [&](HWND dialog) { ShowNew(dialog, shown); };
     editor.store = [&](HWND dialog, BadField* bad) { return CreateMarkers(shown, ReadNew(dialog), bad); };
     editor.command = [](HWND dialog, int, int code) {
         if (code == BN_CLICKED) EnableDistances(dialog);

@@ -46,9 +46,7 @@ std::string ShowNavFrequency(uint32_t hertz, FrequencyKind kind) { return ShowNu
 
 bool ReadNavFrequency(FrequencyKind kind, const std::string& shown, const std::string& entered, bool judgeOld,
                       uint32_t* hertz, BadField* bad) {
-    double typed = 1;
-    const bool none = IsBlank(entered) || (ReadNumber(entered, &typed) && typed == 0);
-    if (entered == shown ? *hertz == 0 : none)
+    if (entered == shown ? *hertz == 0 : ReadsAsZero(QuantityOf(kind), entered))
         return Refuse(kind == FrequencyKind::Ndb         ? "You must enter a frequency, for example 350.0"
                       : kind == FrequencyKind::Localizer ? "You must enter a frequency, for example 110.3"
                                                          : "You must enter a frequency, for example 113.5",

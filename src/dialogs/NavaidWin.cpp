@@ -2,17 +2,12 @@
 #include "dialogs/NavaidWin.h"
 
 #include "dialogs/NavaidFields.h"
-#include "dialogs/Subject.h"
 
 namespace dialogs {
 
 void ShowChannel(HWND dialog, const char* before) {
     const std::string channel = DmeChannelOf(platform::FieldText(dialog, IDC_NAV_FREQUENCY));
     platform::SetFieldText(dialog, IDC_NAV_CHANNEL, channel.empty() ? "" : before + channel);
-}
-
-void ShowNavaidAt(HWND dialog, model::SceneryObject* object, model::LatLon at) {
-    ShowPosition(dialog, IDC_NAV_LATITUDE, IDC_NAV_LONGITUDE, MoveToClick(object, at));
 }
 
 }  // namespace dialogs

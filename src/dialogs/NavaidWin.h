@@ -7,6 +7,7 @@
 
 #include "dialogs/EditorWin.h"
 #include "dialogs/NumberField.h"
+#include "model/Records.h"
 #include "NavaidIds.h"
 #include "platform/DialogWin.h"
 
@@ -26,6 +27,7 @@ void ShowNavaid(HWND dialog, const Fields& fields) {
     LabelUnit(dialog, IDC_NAV_RANGE_LABEL, "Range (", Unit::Range, ")");
     platform::LimitField(dialog, IDC_NAV_IDENT, kIdentLimit);
     platform::SetFieldText(dialog, IDC_NAV_IDENT, fields.ident);
+    platform::LimitField(dialog, IDC_NAV_NAME, model::kNavaidNameSize);
     platform::SetFieldText(dialog, IDC_NAV_NAME, fields.name);
     platform::SetFieldText(dialog, IDC_NAV_FREQUENCY, fields.frequency);
     ShowPosition(dialog, IDC_NAV_LATITUDE, IDC_NAV_LONGITUDE, fields.position);
@@ -47,8 +49,5 @@ void ReadNavaid(HWND dialog, Fields* fields) {
 
 // The DME channel beside the frequency.
 void ShowChannel(HWND dialog, const char* before);
-
-// Moves the object to a click on the map, by its own position.
-void ShowNavaidAt(HWND dialog, model::SceneryObject* object, model::LatLon at);
 
 }  // namespace dialogs

@@ -15,7 +15,7 @@ constexpr FieldControl kControls[] = {
     { Field::Range, IDC_NAV_RANGE },         { Field::Variation, IDC_NAV_VARIATION },
 };
 
-void Load(HWND dialog, const NdbFields& fields) {
+void Show(HWND dialog, const NdbFields& fields) {
     ShowNavaid(dialog, fields);
     platform::FillChoices(dialog, IDC_NAV_TYPE, kNdbTypes);
     platform::SetChoice(dialog, IDC_NAV_TYPE, fields.type);
@@ -28,19 +28,13 @@ NdbFields Read(HWND dialog) {
     return fields;
 }
 
+constexpr ObjectEditor<NdbFields> kEditor = {
+    IDD_NDB, "#Navaids", kControls, LoadNdbFields, Show, Read, StoreNdbFields, IDC_NAV_LATITUDE, IDC_NAV_LONGITUDE,
+};
+
 }  // namespace
 
-bool EditNdb(SceneryObject* ndb) {
-    const NdbFields shown = LoadNdbFields(ndb);
-    Editor editor;
-    editor.resource = IDD_NDB;
-    editor.topic = "#Navaids";
-    editor.controls = kControls;
-    editor.load = [&](HWND dialog) { Load(dialog, shown); };
-    editor.store = [&](HWND dialog, BadField* bad) { return StoreNdbFields(shown, Read(dialog), ndb, bad); };
-    editor.clicked = [&](HWND dialog, model::LatLon at) { ShowNavaidAt(dialog, ndb, at); };
-    return RunEditor(editor);
-}
+bool EditNdb(SceneryObject* ndb) { return RunEditor(kEditor, ndb); }
 
 bool InsertNdbDialog() { return EditNdb(InsertNdb()); }
 

@@ -82,9 +82,7 @@ double SlopeSide(const RunwayEndRef& ref) {
 model::LatLon LocalizerPlace(const RunwayEndRef& ref) {
     const RunwayPlane plane = PlaneOf(ref.runway);
     const int far = ref.end == kBaseEnd ? kReciprocalEnd : kBaseEnd;
-    model::RunwayAreaPart pad;
-    std::memcpy(&pad, ref.runway->payload + kEndPlaces[far].blastPad, sizeof pad);
-    const double range = plane.halfLength + pad.length + kBehindRunway;
+    const double range = plane.halfLength + BlastPadLength({ ref.runway, far }) + kBehindRunway;
     return model::OffsetByPolar(plane.centre, { range, EndHeading(ref) * model::kRadiansPerDegree });
 }
 
@@ -170,7 +168,7 @@ SceneryObject* CreateIls(const RunwayEndRef& ref, const std::function<uint32_t()
     model::SetPosition(ils, place);
     payload.localizer.runwayNumber = ref.runway->payload[kEndPlaces[ref.end].number];
     payload.localizer.runwayDesignator = ref.runway->payload[kEndPlaces[ref.end].designator];
-    payload.localizer.heading = static_cast<float>(EndHeading(ref));
+    payload.localizer.heading = EndHeading(ref);
     payload.localizer.width = static_cast<float>(LocalizerWidth(ref, place));
     payload.glideSlope = UsualGlideSlope(ref);
     payload.dme = UsualDme(payload.glideSlope);

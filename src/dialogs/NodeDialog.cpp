@@ -59,7 +59,10 @@ bool StoreNodeFields(const NodeFields& shown, const NodeFields& entered, Scenery
     }
     // The marker has a direction at hold-short nodes only; others keep the byte that they have.
     const bool chosen = record.type == model::kHoldShortNode && entered.reversed != shown.reversed;
-    if (chosen) record.reversed = entered.reversed;
+    if (chosen) {
+        record.reversed = entered.reversed;
+        edits.turned = node;
+    }
     const std::vector<SceneryObject*> changed = ChangedNodes(edits);
     Commit(&edits);
     for (SceneryObject* other : changed) {  // still the same action

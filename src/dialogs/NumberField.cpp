@@ -20,7 +20,8 @@ namespace {
 
 constexpr double kMetresPerReadFoot = 0.3048000000012192;
 constexpr double kTruncationGuard = 1e-4;  // of a millimetre or hertz: decimals that binary cannot hold
-constexpr int kWidestNumber = 400;         // characters of the largest double with its decimals
+constexpr std::string_view kBlanks = " \t";
+constexpr int kWidestNumber = 400;  // characters of the largest double with its decimals
 
 bool IsMetric(Unit unit) {
     return unit == Unit::ParkingLength ? app::settings.metricParkingRadius : app::settings.metric;
@@ -84,6 +85,19 @@ const char* UnitInMessages(Unit unit) {
 
 bool IsWhole(const Quantity& quantity) { return quantity.whole || (quantity.wholeMetres && IsMetric(quantity.unit)); }
 
+// Takes the blanks and the sign before a number away; whether it is a minus.
+bool TakeSign(std::string_view* text) {
+    text->remove_prefix(std::min(text->find_first_not_of(kBlanks), text->size()));
+    const bool negative = !text->empty() && text->front() == '-';
+    if (negative || (!text->empty() && text->front() == '+')) text->remove_prefix(1);
+    return negative;
+}
+
+// A number begins with a digit or a point: from_chars knows "inf" and "nan" too.
+bool BeginsNumber(std::string_view text) {
+    return !text.empty() && ((text.front() >= '0' && text.front() <= '9') || text.front() == '.');
+}
+
 void ShowRange(const Quantity& quantity) {
     const bool whole = IsWhole(quantity);
     const int decimals = whole ? 0 : DecimalsOf(quantity);
@@ -102,19 +116,23 @@ void ShowError(const std::string& text) {
 }
 
 bool ReadNumber(std::string_view text, double* number) {
-    constexpr std::string_view kBlanks = " \t";
-    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
     text = text.substr(0, text.find_last_not_of(kBlanks) + 1);
-    const bool negative = !text.empty() && text.front() == '-';
-    if (negative || (!text.empty() && text.front() == '+')) text.remove_prefix(1);
-    // A digit or a point has to follow: from_chars knows "inf" and "nan" too.
-    if (text.empty() || !((text.front() >= '0' && text.front() <= '9') || text.front() == '.')) return false;
+    const bool negative = TakeSign(&text);
+    if (!BeginsNumber(text)) return false;
     double value = 0;
     const char* end = text.data() + text.size();
     const auto result = std::from_chars(text.data(), end, value, std::chars_format::fixed);
     if (result.ec != std::errc() || result.ptr != end) return false;
     *number = negative && value != 0 ? -value : value;
     return true;
+}
+
+bool ReadsAsZero(const Quantity& quantity, std::string_view text) {
+    TakeSign(&text);
+    if (!BeginsNumber(text)) return true;
+    double value = 0;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
+    return result.ec != std::errc::result_out_of_range && StoredNumber(quantity, value) == 0;
 }
 
 double ShownNumber(const Quantity& quantity, double stored) {
@@ -142,7 +160,8 @@ double StoredNumber(const Quantity& quantity, double shown) {
     default: break;
     }
     const double metres = IsMetric(quantity.unit) ? shown : shown * ReadFoot(quantity.unit);
-    return quantity.unit == Unit::Elevation ? Truncated(metres * 1000) : metres;
+    if (quantity.unit != Unit::Elevation) return metres;
+    return IsMetric(quantity.unit) ? Truncated(metres * 1000) : std::trunc(metres * 1000);
 }
 
 std::string ShowNumber(const Quantity& quantity, double stored) {

@@ -42,6 +42,9 @@ struct Quantity {
 // A decimal number with an optional sign, blanks around it allowed; anything else is refused.
 bool ReadNumber(std::string_view text, double* number);
 
+// Whether what the text begins with comes to 0 in the record. So does a text that begins with no number.
+bool ReadsAsZero(const Quantity& quantity, std::string_view text);
+
 double ShownNumber(const Quantity& quantity, double stored);
 double StoredNumber(const Quantity& quantity, double shown);
 std::string ShowNumber(const Quantity& quantity, double stored);

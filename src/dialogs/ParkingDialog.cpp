@@ -4,13 +4,14 @@
 #include "dialogs/ParkingDialog.h"
 
 #include <algorithm>
-#include <iterator>
+#include <cmath>
 
 #include "dialogs/DialogHost.h"
 #include "dialogs/Edits.h"
 #include "dialogs/NumberField.h"
 #include "dialogs/ParkingCodes.h"
 #include "dialogs/Subject.h"
+#include "map/NewObjects.h"
 #include "model/Names.h"
 #include "model/ObjectList.h"
 #include "model/Positions.h"
@@ -26,8 +27,7 @@ constexpr uint32_t kAreaCount = 37, kTypeCount = 11;  // the codes from 1 on
 constexpr uint32_t kAreaMask = 0x3F, kTypeMask = 0xF00, kNumberMask = 0xFFF000;
 constexpr int kTypeShift = 8, kNumberShift = 12;
 
-constexpr double kDefaultRadius[] = { 20, 20, 10, 14, 18, 50, 44, 26, 31, 38, 54, 20 };  // metres, by type code
-static_assert(std::size(kDefaultRadius) == kTypeCount + 1);
+constexpr double kSameRadius = 0.005;  // metres: a default that was typed in feet is this close
 
 constexpr Quantity kRadius = { "radius", Unit::ParkingLength, 0.1, 1000, 2, 2 };
 constexpr Quantity kNumber = { "number", Unit::Plain, 0, 4095, 0, 0, true };
@@ -41,6 +41,18 @@ int AreaIndex(const ParkingSpotRecord& record) {
 int TypeIndex(const ParkingSpotRecord& record) {
     const uint32_t code = model::ParkingTypeCode(record);
     return code > kTypeCount ? 0 : static_cast<int>(code) - 1;
+}
+
+uint32_t TypeCode(int index) { return static_cast<uint32_t>(index + 1); }
+
+std::string DefaultRadiusText(int index) { return ShowNumber(kRadius, map::DefaultSpotRadius(TypeCode(index))); }
+
+bool HasDefaultRadius(const ParkingSpotRecord& record) {
+    return std::fabs(double{ record.radius } - map::DefaultSpotRadius(model::ParkingTypeCode(record))) < kSameRadius;
+}
+
+void SetTypeBits(ParkingSpotRecord* record, uint32_t typeCode) {
+    record->packed = (record->packed & ~kTypeMask) | (typeCode << kTypeShift & kTypeMask);
 }
 
 ParkingFields LoadOne(const SceneryObject* spot) {
@@ -81,6 +93,9 @@ bool ReadChange(const ParkingFields& shown, const ParkingFields& entered, Parkin
     if (!ReadOne(kHeading, shown.heading, entered.heading, Field::Heading, &change->heading, bad)) return false;
     if (!ReadOne(kNumber, shown.number, entered.number, Field::Number, &change->number, bad)) return false;
     if (!ReadOne(kRadius, shown.radius, entered.radius, Field::Radius, &change->radius, bad)) return false;
+    // The two decimals that the type brought stand for the exact default.
+    if (entered.radius == DefaultRadiusText(entered.type))
+        change->radius = map::DefaultSpotRadius(TypeCode(entered.type));
     if (entered.codes != shown.codes && !ReadCodes(entered.codes, &change->codes)) {
         *bad = { Field::Codes };
         return false;
@@ -88,13 +103,13 @@ bool ReadChange(const ParkingFields& shown, const ParkingFields& entered, Parkin
     return true;
 }
 
-// The type; and where the radii of the spots differ, the default radius for those that have their type's.
+// The radius is a field of its own, unless the radii of the spots differ: then each goes by its own type.
 void ChangeType(const ParkingFields& shown, const ParkingFields& entered, ParkingSpotRecord* record) {
-    const auto code = static_cast<uint32_t>(entered.type) + 1;
     const bool mixed = shown.radius.empty() && entered.radius.empty();
-    if (mixed && record->radius == static_cast<float>(DefaultParkingRadius(model::ParkingTypeCode(*record))))
-        record->radius = static_cast<float>(DefaultParkingRadius(code));
-    record->packed = (record->packed & ~kTypeMask) | code << kTypeShift;
+    if (mixed)
+        GiveSpotType(record, TypeCode(entered.type));
+    else
+        SetTypeBits(record, TypeCode(entered.type));
 }
 
 void Apply(const ParkingChange& change, const ParkingFields& shown, const ParkingFields& entered,
@@ -124,8 +139,10 @@ std::vector<std::string> ParkingTypeChoices() {
     return names;
 }
 
-double DefaultParkingRadius(uint32_t typeCode) {
-    return kDefaultRadius[typeCode < std::size(kDefaultRadius) ? typeCode : 1];
+void GiveSpotType(ParkingSpotRecord* record, uint32_t typeCode) {
+    if (model::ParkingTypeCode(*record) == typeCode) return;
+    if (HasDefaultRadius(*record)) record->radius = static_cast<float>(map::DefaultSpotRadius(typeCode));
+    SetTypeBits(record, typeCode);
 }
 
 std::vector<SceneryObject*> EditedSpots(SceneryObject* spot) {
@@ -157,10 +174,9 @@ ParkingFields LoadParkingFields(SceneryObject* spot) {
 }
 
 void ChooseParkingType(ParkingFields* fields, int type) {
-    const auto radiusOf = [](int index) {
-        return ShowNumber(kRadius, DefaultParkingRadius(static_cast<uint32_t>(index + 1)));
-    };
-    if (type >= 0 && fields->radius == radiusOf(fields->type)) fields->radius = radiusOf(type);
+    const bool hasOldType = !fields->several || fields->type >= 0;
+    if (type >= 0 && hasOldType && fields->radius == DefaultRadiusText(fields->type))
+        fields->radius = DefaultRadiusText(type);
     fields->type = type;
 }
 
@@ -171,7 +187,7 @@ bool StoreParkingFields(const ParkingFields& shown, const ParkingFields& entered
     if (!ReadChange(shown, entered, &change, bad)) return false;
     for (SceneryObject* each : EditedSpots(spot)) Apply(change, shown, entered, DraftOf(&edits, each));
     Commit(&edits);
-    if (entered.type >= 0 && entered.type != shown.type) UseParkingType(static_cast<uint32_t>(entered.type) + 1);
+    if (entered.type >= 0 && entered.type != shown.type) UseParkingType(TypeCode(entered.type));
     return true;
 }
 

@@ -8,6 +8,7 @@
 
 #include "dialogs/Field.h"
 #include "dialogs/PositionField.h"
+#include "model/Records.h"
 #include "model/SceneryObject.h"
 
 namespace dialogs {
@@ -27,15 +28,17 @@ struct ParkingFields {
 std::vector<std::string> ParkingAreaChoices();
 std::vector<std::string> ParkingTypeChoices();
 
-// The radius in metres that a new spot of the type gets.
-double DefaultParkingRadius(uint32_t typeCode);
+// The spot gets the type. A radius that is the default of its old type, as near as a dialog shows it, becomes the new
+// one's.
+void GiveSpotType(model::ParkingSpotRecord* record, uint32_t typeCode);
 
 // The spots that the dialog edits: the selected ones when `spot` is among them, else it alone.
 std::vector<SceneryObject*> EditedSpots(SceneryObject* spot);
 
 ParkingFields LoadParkingFields(SceneryObject* spot);
 
-// The user chooses a type: a radius that still is the old type's default becomes the new one's.
+// The user chooses a type: a radius that still is the old type's default becomes the new one's. Spots of several types
+// have no old one; then only those change whose radii differ, each by its own type (StoreParkingFields).
 void ChooseParkingType(ParkingFields* fields, int type);
 
 bool StoreParkingFields(const ParkingFields& shown, const ParkingFields& entered, SceneryObject* spot, BadField* bad);

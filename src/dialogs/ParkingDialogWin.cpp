@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "app/ParkingSpecs.h"
@@ -12,7 +13,6 @@
 #include "dialogs/ParkingCodes.h"
 #include "dialogs/ParkingDialog.h"
 #include "dialogs/Subject.h"
-#include "model/ObjectList.h"
 #include "platform/DialogWin.h"
 #include "platform/WideTextWin.h"
 #include "TaxiIds.h"
@@ -49,6 +49,7 @@ void Load(HWND dialog, const ParkingFields& fields) {
     platform::FillChoices(dialog, IDC_SPOT_AREA, ParkingAreaChoices());
     platform::FillChoices(dialog, IDC_SPOT_TYPE, ParkingTypeChoices());
     platform::FillChoices(dialog, IDC_SPOT_SPECS, specs);
+    SendDlgItemMessageW(dialog, IDC_SPOT_SPECS, CB_SETEXTENDEDUI, TRUE, 0);
     platform::SetFieldText(dialog, IDC_SPOT_RADIUS_LABEL,
                            app::settings.metricParkingRadius ? "&Radius (m)" : "&Radius (ft)");
     ShowFields(dialog, fields);
@@ -78,7 +79,7 @@ void OnType(HWND dialog, const Subject& subject, int* typeBefore) {
 }
 
 // The cursor of the field counts UTF-16 units, that of the rules UTF-8 bytes.
-void OnSpec(HWND dialog) {
+void InsertChosenSpec(HWND dialog) {
     const int choice = platform::ChoiceOf(dialog, IDC_SPOT_SPECS);
     if (choice < 0) return;
     DWORD from = 0;
@@ -92,29 +93,31 @@ void OnSpec(HWND dialog) {
     SendDlgItemMessageW(dialog, IDC_SPOT_CODES, EM_SETSEL, behind, static_cast<LPARAM>(behind));
 }
 
+// Going through the list is no choice yet: only what is accepted in the open list is. An arrow key opens it.
+void OnSpecList(HWND dialog, int code, bool* accepted) {
+    if (code == CBN_DROPDOWN || code == CBN_SELENDCANCEL) *accepted = false;
+    if (code == CBN_SELENDOK) *accepted = true;
+    if (code == CBN_CLOSEUP && std::exchange(*accepted, false)) InsertChosenSpec(dialog);
+}
+
 }  // namespace
 
 bool EditParking(SceneryObject* object) {
     SelectSubject(object, ExtendKeyHeld());
     Subject subject = { object, LoadParkingFields(object) };
     int typeBefore = subject.shown.type;
-    bool changed = false;
-    const auto store = [&](HWND dialog, BadField* bad) {
-        const uint64_t before = model::state.revision;
-        const ParkingFields entered = Read(dialog, subject.shown.several);
-        const bool stored = StoreParkingFields(subject.shown, entered, subject.spot, bad);
-        changed |= model::state.revision != before;
-        return stored;
-    };
+    bool specAccepted = false;
     Editor editor;
     editor.resource = IDD_PARKING;
     editor.topic = "#ParkingProperties";
     editor.controls = kControls;
     editor.load = [&](HWND dialog) { Load(dialog, subject.shown); };
-    editor.store = store;
+    editor.store = [&](HWND dialog, BadField* bad) {
+        return StoreParkingFields(subject.shown, Read(dialog, subject.shown.several), subject.spot, bad);
+    };
     editor.command = [&](HWND dialog, int id, int code) {
         if (id == IDC_SPOT_TYPE && code == CBN_SELCHANGE) OnType(dialog, subject, &typeBefore);
-        if (id == IDC_SPOT_SPECS && code == CBN_SELCHANGE) OnSpec(dialog);
+        if (id == IDC_SPOT_SPECS) OnSpecList(dialog, code, &specAccepted);
         if (id != IDC_NEXT_SPOT || !StoreOrRefuse(dialog)) return;
         subject.spot = NextSpot(subject.spot);
         GoToSpot(subject.spot);
@@ -125,8 +128,7 @@ bool EditParking(SceneryObject* object) {
     editor.clicked = [&](HWND dialog, model::LatLon at) {
         if (!subject.shown.several) ShowPosition(dialog, IDC_LATITUDE, IDC_LONGITUDE, MoveToClick(subject.spot, at));
     };
-    RunEditor(editor);
-    return changed;
+    return RunEditor(editor);
 }
 
 }  // namespace dialogs

@@ -76,16 +76,25 @@ bool StorePart(const Quantity& quantity, const std::string& shown, const std::st
     return true;
 }
 
+// In the order in which they are read.
+struct PartRow {
+    Field field;
+    std::string RunwayEndFields::*text;
+    size_t RunwayEndPlaces::*place;
+    const Quantity* quantity;
+};
+constexpr PartRow kParts[] = {
+    { Field::Overrun, &RunwayEndFields::overrun, &RunwayEndPlaces::blastPad, &kOverrun },
+    { Field::DisplacedThreshold, &RunwayEndFields::displaced, &RunwayEndPlaces::displaced, &kDisplaced },
+};
+
 bool StoreParts(const RunwayFields& shown, const RunwayFields& entered, SceneryObject* draft, BadField* bad) {
-    for (int end = 0; end < 2; ++end) {
-        const auto& was = shown.ends[static_cast<size_t>(end)];
-        const auto& is = entered.ends[static_cast<size_t>(end)];
-        if (!StorePart(kOverrun, was.overrun, is.overrun, kEndPlaces[end].blastPad, draft)) {
-            *bad = { Field::Overrun, end };
-            return false;
-        }
-        if (!StorePart(kDisplaced, was.displaced, is.displaced, kEndPlaces[end].displaced, draft)) {
-            *bad = { Field::DisplacedThreshold, end };
+    for (const PartRow& row : kParts) {
+        for (size_t end = 0; end < 2; ++end) {
+            if (StorePart(*row.quantity, shown.ends[end].*row.text, entered.ends[end].*row.text,
+                          kEndPlaces[end].*row.place, draft))
+                continue;
+            *bad = { row.field, static_cast<int>(end) };
             return false;
         }
     }

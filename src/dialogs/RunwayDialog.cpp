@@ -73,8 +73,9 @@ std::string VariationText() { return ShowNumber(kVariation, AirportVariation());
 std::string MagneticHeadingText(const std::string& heading) {
     double trueHeading = 0;
     if (!ReadNumber(heading, &trueHeading) || trueHeading < 0 || trueHeading > 360) return "";
-    const double magnetic = std::fmod(trueHeading + AirportVariation(), 360);  // the variation is west positive
-    const std::string text = ShowNumber(kMagneticHeading, magnetic);
+    // The variation is west positive, and a file may hold it with a sign.
+    const double turned = std::fmod(trueHeading + AirportVariation(), 360);
+    const std::string text = ShowNumber(kMagneticHeading, turned < 0 ? turned + 360 : turned);
     return text == "360.0" ? "0.0" : text;
 }
 

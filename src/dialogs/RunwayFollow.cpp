@@ -81,9 +81,13 @@ void MoveStart(const RunwayPlane& from, const RunwayPlane& to, SceneryObject* dr
     start.heading = Turned(start.heading, from, to);
 }
 
+// What is no number is the same as what is none.
+bool SameNumber(float a, float b) { return a == b || (std::isnan(a) && std::isnan(b)); }
+
 bool SamePlane(const SceneryObject* a, const SceneryObject* b) {
     const RunwayRecord &x = model::PayloadAs<RunwayPayload>(a).body, &y = model::PayloadAs<RunwayPayload>(b).body;
-    return x.longitude == y.longitude && x.latitude == y.latitude && x.heading == y.heading && x.length == y.length;
+    return x.longitude == y.longitude && x.latitude == y.latitude && SameNumber(x.heading, y.heading) &&
+           SameNumber(x.length, y.length);
 }
 
 std::string QuestionFor(const std::vector<SceneryObject*>& ils, const std::vector<SceneryObject*>& starts) {

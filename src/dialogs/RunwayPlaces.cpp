@@ -34,10 +34,17 @@ model::LatLon PositionIn(const RunwayPlane& plane, model::Point place) {
     return model::LocalToLatLon(plane.centre, { place.y * s + place.x * c, place.y * c - place.x * s });
 }
 
-double EndHeading(const RunwayEndRef& ref) {
+float EndHeading(const RunwayEndRef& ref) {
     const double heading = Sane(model::PayloadAs<model::RunwayPayload>(ref.runway).body.heading);
     const double turned = std::fmod(heading + (ref.end == kReciprocalEnd ? 180 : 0), 360);
-    return turned < 0 ? turned + 360 : turned;
+    const auto single = static_cast<float>(turned < 0 ? turned + 360 : turned);
+    return single < 360 ? single : 0;  // a hair below 360 is 360 as a float
+}
+
+double BlastPadLength(const RunwayEndRef& ref) {
+    model::RunwayAreaPart pad;
+    std::memcpy(&pad, ref.runway->payload + kEndPlaces[ref.end].blastPad, sizeof pad);
+    return Sane(pad.length);
 }
 
 model::EncodedPoint PlaceFromThreshold(const RunwayEndRef& ref, double inward, double right) {

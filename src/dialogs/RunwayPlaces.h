@@ -17,7 +17,8 @@ RunwayPlane PlaneOf(const SceneryObject* runway);
 model::Point PlaceIn(const RunwayPlane& plane, model::LatLon position);
 model::LatLon PositionIn(const RunwayPlane& plane, model::Point place);
 
-double EndHeading(const RunwayEndRef& ref);  // degrees true in which one lands there, [0, 360)
+float EndHeading(const RunwayEndRef& ref);       // degrees true in which one lands there, [0, 360)
+double BlastPadLength(const RunwayEndRef& ref);  // metres
 
 // The point `inward` metres past the landing threshold (the runway end, or the displaced threshold) and
 // `right` metres to the right of the approach.

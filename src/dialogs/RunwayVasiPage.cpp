@@ -2,6 +2,7 @@
 //
 // The record measures a unit from the runway's centre (biasZ, positive toward the threshold), the page from
 // the runway end: distance = length / 2 - biasZ. A unit of the system "none" is absent: all zero.
+#include <cmath>
 #include <cstring>
 
 #include "dialogs/NumberField.h"
@@ -100,7 +101,7 @@ bool StoreVasiPage(const RunwayFields& shown, const RunwayFields& entered, Scene
 
 void KeepVasiDistances(double oldLength, SceneryObject* draft) {
     const double growth = (model::PayloadAs<RunwayPayload>(draft).body.length - oldLength) / 2;
-    if (growth == 0) return;
+    if (growth == 0 || !std::isfinite(growth)) return;  // a file may hold any length
     for (size_t end = 0; end < 2; ++end) {
         for (const bool right : { false, true }) {
             VasiPart unit = UnitAt(draft, UnitOffset(end, right));

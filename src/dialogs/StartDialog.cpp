@@ -44,7 +44,7 @@ void NameAfter(const RunwayEndRef& ref, StartLocationRecord* record) {
     record->number = ref.runway->payload[kEndPlaces[ref.end].number];
     const uint32_t suffix = ref.runway->payload[kEndPlaces[ref.end].designator] & kNibble;
     record->designatorAndType = static_cast<uint8_t>(kRunwayType << kTypeShift | suffix);
-    record->heading = static_cast<float>(EndHeading(ref));
+    record->heading = EndHeading(ref);
 }
 
 }  // namespace

@@ -21,6 +21,14 @@ void PutPoint(SceneryObject* object, size_t offset, model::EncodedPoint point) {
     std::memcpy(object->payload + offset, &point, sizeof point);
 }
 
+// With all its parts.
+void SelectWhole(SceneryObject* object) {
+    object->flags |= model::kSelected | model::kWholeSelected;
+    if (model::KindOf(object) == model::kIls)
+        model::PayloadAs<model::IlsPayload>(object).selectedParts = map::kAllIlsParts;
+    if (model::KindOf(object) == model::kApronEdgeLights) map::SelectAllStripPoints(object);
+}
+
 }  // namespace
 
 SceneryObject* MakeProvisional(uint32_t kind, size_t payloadSize) {
@@ -81,17 +89,16 @@ void UndoPreviewIn(SceneryObject* copy, const SceneryObject* live) {
 }
 
 void SelectSubject(SceneryObject* object, bool extend) {
-    if (!model::IsSelected(object) && !extend) map::DeselectAll();
-    object->flags |= model::kSelected;
+    if (!model::IsSelected(object)) {
+        if (!extend) map::DeselectAll();
+        SelectWhole(object);
+    }
     platform::RequestRepaint();
 }
 
 void SelectOnly(SceneryObject* object) {
     map::DeselectAll();
-    object->flags |= model::kSelected | model::kWholeSelected;
-    if (model::KindOf(object) == model::kIls)
-        model::PayloadAs<model::IlsPayload>(object).selectedParts = map::kAllIlsParts;
-    if (model::KindOf(object) == model::kApronEdgeLights) map::SelectAllStripPoints(object);
+    SelectWhole(object);
     platform::RequestRepaint();
 }
 

@@ -34,7 +34,7 @@ void EndPreview();                                                   // every mo
 void UndoPreviewIn(SceneryObject* copy, const SceneryObject* live);  // the same in a copy of `live`
 
 // Before a dialog opens: unless the object is selected already or `extend` (Shift or Ctrl is held), all
-// else is deselected first; then the object is selected.
+// else is deselected first; then the object is selected with all its parts.
 void SelectSubject(SceneryObject* object, bool extend);
 
 // Selects the object with all its parts, and nothing else.

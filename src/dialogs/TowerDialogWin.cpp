@@ -1,14 +1,8 @@
 // TowerDialogWin.cpp - the window "Tower Viewpoint Properties".
 #include "dialogs/TowerDialog.h"
 
-#include <windows.h>
-
-#include "app/Settings.h"
 #include "dialogs/Editors.h"
-#include "dialogs/EditorWin.h"
-#include "dialogs/Subject.h"
-#include "PlacesIds.h"
-#include "platform/DialogWin.h"
+#include "dialogs/PlacesWin.h"
 
 namespace dialogs {
 
@@ -20,33 +14,21 @@ constexpr FieldControl kControls[] = {
     { Field::Elevation, IDC_PLACE_ELEVATION },
 };
 
-void Load(HWND dialog, const TowerFields& fields) {
-    if (app::settings.metric) platform::SetFieldText(dialog, IDC_PLACE_ELEVATION_LABEL, "&Elevation (m ASL)");
-    ShowPosition(dialog, IDC_PLACE_LATITUDE, IDC_PLACE_LONGITUDE, fields.position);
-    platform::SetFieldText(dialog, IDC_PLACE_ELEVATION, fields.elevation);
-}
+constexpr TextControl<TowerFields> kTexts[] = { { &TowerFields::elevation, IDC_PLACE_ELEVATION } };
+constexpr FieldTable<TowerFields> kTable = { kTexts, {}, {} };
 
-TowerFields Read(HWND dialog) {
-    return { PositionIn(dialog, IDC_PLACE_LATITUDE, IDC_PLACE_LONGITUDE),
-             platform::FieldText(dialog, IDC_PLACE_ELEVATION) };
-}
+void Show(HWND dialog, const TowerFields& fields) { ShowPlace(dialog, kTable, fields); }
+
+TowerFields Read(HWND dialog) { return ReadPlace(dialog, kTable); }
+
+constexpr ObjectEditor<TowerFields> kEditor = {
+    IDD_TOWER, "#TowerViewpoint", kControls,          LoadTowerFields,     Show,
+    Read,      StoreTowerFields,  IDC_PLACE_LATITUDE, IDC_PLACE_LONGITUDE,
+};
 
 }  // namespace
 
-bool EditTower(SceneryObject* tower) {
-    SelectSubject(tower, ExtendKeyHeld());
-    const TowerFields shown = LoadTowerFields(tower);
-    Editor editor;
-    editor.resource = IDD_TOWER;
-    editor.topic = "#TowerViewpoint";
-    editor.controls = kControls;
-    editor.load = [&](HWND dialog) { Load(dialog, shown); };
-    editor.store = [&](HWND dialog, BadField* bad) { return StoreTowerFields(shown, Read(dialog), tower, bad); };
-    editor.clicked = [&](HWND dialog, model::LatLon at) {
-        ShowPosition(dialog, IDC_PLACE_LATITUDE, IDC_PLACE_LONGITUDE, MoveToClick(tower, at));
-    };
-    return RunEditor(editor);
-}
+bool EditTower(SceneryObject* tower) { return EditPlace(kEditor, tower); }
 
 bool InsertTowerDialog() {
     SceneryObject* tower = InsertTower();

@@ -24,7 +24,7 @@ void EnableParts(HWND dialog) {
     platform::ShowField(dialog, IDC_NAV_CHANNEL, HasDmePart(parts));
 }
 
-void Load(HWND dialog, const VorFields& fields) {
+void Show(HWND dialog, const VorFields& fields) {
     LabelUnit(dialog, IDC_VOR_DME_RANGE_LABEL, "&DME Range (", Unit::Range, ")");
     ShowNavaid(dialog, fields);
     platform::SetFieldText(dialog, IDC_VOR_DME_RANGE, fields.dmeRange);
@@ -56,22 +56,20 @@ void OnParts(HWND dialog, int* before) {
     EnableParts(dialog);
 }
 
+constexpr ObjectEditor<VorFields> kEditor = {
+    IDD_VOR, "#Navaids", kControls, LoadVorFields, Show, Read, StoreVorFields, IDC_NAV_LATITUDE, IDC_NAV_LONGITUDE,
+};
+
 }  // namespace
 
 bool EditVor(SceneryObject* vor) {
     const VorFields shown = LoadVorFields(vor);
     int parts = shown.parts;
-    Editor editor;
-    editor.resource = IDD_VOR;
-    editor.topic = "#Navaids";
-    editor.controls = kControls;
-    editor.load = [&](HWND dialog) { Load(dialog, shown); };
-    editor.store = [&](HWND dialog, BadField* bad) { return StoreVorFields(shown, Read(dialog), vor, bad); };
+    Editor editor = EditorFor(kEditor, shown, vor);
     editor.command = [&](HWND dialog, int id, int code) {
         if (id == IDC_VOR_PARTS && code == CBN_SELCHANGE) OnParts(dialog, &parts);
         if (id == IDC_NAV_FREQUENCY && code == EN_CHANGE) ShowChannel(dialog, "DME channel ");
     };
-    editor.clicked = [&](HWND dialog, model::LatLon at) { ShowNavaidAt(dialog, vor, at); };
     return RunEditor(editor);
 }
 

@@ -40,8 +40,7 @@ void OpenFinder() { StartOver(&state.search); }
 
 void CloseFinder() {
     HideMarker();
-    state.search.data = PassData{};
-    state.search.resumeCheck = false;
+    DropLists(&state.search);
 }
 
 std::string FindFaults(const Switches& switches) {

@@ -1,8 +1,6 @@
 // FaultFinderWin.cpp - the Fault Finder, a window that stays open beside the map.
 #include <windows.h>
 
-#include <algorithm>
-
 #include "FaultFinderIds.h"
 #include "faults/FaultFinder.h"
 #include "faults/FaultHost.h"
@@ -41,16 +39,10 @@ void PlaceAside(HWND dialog) {
     RECT over{}, own{};
     GetWindowRect(owner, &over);
     GetWindowRect(dialog, &own);
-    MONITORINFO screen{};
-    screen.cbSize = sizeof screen;
-    GetMonitorInfoW(MonitorFromWindow(owner, MONITOR_DEFAULTTONEAREST), &screen);
     const int dpi = platform::DpiOf(owner);
-    const LONG width = own.right - own.left, height = own.bottom - own.top;
-    LONG x = over.right - platform::ScaleToDpi(kAtRightEdge, dpi) - width;
-    LONG y = over.top + platform::ScaleToDpi(kBelowCaption, dpi);
-    x = std::max(screen.rcWork.left, std::min(x, screen.rcWork.right - width));
-    y = std::max(screen.rcWork.top, std::min(y, screen.rcWork.bottom - height));
-    SetWindowPos(dialog, nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    const LONG right = over.right - platform::ScaleToDpi(kAtRightEdge, dpi);
+    platform::PlaceDialog(dialog,
+                          { right - (own.right - own.left), over.top + platform::ScaleToDpi(kBelowCaption, dpi) });
 }
 
 void OnInit(HWND dialog, LPARAM data) {

@@ -4,6 +4,8 @@
 // holds because every edit changes the model's revision and so leads to a fresh start.
 #include "faults/FaultSearch.h"
 
+#include <algorithm>
+
 #include "model/ObjectList.h"
 
 namespace faults {
@@ -53,8 +55,8 @@ bool RunCheck(const Check& check, FaultSearch* search, FaultReport* report) {
 }
 
 void NoticeEdits(FaultSearch* search) {
-    if (search->lastRevision == model::state.revision) return;
-    search->lastRevision = model::state.revision;
+    if (search->lastEditMark == model::state.revision) return;
+    search->lastEditMark = model::state.revision;
     search->anyFaultFound = false;
     search->resumeCheck = false;  // the check that was reached stays
 }
@@ -87,6 +89,14 @@ void StartOver(FaultSearch* search) {
     search->resumeCheck = false;
     search->anyFaultFound = false;
     search->data = PassData{};
+}
+
+void DropLists(FaultSearch* search) {
+    if (search->checkIndex == static_cast<int>(FaultCheck::IsolatedSegments)) {
+        search->resumeAt -= std::min(search->resumeAt, search->data.segments.told.size());  // it counts them first
+    }
+    search->data.segments = {};
+    search->data.missingStarts.clear();
 }
 
 const char* CheckName(FaultCheck check) { return kChecks[static_cast<size_t>(check)].name; }

@@ -25,7 +25,7 @@ struct FaultSearch {
     int checkIndex = 0;          // the check that runs now; kCheckCount when all are done
     bool resumeCheck = false;    // it stopped at a fault and goes on there
     bool anyFaultFound = false;  // since the pass began
-    uint64_t lastRevision = 0;   // model::state.revision at the last call
+    uint64_t lastEditMark = 0;   // model::state.revision at the last call
     size_t resumeAt = 0;         // where the check goes on
     PassData data;
 };
@@ -39,6 +39,9 @@ SearchResult FindNextFault(FaultSearch* search, FaultReport* report);
 
 // The next call begins a new pass; the switches stay. For another airport, and for a window that opens.
 void StartOver(FaultSearch* search);
+
+// Frees what a check has listed to be told: segments and missing starts. The check goes on behind them.
+void DropLists(FaultSearch* search);
 
 // "Hold Short Limits" and so on.
 const char* CheckName(FaultCheck check);

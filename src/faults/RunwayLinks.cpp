@@ -11,12 +11,6 @@ namespace faults {
 
 namespace {
 
-std::string BothEndNames(const SceneryObject* runway) {
-    const model::RunwayRecord& body = model::PayloadAs<model::RunwayPayload>(runway).body;
-    return model::RunwayEndName(body.primaryNumber, body.primaryDesignator) + '/' +
-           model::RunwayEndName(body.secondaryNumber, body.secondaryDesignator);
-}
-
 // The runway that the link is named after; null when it is named after none that still exists.
 const SceneryObject* DesignatedRunway(const Network& network, const Link& link) {
     const SceneryObject* named = model::PayloadAs<model::TaxiLinkPayload>(link.object).designator;
@@ -32,7 +26,8 @@ bool JudgeLink(const Network& network, const Link& link, LatLon start, LatLon en
         return true;
     }
     const SceneryObject* named = DesignatedRunway(network, link);
-    const std::string linkName = named ? BothEndNames(named) : "(blank)", runwayName = BothEndNames(under->runway);
+    const std::string linkName = named ? model::RunwayName(named) : "(blank)",
+                      runwayName = model::RunwayName(under->runway);
     // By name: a file knows the designator by it, so that of two runways of one name a link means either.
     if (linkName == runwayName) return false;
     char text[1000];

@@ -120,8 +120,13 @@ bool MoveAircraft(model::LatLon position, double heading) {
     const SimPosition target = FromLatLon(position);
     WriteValue(kLatitudeOffset, target.latitude);
     WriteValue(kLongitudeOffset, target.longitude);
-    WriteValue(kHeadingOffset, HeadingFromRadians(heading));
-    return SendWrites();
+    const uint32_t turned = HeadingFromRadians(heading);
+    WriteValue(kHeadingOffset, turned);
+    if (!SendWrites()) return false;
+    // The next poll's answer may end before the place: the one of the poll before would put the aircraft back there.
+    simulator.position = target;
+    simulator.heading = turned;
+    return true;
 }
 
 void ReleaseLink() {

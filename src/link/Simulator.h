@@ -13,7 +13,7 @@ namespace simlink {
 
 struct SimulatorState {
     bool connected = false;  // the last poll was answered
-    SimPosition position;    // as polled, not judged
+    SimPosition position;    // as polled or as moved to since, not judged
     int64_t altitude = 0;
     uint32_t heading = 0;
     uint32_t ground = 0;     // polled with the rest, not used

@@ -40,17 +40,17 @@ constexpr std::array kSimplifiedRows = {
     BarAt(kDecisionBar, Feet(15), kWingGap, 5),
 };
 
-// Red wing bars and a red terminating bar lie before the threshold.
+// The centre line begins at 300 feet (FAA JO 6850.2: 28 bars to 3,000 feet): nearer to the threshold there are only the
+// red terminating bar and the red wing bars.
 constexpr ApproachRow AlsfOneRow(double last) {
     return { Feet(300), last, kStep, 0, kBarretteGap, 5, Ink::LightWhite };
 }
-constexpr ApproachRow kFirstBar = BarAt(Feet(100), 0, kBarretteGap, 5);
 constexpr ApproachRow kWingBar = BarAt(Feet(100), Feet(75), kWingGap, 5, Ink::LightRed);
 constexpr ApproachRow kTerminatingBar = BarAt(Feet(200), 0, kWingGap, 11, Ink::LightRed);
 constexpr ApproachRow kFullDecisionBar = BarAt(kDecisionBar, Feet(15), kWingGap, 8);
 
-constexpr std::array kAlsfOneRows = { AlsfOneRow(kFullLength), kFirstBar, kWingBar, kTerminatingBar, kFullDecisionBar };
-constexpr std::array kShortRows = { AlsfOneRow(kShortLength), kFirstBar, kWingBar, kTerminatingBar, kFullDecisionBar };
+constexpr std::array kAlsfOneRows = { AlsfOneRow(kFullLength), kWingBar, kTerminatingBar, kFullDecisionBar };
+constexpr std::array kShortRows = { AlsfOneRow(kShortLength), kWingBar, kTerminatingBar, kFullDecisionBar };
 
 constexpr std::array kAlsfTwoRows = {
     ApproachRow{ kStep, kFullLength, kStep, 0, kBarretteGap, 5, Ink::LightWhite },
@@ -127,7 +127,7 @@ constexpr std::array<ApproachSystem, kApproachSystems> kSystems = { {
     Steady("CALVERT", kCalvertRows, 900, 30),
     Steady("CALVERT-2", kCalvertTwoRows, 900, 30),
     Steady("MALS", kMediumRows, kMediumLength, kWideStep),
-    Steady("SALS", kShortRows, kShortLength, kStep),
+    { .name = "SALS", .rows = kShortRows, .flashFrom = kShortLength, .flashStep = kStep, .thresholdBar = true },
     Flashing("SSALSF", kSimplifiedRows),
     Steady("SSALS", kSimplifiedRows, kMediumLength, kWideStep),
     Aligned("SSALSR", kSimplifiedRows),

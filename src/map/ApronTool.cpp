@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "map/ApronShape.h"
-#include "map/MapHost.h"
 #include "map/MapView.h"
 #include "map/NewObjects.h"
 #include "map/Placing.h"
@@ -27,7 +26,7 @@ using model::EncodedPoint;
 namespace {
 
 constexpr size_t kFewestCorners = 3, kMostCorners = 65535;
-constexpr uint8_t kConcrete = 0, kDrawSurfaceAndDetail = 3;
+constexpr uint8_t kDrawSurfaceAndDetail = 3;
 
 bool Same(EncodedPoint a, EncodedPoint b) { return a.longitude == b.longitude && a.latitude == b.latitude; }
 
@@ -79,7 +78,7 @@ void AddOutlinePoint(Pixel at) {
     if (tools.outline.size() >= kMostCorners || !PlaceUnder(at, &place)) return;
     if (!tools.outline.empty() && Same(Encode(place), Encode(tools.outline.back()))) return;
     tools.outline.push_back(place);
-    RequestFeedback();
+    platform::RequestRepaint();  // the area is part of the map
 }
 
 bool CanCloseOutline() { return tools.outline.size() >= kFewestCorners; }
@@ -89,7 +88,7 @@ void CloseOutline() {
     SceneryObject* bare = model::CreateObject(model::kApron, sizeof(model::ApronHead));
     bare->flags |= model::kSelected | model::kWholeSelected;
     auto& head = model::PayloadAs<model::ApronHead>(bare);
-    head.outlineSurface = head.surface = kConcrete;
+    head.outlineSurface = head.surface = kNewApronSurface;
     head.drawFlags = kDrawSurfaceAndDetail;
     SceneryObject* apron = model::CopyWithOutline(bare, EncodedOutline());
     model::FreeObject(bare);
@@ -111,7 +110,7 @@ bool HasOutline() { return !tools.outline.empty(); }
 void TakeBackOutlinePoint() {
     if (tools.outline.empty()) return;
     tools.outline.pop_back();
-    RequestFeedback();
+    platform::RequestRepaint();
 }
 
 void InsertApronPoint(Pixel at) {

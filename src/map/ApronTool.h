@@ -4,9 +4,13 @@
 // history holds it.
 #pragma once
 
+#include <cstdint>
+
 #include "model/Geometry.h"
 
 namespace map {
+
+constexpr uint8_t kNewApronSurface = 0;  // concrete
 
 void AddOutlinePoint(model::Pixel at);
 bool CanCloseOutline();  // an area needs three corners

@@ -135,7 +135,8 @@ void FollowStrip(Pixel pointer) {
     EncodedPoint last = {};
     drag.hasTo = FindPoint(pointer, &last) && MakesStrip(last, pointer);
     drag.to = Decode(last);
-    RequestFeedback();
+    drag.spacing = drag.hasTo ? double{ StripTo(last).spacing } : 0;
+    platform::RequestRepaint();  // its lamps are part of the map
 }
 
 void FinishStrip(Pixel pointer) {

@@ -11,6 +11,7 @@ struct StripDrag {
     bool active = false;
     model::LatLon from, to;
     bool hasTo = false;  // far enough for a strip
+    double spacing = 0;  // metres between its lamps
 };
 const StripDrag& CurrentStripDrag();
 

@@ -12,4 +12,6 @@ struct FaultMarker {
 
 inline FaultMarker faultMarker;
 
+constexpr int kFaultRadius = 16, kFaultTick = 7;  // pixels: of its ring, and of the ticks outside it
+
 }  // namespace map

@@ -102,7 +102,7 @@ void PaintGridLabel(const Painter& painter, const std::vector<Point>& line, cons
             continue;  // the line begins farther on
         platform::TextRun run;
         run.text = text;
-        run.at = ToPixel(from + Point{ kLabelGap, flat ? 0.0 : -kLabelGap });
+        run.at = ToPixel(from + Point{ FromScreen(kLabelGap), flat ? 0.0 : -FromScreen(kLabelGap) });
         run.alignY = platform::AlignY::Bottom;
         run.height = kLabelHeight;
         run.colour = InkOf(Ink::GridLabel);

@@ -88,7 +88,7 @@ void PaintHoldShortMarkings(const Painter& painter) {
     FillOnly(painter, InkOf(Ink::TaxiwayLine));
     for (const uint8_t type : { model::kHoldShortNode, model::kIlsHoldShortNode }) {
         for (const TaxiHub& hub : painter.network.hubs) {
-            if (model::KindOf(hub.object) != model::kTaxiNode) continue;
+            if (!hub.inView || model::KindOf(hub.object) != model::kTaxiNode) continue;
             if (model::PayloadAs<model::TaxiNodeRecord>(hub.object).type != type) continue;
             HoldMarking marking;
             if (!FindHoldMarking(hub.object, LinksOf(painter.network, hub), runways, &marking)) continue;

@@ -12,6 +12,7 @@
 #include "map/LinkTemplate.h"
 #include "model/EditHistory.h"
 #include "model/Geometry.h"
+#include "model/Links.h"
 #include "model/ObjectList.h"
 #include "model/Positions.h"
 
@@ -38,6 +39,13 @@ bool Joins(const SceneryObject* link, const SceneryObject* a, const SceneryObjec
     return (payload.start == a && payload.end == b) || (payload.start == b && payload.end == a);
 }
 
+// A half that no runway link is bears no runway's name: a file would read it as that of a taxiway.
+void FitNameToType(TaxiLinkPayload* link) {
+    const bool isRunwayLink = model::LinkTypeOf(*link) == model::kRunwayLink;
+    if (!isRunwayLink && link->designator && model::KindOf(link->designator) == model::kRunway)
+        link->designator = model::BlankDesignatorForEdit();
+}
+
 void AddHalf(const SceneryObject* link, SceneryObject* node, SceneryObject* end) {
     SceneryObject* half = model::CopyObject(link);
     half->flags = model::kTaxiLink | model::kSelected | model::kNewLink;
@@ -45,6 +53,7 @@ void AddHalf(const SceneryObject* link, SceneryObject* node, SceneryObject* end)
     payload.start = node;
     payload.end = end;
     FitTypeToEnd(&payload);
+    FitNameToType(&payload);
     AddLink(half);
 }
 

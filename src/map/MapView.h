@@ -25,7 +25,7 @@ struct MapView {
     double rotation = 0;         // radians, [0, 2 pi); 0 is north up
     int32_t clientWidth = 0, clientHeight = 0;
     PixelBox visible;     // what the bars of the window leave of the client area
-    double fineness = 1;  // how many pixels take the room of one of a screen: more on a printer, never fewer
+    double fineness = 1;  // how many pixels take the room of one of a screen: more on a printer, fewer on its sample
     double screenCentreX = 0, screenCentreY = 0;  // client size halved with integer division
     Pixel lastDragPoint;
     bool lockedToSim = false;  // panning and rotation are refused, zoom still works

@@ -95,10 +95,7 @@ Points VorPoints(const SceneryObject* vor) {
 
 // A tower that stands nowhere yet cannot be moved.
 Points TowerPoints(const SceneryObject* tower) {
-    const auto& record = PayloadAs<model::TowerViewpointRecord>(tower);
-    const bool placed =
-        record.longitude != model::kPlaceholderLongitude || record.latitude != model::kPlaceholderLatitude;
-    return placed ? Points{ offsetof(model::TowerViewpointRecord, longitude) } : Points{};
+    return StandsNowhere(tower) ? Points{} : Points{ offsetof(model::TowerViewpointRecord, longitude) };
 }
 
 bool ShiftMarker(SceneryObject* marker, model::Local offset) {

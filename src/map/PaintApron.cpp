@@ -53,24 +53,9 @@ void PaintSelectedApron(const Painter& painter, const SceneryObject* apron) {
         if (!Contains(painter.clip, points[i])) continue;
         const bool lit = IsWholeSelected(apron) || IsVertexSelected(apron, static_cast<uint32_t>(i));
         Fill(painter, InkOf(lit ? Ink::SelectedFill : Ink::Background), InkOf(Ink::SelectedOutline));
-        const Point reach = { kVertexReach, kVertexReach }, across = TurnedRight(reach);
+        const Point reach = Point{ 1, 1 } * FromScreen(kVertexReach), across = TurnedRight(reach);
         const std::array corners = { points[i] - reach, points[i] + across, points[i] + reach, points[i] - across };
         FillPolygon(painter.canvas, corners);
-    }
-}
-
-// The lamps of a strip from its start, as far as they lie on the page.
-void PaintLamps(const Painter& painter, Point from, Point to, double spacing) {
-    const double length = Length(to - from), step = spacing * painter.scale;
-    if (!(step >= kClosestLights) || !(length > 0) || length > kLongestStrip * painter.scale) return;
-    const Point along = (to - from) * (1 / length);
-    Point first = from, last = to;
-    if (!CutToBox(painter.clip, &first, &last)) return;
-    const int radius = ScaledPixels(kLightReach);
-    FillOnly(painter, InkOf(Ink::LightBlue));
-    const double end = Length(last - from) + step / 1000;  // the last lamp may miss the end by a rounding
-    for (double number = std::ceil(Length(first - from) / step); number * step <= end; ++number) {
-        FillCircle(painter.canvas, from + along * (number * step), radius);
     }
 }
 
@@ -83,15 +68,30 @@ void PaintStrip(const Painter& painter, const LightStrip& strip, bool selected, 
     const bool lit = selected && strip.segmentSelected;
     Stroke(painter, lit ? 2 : 1, InkOf(lit ? Ink::SelectedFill : Ink::EdgeLightStrip));
     StrokeLine(painter.canvas, from, to);
-    PaintLamps(painter, from, to, strip.spacing);
+    PaintStripLamps(painter, from, to, strip.spacing);
     for (const auto& [point, chosen] : { std::pair{ from, strip.startSelected }, std::pair{ to, strip.endSelected } }) {
         if (!selected || !chosen) continue;
         Fill(painter, InkOf(Ink::SelectedFill), InkOf(Ink::SelectedOutline));
-        FillCircle(painter.canvas, point, kVertexReach);
+        FillCircle(painter.canvas, point, FromScreen(kVertexReach));
     }
 }
 
 }  // namespace
+
+// From its start, as far as they lie on the page.
+void PaintStripLamps(const Painter& painter, Point from, Point to, double spacing) {
+    const double length = Length(to - from), step = spacing * painter.scale;
+    if (!(step >= kClosestLights) || !(length > 0) || length > kLongestStrip * painter.scale) return;
+    const Point along = (to - from) * (1 / length);
+    Point first = from, last = to;
+    if (!CutToBox(painter.clip, &first, &last)) return;
+    const int radius = ScaledPixels(kLightReach);
+    FillOnly(painter, InkOf(Ink::LightBlue));
+    const double end = Length(last - from) + step / 1000;  // the last lamp may miss the end by a rounding
+    for (double number = std::ceil(Length(first - from) / step); number * step <= end; ++number) {
+        FillCircle(painter.canvas, from + along * (number * step), radius);
+    }
+}
 
 void PaintAprons(Painter* painter) {
     ForEachOfKind(model::kApron, [&](SceneryObject* apron) { PaintApron(painter, apron); });

@@ -64,8 +64,9 @@ double RadiusOf(const TaxiHub& hub) {
 
 // Beside the circle: (1, 0) right, (-1, 0) left, (0, 1) below, (0, -1) above.
 Label LabelBeside(const TaxiHub& hub, const std::string& text, Point side) {
-    const Point half = { kCharacterWidth * static_cast<double>(text.size()) / 2, kLabelHeight / 2.0 };
-    const double reach = RadiusOf(hub) + kLabelGap;
+    const Point half = { FromScreen(kCharacterWidth) * static_cast<double>(text.size()) / 2,
+                         FromScreen(kLabelHeight) / 2 };
+    const double reach = RadiusOf(hub) + FromScreen(kLabelGap);
     const Point middle = hub.at + Point{ side.x * (reach + half.x), side.y * (reach + half.y) };
     return { text, middle, { middle.x - half.x, middle.y - half.y, middle.x + half.x, middle.y + half.y } };
 }
@@ -77,7 +78,7 @@ struct TakenPlaces {
 
 template <class Visit>
 void ForEachCell(const Box& box, Visit visit) {
-    const auto cell = [](double at) { return int64_t{ ToWhole(std::floor(at / kCellSize)) }; };
+    const auto cell = [](double at) { return int64_t{ ToWhole(std::floor(at / FromScreen(kCellSize))) }; };
     for (int64_t x = cell(box.left); x <= cell(box.right); ++x) {
         for (int64_t y = cell(box.top); y <= cell(box.bottom); ++y) visit(x * (int64_t{ 1 } << 32) + y);
     }
@@ -104,7 +105,7 @@ TakenPlaces PlacesOfSpots(const Painter& painter) {
         if (model::KindOf(hub.object) != model::kParkingSpot) continue;
         const double radius = RadiusOf(hub);
         const Box box = BoundsOf(hub.at, radius * kCircleShare);
-        if (radius <= kWidestCircle && Meets(box, Grown(painter.clip, kFarOff, kFarOff))) Take(&spots, box);
+        if (radius <= FromScreen(kWidestCircle) && Meets(box, Grown(painter.clip, kFarOff, kFarOff))) Take(&spots, box);
     }
     return spots;
 }
@@ -118,7 +119,7 @@ bool FindPlace(const TakenPlaces& spots, const TakenPlaces& labels, const TaxiHu
     }
     // Circles that lie on one another do so at any scale: once they are large, the label may cover a neighbour.
     *label = LabelBeside(hub, text, { 1, 0 });
-    return RadiusOf(hub) >= kRoomyCircle && !IsTaken(labels, label->box);
+    return RadiusOf(hub) >= FromScreen(kRoomyCircle) && !IsTaken(labels, label->box);
 }
 
 void PaintLabel(const Painter& painter, const SceneryObject* spot, const Label& label) {

@@ -53,11 +53,12 @@ void PaintPlaces(Painter* painter) {
 
 void PaintCrossHair(Canvas* canvas) {
     const Point at = WorldToScreen(simAircraft.position);
-    if (!Meets(BoundsOf(at, kCrossHairReach), ClipBox())) return;
+    const int32_t reach = ToWhole(FromScreen(kCrossHairReach));
+    if (!Meets(BoundsOf(at, reach), ClipBox())) return;
     const Pixel centre = ToPixel(at);
     platform::SetPen(canvas, 1, InkOf(Ink::CrossHair));
-    platform::DrawLine(canvas, { centre.x - kCrossHairReach, centre.y }, { centre.x + kCrossHairReach, centre.y });
-    platform::DrawLine(canvas, { centre.x, centre.y - kCrossHairReach }, { centre.x, centre.y + kCrossHairReach });
+    platform::DrawLine(canvas, { centre.x - reach, centre.y }, { centre.x + reach, centre.y });
+    platform::DrawLine(canvas, { centre.x, centre.y - reach }, { centre.x, centre.y + reach });
 }
 
 }  // namespace
@@ -92,6 +93,7 @@ void PaintMap(Canvas* canvas) {
     painter.scale = view.pixelsPerMetre;
     ForgetScreenPlaces();
     PaintBackground(painter);
+    PaintToolPreview(&painter);
     if (!model::state.airport) return;
     painter.network = BuildTaxiNetwork();
     PaintGround(&painter);

@@ -30,7 +30,9 @@ constexpr int kLabelHeight = 13, kLabelGap = 3;  // pixels
 
 constexpr uint8_t kNotDmeOnly = 0x01;
 
-double SymbolReach(double metres) { return std::max(ScaledPixels(metres), kLeastSymbol); }
+double SymbolReach(double metres) {
+    return std::max(double(ScaledPixels(metres)), std::floor(FromScreen(kLeastSymbol)));
+}
 
 std::vector<Pixel> ToPixels(std::span<const Point> points) {
     std::vector<Pixel> pixels;
@@ -44,7 +46,7 @@ void PaintIdent(const Painter& painter, uint32_t packed, Point at, double radius
     const std::string text = model::UnpackIdent(packed >> model::kIdentShift);
     platform::TextRun run;
     run.text = text;
-    run.at = ToPixel(at + Point{ radius + kLabelGap, 0 });
+    run.at = ToPixel(at + Point{ radius + FromScreen(kLabelGap), 0 });
     run.alignY = platform::AlignY::Middle;
     run.height = kLabelHeight;
     run.bold = true;
@@ -116,8 +118,8 @@ void PaintLocalizer(const Painter& painter, const model::IlsPayload& ils, bool s
     const Course course = CourseOf(ils, selected);
     PaintBeam(painter, ils, course, selected, parts);
     const GroundFrame frame = { course.antenna, course.right, course.along, painter.scale };
-    const double half = std::max(kAntennaHalf, kLeastSymbol / painter.scale);
-    const double depth = std::max(kAntennaDepth, 2 / painter.scale);
+    const double half = std::max(kAntennaHalf, FromScreen(kLeastSymbol) / painter.scale);
+    const double depth = std::max(kAntennaDepth, FromScreen(2) / painter.scale);
     const auto row = Rectangle(frame, -half, half, -depth, depth);
     if (!Meets(BoundsOf(row), painter.clip)) return;
     parts->localizer = ToPixels(row);
@@ -186,7 +188,7 @@ void PaintMarkerBeacon(const Painter& painter, SceneryObject* object) {
     run.alignY = platform::AlignY::Middle;
     run.height = kLabelHeight;
     run.colour = OutlineInk(object, Ink::Navaid);
-    if (width * 2 >= kLabelHeight) platform::DrawText(painter.canvas, run);
+    if (width * 2 >= FromScreen(kLabelHeight)) platform::DrawText(painter.canvas, run);
 }
 
 // Rings of dots around a middle dot.

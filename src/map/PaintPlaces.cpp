@@ -22,10 +22,9 @@ constexpr double kTowerRadius = 12;
 constexpr int kLeastTower = 8;
 constexpr double kStartRadius = 12;
 constexpr int kLeastStart = 6;
-constexpr int kMarkerRadius = 5;                  // pixels at any zoom: a view aid, not a thing on the ground
-constexpr int kFaultRadius = 16, kFaultTick = 7;  // pixels
+constexpr int kMarkerRadius = 5;  // pixels at any zoom: a view aid, not a thing on the ground
 
-int SymbolRadius(double metres, int least) { return std::max(ScaledPixels(metres), least); }
+int SymbolRadius(double metres, int least) { return std::max(ScaledPixels(metres), ToWhole(FromScreen(least))); }
 
 // True, with its place stored, when the symbol lies on the page.
 bool PlaceSymbol(const Painter& painter, SceneryObject* object, int radius, Point* at) {
@@ -95,11 +94,12 @@ void PaintStartLocations(Painter* painter) {
 void PaintReferenceMarkers(Painter* painter) {
     ForEachOfKind(model::kReferenceMarker, [&](SceneryObject* marker) {
         Point at;
-        if (!PlaceSymbol(*painter, marker, kMarkerRadius, &at)) return;
+        const double radius = FromScreen(kMarkerRadius);
+        if (!PlaceSymbol(*painter, marker, ToWhole(radius), &at)) return;
         Stroke(*painter, 1, FillInk(marker, Ink::Marker));
-        FillCircle(painter->canvas, at, kMarkerRadius - 2);
-        StrokeLine(painter->canvas, at - Point{ kMarkerRadius, 0 }, at + Point{ kMarkerRadius, 0 });
-        StrokeLine(painter->canvas, at - Point{ 0, kMarkerRadius }, at + Point{ 0, kMarkerRadius });
+        FillCircle(painter->canvas, at, FromScreen(kMarkerRadius - 2));
+        StrokeLine(painter->canvas, at - Point{ radius, 0 }, at + Point{ radius, 0 });
+        StrokeLine(painter->canvas, at - Point{ 0, radius }, at + Point{ 0, radius });
     });
 }
 
@@ -119,11 +119,12 @@ void PaintGuidelines(Painter* painter) {
 void PaintFaultMarker(Painter* painter) {
     if (!faultMarker.shown) return;
     const Point at = WorldToScreen(faultMarker.position);
-    if (!Meets(BoundsOf(at, kFaultRadius + kFaultTick), painter->clip)) return;
+    const double radius = FromScreen(kFaultRadius), reach = radius + FromScreen(kFaultTick);
+    if (!Meets(BoundsOf(at, reach), painter->clip)) return;
     Stroke(*painter, 3, InkOf(Ink::FaultMarker));
-    FillCircle(painter->canvas, at, kFaultRadius);
+    FillCircle(painter->canvas, at, radius);
     for (const Point side : { Point{ 1, 0 }, Point{ 0, 1 }, Point{ -1, 0 }, Point{ 0, -1 } }) {
-        StrokeLine(painter->canvas, at + side * kFaultRadius, at + side * (kFaultRadius + kFaultTick));
+        StrokeLine(painter->canvas, at + side * radius, at + side * reach);
     }
 }
 

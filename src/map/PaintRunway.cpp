@@ -43,6 +43,10 @@ void SelectPavement(const Painter& painter, Colour colour) {
     Fill(painter, colour, Blend(colour, InkOf(Ink::RunwayBorder), kBorderShare));
 }
 
+void FillIfOnPage(const Painter& painter, std::span<const Point> figure) {
+    if (Meets(BoundsOf(figure), painter.clip)) FillPolygon(painter.canvas, figure);
+}
+
 // Yellow arms that spread away from the runway, pavement that must not be used.
 void PaintChevrons(const Painter& painter, const RunwayEnd& end, std::span<const Point> pad) {
     Outline outline;
@@ -57,9 +61,9 @@ void PaintChevrons(const Painter& painter, const RunwayEnd& end, std::span<const
     Stroke(painter, ScaledPixels(kChevronStroke), colour);
     const double half = end.blastPadWidth / 2;
     for (double at = kChevronStep / 2; at < end.blastPad; at += kChevronStep) {
-        const Point apex = At(end.frame, 0, -at);
-        StrokeLine(painter.canvas, apex, At(end.frame, -half, -at - half));
-        StrokeLine(painter.canvas, apex, At(end.frame, half, -at - half));
+        const std::array arms = { At(end.frame, -half, -at - half), At(end.frame, 0, -at),
+                                  At(end.frame, half, -at - half) };
+        if (Meets(BoundsOf(arms), painter.clip)) StrokeLines(painter.canvas, arms);
     }
     platform::PopClip(painter.canvas);
 }
@@ -68,12 +72,12 @@ void PaintEnd(const Painter& painter, const RunwayShape& runway, const RunwayEnd
     const double half = runway.width / 2;
     if (end.displaced > 0 && !selected) {
         SelectPavement(painter, RunwayColour(end.displacedSurface));
-        FillPolygon(painter.canvas, Rectangle(end.frame, -half, half, 0, end.displaced));
+        FillIfOnPage(painter, Rectangle(end.frame, -half, half, 0, end.displaced));
     }
     if (end.overrun > 0) {
         const double beside = end.overrunWidth / 2;
         SelectPavement(painter, selected ? InkOf(Ink::SelectedFill) : RunwayColour(end.overrunSurface));
-        FillPolygon(painter.canvas, Rectangle(end.frame, -beside, beside, -end.overrun, 0));
+        FillIfOnPage(painter, Rectangle(end.frame, -beside, beside, -end.overrun, 0));
     }
     if (end.blastPad <= 0) return;
     const auto pad = Rectangle(end.frame, -end.blastPadWidth / 2, end.blastPadWidth / 2, -end.blastPad, 0);
@@ -101,7 +105,7 @@ void PaintSurface(const Painter& painter, SceneryObject* object) {
         Fill(painter, InkOf(Ink::SelectedFill), InkOf(Ink::SelectedOutline));
     else
         SelectPavement(painter, RunwayColour(runway.surface));
-    FillPolygon(painter.canvas, runway.corners);
+    FillIfOnPage(painter, runway.corners);
     for (const RunwayEnd& end : runway.ends) PaintEnd(painter, runway, end, selected);
 }
 

@@ -137,7 +137,7 @@ void PaintTurnHandle(const Painter& painter, const SceneryObject* object) {
 // While the selection is moved the handles are out of the way.
 void PaintHandles(const Painter& painter) {
     const PointerDrag drag = CurrentPointerDrag();
-    if (tools.tool != Tool::Pointer || drag == PointerDrag::Move || drag == PointerDrag::Reattach) return;
+    if (tools.toolMode != Tool::Pointer || drag == PointerDrag::Move || drag == PointerDrag::Reattach) return;
     for (const SceneryObject* object : TurnableObjects()) PaintTurnHandle(painter, object);
     const SceneryObject* link = OnlySelectedLink();
     Point nearStart, nearEnd;
@@ -147,6 +147,20 @@ void PaintHandles(const Painter& painter) {
 }
 
 }  // namespace
+
+// The area of the apron under construction lies beneath everything, as it will once it is closed; so do the lamps of the
+// strip that is pulled.
+void PaintToolPreview(Painter* painter) {
+    std::vector<Point> corners;
+    for (const LatLon& corner : tools.outline) corners.push_back(WorldToScreen(corner));
+    if (CanCloseOutline() && Meets(BoundsOf(corners), painter->clip)) {
+        Fill(*painter, ApronColour(kNewApronSurface), InkOf(Ink::ApronOutline));
+        FillPolygon(painter->canvas, corners);
+    }
+    const StripDrag& strip = CurrentStripDrag();
+    if (strip.active && strip.hasTo)
+        PaintStripLamps(*painter, WorldToScreen(strip.from), WorldToScreen(strip.to), strip.spacing);
+}
 
 void PaintToolFeedback(Canvas* canvas) {
     if (!model::state.airport) return;

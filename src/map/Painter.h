@@ -27,6 +27,7 @@ template <class Paint>
 void ForEachOfKind(uint32_t kind, Paint paint);
 
 // Layers.
+void PaintToolPreview(Painter* painter);  // of the two tools that show on the ground what they will make
 void PaintAprons(Painter* painter);
 void PaintSelectedAprons(Painter* painter);
 void PaintGrid(Painter* painter);
@@ -49,6 +50,8 @@ void PaintApronEdgeLights(Painter* painter);
 void PaintReferenceMarkers(Painter* painter);
 void PaintGuidelines(Painter* painter);
 void PaintFaultMarker(Painter* painter);
+
+void PaintStripLamps(const Painter& painter, Point from, Point to, double spacing);  // metres between them
 
 }  // namespace map
 

@@ -30,11 +30,15 @@ bool PlaceUnder(Pixel at, LatLon* place) {
     return IsPlaceable(place);
 }
 
-bool IsTowerPlaced(const model::SceneryObject* tower) {
+bool StandsNowhere(const model::SceneryObject* tower) {
     const auto& record = model::PayloadAs<model::TowerViewpointRecord>(tower);
-    const bool placeholder =
-        record.longitude == model::kPlaceholderLongitude && record.latitude == model::kPlaceholderLatitude;
-    return !placeholder && record.altitude != 0;
+    const bool isZero = record.longitude == 0 && record.latitude == 0 && record.altitude == 0;
+    return isZero ||
+           (record.longitude == model::kPlaceholderLongitude && record.latitude == model::kPlaceholderLatitude);
+}
+
+bool IsTowerPlaced(const model::SceneryObject* tower) {
+    return !StandsNowhere(tower) && model::PayloadAs<model::TowerViewpointRecord>(tower).altitude != 0;
 }
 
 bool IsDrag(Pixel from, Pixel to) {

@@ -18,7 +18,11 @@ model::EncodedPoint Encode(model::LatLon place);
 // The place under the pixel; false when there is none on earth.
 bool PlaceUnder(model::Pixel at, model::LatLon* place);
 
-// Whether the tower stands somewhere, so that it is drawn.
+// Whether the tower has no place: that of a new airport stands at the placeholder, and compiled files without a tower
+// hold zeros.
+bool StandsNowhere(const model::SceneryObject* tower);
+
+// Whether the tower stands somewhere and has an elevation, so that it is drawn.
 bool IsTowerPlaced(const model::SceneryObject* tower);
 
 // At least kDragThreshold pixels apart in x or y.

@@ -26,6 +26,8 @@ constexpr double kInch = 1, kInchInCentimetres = 2.54;
 constexpr double kSheetTolerance = 0.05;  // paper units: drivers round their papers
 constexpr double kPenOnGround = 3.048;    // metres: ten feet
 constexpr int kWidestPen = 3;
+constexpr double kLeastFineness = 0.01;  // of a sample of the page
+constexpr int32_t kMostPerInch = 100000;
 constexpr double kScreenPixelsPerInch = 96, kPointsPerInch = 72;
 constexpr int kTitlePoints = 10;
 constexpr platform::Pixel kTitlePlace = { 8, 5 };
@@ -100,7 +102,7 @@ void ViewPage(const PrintPage& page) {
     view.screenCentreY = HeightOf(page) / 2.0;
     view.pixelsPerMetre = page.pixelsPerMetre;
     view.span = view.clientHeight / page.pixelsPerMetre;
-    view.fineness = std::max(1.0, page.textScale);
+    view.fineness = std::max(kLeastFineness, page.textScale);
 }
 
 void PaintTitle(platform::Canvas* canvas, const PrintPage& page, const PrintSettings& settings) {
@@ -147,6 +149,15 @@ void FitPrintScale(PrintSettings* settings) {
     if (!settings->fitPage) return;
     const Extent room = RoomOn(settings->paper), ground = GroundShown();
     settings->printScale = WithinScales(std::max(ground.width / room.width, ground.height / room.height));
+}
+
+PrintDevice SampleDevice(const Paper& paper, int32_t width, int32_t height) {
+    PrintDevice device;
+    device.sheetWidth = device.width = width;
+    device.sheetHeight = device.height = height;
+    device.perInchX = Whole(width / paper.width * UnitsPerInch(paper), kMostPerInch);
+    device.perInchY = Whole(height / paper.height * UnitsPerInch(paper), kMostPerInch);
+    return device;
 }
 
 PrintPage PlanPage(const PrintSettings& settings, const PrintDevice& device) {

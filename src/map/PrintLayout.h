@@ -25,7 +25,7 @@ struct PrintSettings {
     bool printBorder = false, printTitle = false;
     double printScale = kLeastPrintScale;
     bool fitPage = true;         // the scale follows the view and the paper
-    bool pageSetupDone = false;  // the paper is known: asked of the user, or of the default printer
+    bool pageSetupDone = false;  // the page setup was shown; before, the paper is that of the default printer
     Paper paper;
 };
 
@@ -62,6 +62,9 @@ void TakeSheetOf(const PrintDevice& device, Paper* paper);
 
 // While fitPage is set: the smallest scale at which everything that the view shows is on the page.
 void FitPrintScale(PrintSettings* settings);
+
+// A sheet shown on the screen is a printer with few pixels.
+PrintDevice SampleDevice(const Paper& paper, int32_t width, int32_t height);
 
 PrintPage PlanPage(const PrintSettings& settings, const PrintDevice& device);
 bool IsEmpty(const PrintPage& page);

@@ -56,8 +56,11 @@ bool IsOnRunway(const RunwayAreas& runways, Point point) {
 }
 
 std::vector<std::pair<Point, Point>> OutsideRunways(const RunwayAreas& runways, Point from, Point to) {
+    const std::array ends = { from, to };
+    const Box box = BoundsOf(ends);
     std::vector<Span> hidden;
     for (const auto& area : runways) {
+        if (!Meets(BoundsOf(area), box)) continue;
         const Span inside = InsideOf(area, from, to);
         if (inside.first < inside.second) hidden.push_back(inside);
     }

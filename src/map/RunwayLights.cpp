@@ -67,11 +67,17 @@ void Row(const Lamps& lamps, const RunwayShape& runway, const GroundFrame& frame
     PaintLampWings(lamps, frame, half - kEndSpacing * (lights - 1), kEndSpacing, near, lights, ink);
 }
 
+// The approach lights' own bar takes the place of the runway's green lights.
+bool HasThresholdBar(const RunwayEnd& end) {
+    return ApproachSystemOf(end.approachLights & kApproachSystemMask).thresholdBar;
+}
+
 // Red lights end the runway; green ones, outside them, mark the threshold for those who arrive. Aircraft roll over
 // a displaced threshold: its green lights stand beside the runway.
 void EndLights(const Lamps& lamps, const RunwayShape& runway, const RunwayEnd& end) {
     const int group = end.approachLights & kApproachSystemMask ? kPrecisionEndGroup : kEndGroup;
     Row(lamps, runway, end.frame, -kEndOffset, group, Ink::LightRed);
+    if (HasThresholdBar(end)) return;
     if (end.displaced > 0)
         PaintLampWings(lamps, end.frame, runway.width / 2 + kEdgeOffset, kEndSpacing, end.displaced, group,
                        Ink::LightGreen);
@@ -99,7 +105,7 @@ void PaintLightsOf(Canvas* canvas, const RunwayShape& runway) {
     for (const RunwayEnd& end : runway.ends) {
         if (end.approachLights & kTouchdownLights) TouchdownZone(lamps, runway, end);
         if (runway.lights & kEdgeLights) EndLights(lamps, runway, end);
-        if (end.approachLights & kGreenEndRow)
+        if ((end.approachLights & kGreenEndRow) && !HasThresholdBar(end))
             Row(lamps, runway, end.frame, end.displaced - kThresholdOffset, 0, Ink::LightGreen);
     }
 }

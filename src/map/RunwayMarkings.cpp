@@ -36,6 +36,8 @@ constexpr double kZoneMiddle = Feet(900);          // kept free of touchdown mar
 constexpr int kZoneBars[] = { 3, 0, 2, 2, 1, 1 };  // at each step; the aiming point is at the second
 constexpr double kDashLength = Feet(120), kDashGap = Feet(80);
 constexpr double kArrowLength = Feet(120), kArrowGap = Feet(80), kArrowHead = Feet(45), kArrowHeadWidth = Feet(15);
+constexpr double kHeadRoom = Feet(25);  // of the runway's width for each head of the row before a displaced threshold
+constexpr int kMostHeads = 4;
 constexpr double kThresholdBar = Feet(10);
 constexpr double kCrossArm = Feet(30), kCrossStroke = Feet(10);
 constexpr double kFaintest = 0.3;     // share of the paint in the thinnest line
@@ -45,6 +47,7 @@ struct MarkPainter {
     Canvas* canvas;
     const RunwayShape* runway;
     Colour ground;
+    Box clip;
 };
 
 Colour Paint(const MarkPainter& marks, Ink ink, double metres) {
@@ -55,12 +58,14 @@ Colour Paint(const MarkPainter& marks, Ink ink, double metres) {
 // A painted rectangle in the frame of one end.
 void Bar(const MarkPainter& marks, const GroundFrame& frame, double left, double right, double near, double far,
          Ink ink = Ink::RunwayMarking) {
+    const auto corners = Rectangle(frame, left, right, near, far);
+    if (!Meets(BoundsOf(corners), marks.clip)) return;
     const double thin = std::min(right - left, far - near);
     const Colour colour = Paint(marks, ink, thin);
     if (thin * view.pixelsPerMetre >= 1) {
         platform::SetPen(marks.canvas, platform::kNoPen, 0);
         platform::SetBrush(marks.canvas, colour);
-        FillPolygon(marks.canvas, Rectangle(frame, left, right, near, far));
+        FillPolygon(marks.canvas, corners);
         return;
     }
     platform::SetPen(marks.canvas, 1, colour);
@@ -101,6 +106,7 @@ void ThresholdStripes(const MarkPainter& marks, const RunwayEnd& end) {
 
 void PaintGlyphs(const MarkPainter& marks, const Outline& glyphs, double size) {
     if (kGlyphHeight * size * view.pixelsPerMetre < kSmallestGlyph) return;
+    if (glyphs.points.empty() || !Meets(BoundsOf(glyphs.points), marks.clip)) return;
     platform::SetPen(marks.canvas, platform::kNoPen, 0);
     platform::SetBrush(marks.canvas, Paint(marks, Ink::RunwayMarking, Feet(5) * size));
     FillOutline(marks.canvas, glyphs);
@@ -157,6 +163,7 @@ void ArrowHead(const MarkPainter& marks, const RunwayEnd& end, double across, do
     const std::array corners = { At(end.frame, across, tip),
                                  At(end.frame, across + kArrowHeadWidth / 2, tip - kArrowHead),
                                  At(end.frame, across - kArrowHeadWidth / 2, tip - kArrowHead) };
+    if (!Meets(BoundsOf(corners), marks.clip)) return;
     platform::SetPen(marks.canvas, platform::kNoPen, 0);
     platform::SetBrush(marks.canvas, Paint(marks, Ink::RunwayMarking, kArrowHeadWidth / 2));
     FillPolygon(marks.canvas, corners);
@@ -169,7 +176,8 @@ void DisplacedThreshold(const MarkPainter& marks, const RunwayEnd& end) {
     Bar(marks, end.frame, -half, half, bar, end.displaced);
     double tip = bar - Feet(5);
     if (tip < kArrowHead) return;
-    for (const double share : { -0.75, -0.375, 0.375, 0.75 }) ArrowHead(marks, end, half * share, tip);
+    const int heads = std::clamp(static_cast<int>(std::lround(2 * half / kHeadRoom)), 1, kMostHeads);
+    for (int i = 0; i < heads; ++i) ArrowHead(marks, end, half * ((2 * i + 1.0) / heads - 1), tip);
     tip -= kArrowHead + kArrowGap / 2;
     for (; tip >= kArrowLength; tip -= kArrowLength + kArrowGap) {
         ArrowHead(marks, end, 0, tip);
@@ -177,11 +185,13 @@ void DisplacedThreshold(const MarkPainter& marks, const RunwayEnd& end) {
     }
 }
 
-// A closed end's cross, over whatever else is painted there.
+// A closed end's cross, on its designation or where that would be.
 void ClosedCross(const MarkPainter& marks, const RunwayEnd& end) {
     const double arm = std::min(kCrossArm, marks.runway->width * 0.4), half = kCrossStroke * arm / kCrossArm / 2;
-    const GroundFrame middle = { At(end.frame, 0, end.displaced + kStripeStart + kStripeLength / 2), end.frame.right,
-                                 end.frame.ahead, end.frame.scale };
+    const double start = marks.runway->marks & kThresholdStripes ? kStripeStart + kStripeLength + kDesignationGap
+                                                                 : kPlainDesignationStart;
+    const double near = std::min(end.displaced + start + kGlyphHeight / 2, marks.runway->length / 2);
+    const GroundFrame middle = { At(end.frame, 0, near), end.frame.right, end.frame.ahead, end.frame.scale };
     for (const double turn : { 1.0, -1.0 }) {
         GroundFrame stroke = middle;
         stroke.ahead = (middle.ahead + middle.right * turn) * std::sqrt(0.5);
@@ -249,7 +259,7 @@ void PaintMarkingsOf(Canvas* canvas, const RunwayShape& runway, Colour ground) {
     Close(&outline);
     const platform::Path clip = PathOf(outline);
     if (clip.steps.empty() || runway.length <= 0 || runway.width <= 0) return;
-    const MarkPainter marks = { canvas, &runway, ground };
+    const MarkPainter marks = { canvas, &runway, ground, ClipBox() };
     platform::PushClip(canvas, clip);
     if (runway.marks & kEdgeLines) EdgeLines(marks);
     const double primaryStart = MarkEnd(marks, runway.ends[0]), secondaryStart = MarkEnd(marks, runway.ends[1]);

@@ -20,12 +20,12 @@ constexpr int kNameHeight = 14, kNameDistance = 4;  // pixels
 
 bool IsPaintReadable(const RunwayShape& runway, const RunwayEnd& end) {
     if (!(runway.marks & kDesignation) || !end.marked) return false;
-    return DesignationSize(runway.width) * kGlyphHeight * view.pixelsPerMetre >= kReadableGlyph;
+    return DesignationSize(runway.width) * kGlyphHeight * view.pixelsPerMetre >= FromScreen(kReadableGlyph);
 }
 
 void PaintName(Canvas* canvas, const RunwayEnd& end) {
-    const Point at = At(end.frame, 0, -PavedReach(end)) - end.frame.ahead * kNameDistance;
-    if (!Meets(BoundsOf(at, 3 * kNameHeight), ClipBox())) return;
+    const Point at = At(end.frame, 0, -PavedReach(end)) - end.frame.ahead * FromScreen(kNameDistance);
+    if (!Meets(BoundsOf(at, FromScreen(3 * kNameHeight)), ClipBox())) return;
     const std::string name = model::RunwayEndName(end.number, end.designator);
     platform::TextRun run;
     run.text = name;
@@ -41,7 +41,7 @@ void PaintName(Canvas* canvas, const RunwayEnd& end) {
 }  // namespace
 
 void PaintNamesOf(Canvas* canvas, const RunwayShape& runway) {
-    if (runway.length * view.pixelsPerMetre < kShortestRunway) return;
+    if (runway.length * view.pixelsPerMetre < FromScreen(kShortestRunway)) return;
     for (const RunwayEnd& end : runway.ends) {
         if (!IsPaintReadable(runway, end)) PaintName(canvas, end);
     }

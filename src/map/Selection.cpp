@@ -5,7 +5,9 @@
 #include "map/Selection.h"
 
 #include "map/ApronShape.h"
+#include "map/FaultMarker.h"
 #include "map/LightStrips.h"
+#include "map/MapView.h"
 #include "model/ObjectList.h"
 #include "model/Records.h"
 #include "platform/Platform.h"
@@ -20,6 +22,8 @@ using model::PayloadAs;
 using model::SceneryObject;
 
 namespace {
+
+constexpr int kFaultReach = 3;  // pixels inside the ring that still count as the ring
 
 void SetFlag(SceneryObject* object, uint32_t flag, bool set) {
     object->flags = set ? object->flags | flag : object->flags & ~flag;
@@ -84,12 +88,29 @@ bool IsLeftOut(const SceneryObject* object) {
     return kind == model::kNdb || kind == model::kVorDme || model::IsReplacedStock(object);
 }
 
+// The ring and its ticks; what lies inside it is the fault, not the marker.
+bool HitsFaultMarker(model::Pixel at) {
+    if (!faultMarker.shown) return false;
+    const model::Pixel middle = WorldToPixel(faultMarker.position);
+    return HitsCircle(at, middle, kFaultRadius + kFaultTick) && !HitsCircle(at, middle, kFaultRadius - kFaultReach);
+}
+
+// No object, so that it is asked for last. A click takes it away.
+bool TakeFaultMarker(model::Pixel at) {
+    if (!HitsFaultMarker(at)) return false;
+    faultMarker.shown = false;
+    return true;
+}
+
 }  // namespace
 
 void SelectAt(model::Pixel at, bool extend) {
     const Pick pick = PickObject(at);
-    const bool changed = !extend && DeselectAll();
-    if (pick.object) SelectPick(pick, extend);
+    bool changed = !extend && DeselectAll();
+    if (pick.object)
+        SelectPick(pick, extend);
+    else if (TakeFaultMarker(at))
+        changed = true;
     if (pick.object || changed) platform::RequestRepaint();
 }
 

@@ -21,7 +21,8 @@ struct Pick {
 
 Pick PickObject(model::Pixel at);
 
-// The pointer tool's click. Without `extend` (Shift or Ctrl held) everything else is deselected first.
+// The pointer tool's click. Without `extend` (Shift or Ctrl held) everything else is deselected first. Where no object is
+// hit, a click on the ring of the fault marker hides it.
 void SelectAt(model::Pixel at, bool extend);
 
 // Whether the object is still one of the airport's.

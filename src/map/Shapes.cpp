@@ -144,11 +144,9 @@ int ScaledPixels(double metres) {
     return std::clamp(ToWhole(metres * view.pixelsPerMetre + 0.5), 1, kMost);
 }
 
-Point operator+(Point a, Point b) { return { a.x + b.x, a.y + b.y }; }
-Point operator-(Point a, Point b) { return { a.x - b.x, a.y - b.y }; }
-Point operator*(Point a, double factor) { return { a.x * factor, a.y * factor }; }
+double FromScreen(double pixels) { return pixels * view.fineness; }
+
 double Length(Point a) { return std::sqrt(a.x * a.x + a.y * a.y); }
-Point TurnedRight(Point a) { return { -a.y, a.x }; }
 
 Point HeadingOnScreen(double heading) {
     return { std::sin(heading - view.rotation), -std::cos(heading - view.rotation) };

@@ -26,11 +26,15 @@ Pixel ToPixel(Point point);
 // Metres at the scale of the view in whole pixels: half added and truncated, at least 1.
 int ScaledPixels(double metres);
 
-Point operator+(Point a, Point b);
-Point operator-(Point a, Point b);
-Point operator*(Point a, double factor);
+// What is so many pixels long on a screen, on the page that is painted: the same there, more on a fine printer.
+double FromScreen(double pixels);
+
+// Inline: they are most of what a paint computes.
+constexpr Point operator+(Point a, Point b) { return { a.x + b.x, a.y + b.y }; }
+constexpr Point operator-(Point a, Point b) { return { a.x - b.x, a.y - b.y }; }
+constexpr Point operator*(Point a, double factor) { return { a.x * factor, a.y * factor }; }
+constexpr Point TurnedRight(Point a) { return { -a.y, a.x }; }  // by a quarter turn, as seen on the screen
 double Length(Point a);
-Point TurnedRight(Point a);             // by a quarter turn, as seen on the screen
 Point HeadingOnScreen(double heading);  // unit vector of a true heading (radians) at the view's rotation
 
 struct Box {

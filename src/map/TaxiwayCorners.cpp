@@ -14,10 +14,12 @@ namespace map {
 
 namespace {
 
-constexpr double kFilletRadius = 1.2;                   // of the two half widths together
-constexpr double kTaperLength = 4;                      // of the difference in half width
-constexpr double kRoomShared = 0.5, kRoomAlone = 0.75;  // of a link, for the corners at one of its ends
-constexpr double kFarthestCrossing = 2;                 // of the two half widths together, behind the hub
+constexpr double kFilletRadius = 1.2;    // of the two half widths together
+constexpr double kTaperLength = 4;       // of the difference in half width
+constexpr double kRoomShared = 0.5;      // of a link, for the corners at one of its ends
+constexpr double kRoomAlone = 0.75;      // the same where no junction needs room at the other end
+constexpr double kRoomThrough = 1;       // and where the taxiway runs straight on there
+constexpr double kFarthestCrossing = 2;  // of the two half widths together, behind the hub
 constexpr double kRoundCap = 1.55 * model::kPi;
 constexpr double kStraight = 0.02;  // sine of the gap below which the edges count as parallel
 
@@ -135,20 +137,32 @@ void Inset(Corner* corner, const Edge& a, const Edge& b, double inset) {
     if (std::abs(sine) > kStraight) control = Crossing(control, a.along, corner->control[0] - byA + byB, b.along);
 }
 
+// Only two arms, straight on and of one width, as at a hold-short node: no corner is made there.
+bool RunsStraightOn(const TaxiNetwork& network, const TaxiHub& hub) {
+    if (hub.edgeArms != 2) return false;
+    const TaxiArm &a = network.arms[hub.firstArm], &b = network.arms[hub.firstArm + 1];
+    const double sine = a.along.x * b.along.y - a.along.y * b.along.x;
+    const double cosine = a.along.x * b.along.x + a.along.y * b.along.y;
+    return cosine < 0 && std::abs(sine) < kStraight && std::abs(a.half - b.half) < kStraight * a.half;
+}
+
+double RoomShare(const TaxiNetwork& network, const TaxiHub& far) {
+    if (RunsStraightOn(network, far)) return kRoomThrough;
+    return far.edgeArms <= 2 ? kRoomAlone : kRoomShared;
+}
+
 }  // namespace
 
 void LayCorners(TaxiNetwork* network, double inset) {
     const auto edgeOf = [&](const TaxiArm& arm, double sign) {
         const TaxiSegment& segment = network->segments[arm.link];
         const TaxiHub& far = network->hubs[arm.atStart ? segment.endHub : segment.startHub];
-        // Where the taxiway just runs on at its other end, there is more room than half.
-        const double share = far.edgeArms <= 2 ? kRoomAlone : kRoomShared;
         return Edge{ .hub = network->hubs[arm.hub].at,
                      .along = arm.along,
                      .side = TurnedRight(arm.along) * (arm.half * sign),
                      .half = arm.half,
                      .length = arm.length,
-                     .room = arm.length * share };
+                     .room = arm.length * RoomShare(*network, far) };
     };
     for (const TaxiHub& hub : network->hubs) {
         for (uint32_t i = 0; hub.inView && i < hub.edgeArms; ++i) {

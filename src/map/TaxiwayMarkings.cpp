@@ -62,6 +62,8 @@ struct EdgePainter {
 };
 
 void StrokeEdge(const EdgePainter& edges, Point from, Point to) {
+    const std::array ends = { from, to };
+    if (!Meets(BoundsOf(ends), edges.painter->clip)) return;
     for (const auto& [begin, end] : OutsideRunways(*edges.runways, from, to)) {
         StrokeIfOnPage(*edges.painter, begin, end);
     }

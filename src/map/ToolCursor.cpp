@@ -34,7 +34,7 @@ CursorShape OfPointer(Pixel at) {
 CursorShape CursorAt(Pixel at) {
     if (tools.panning) return CursorShape::Hand;
     if (!model::state.airport || view.lockedToSim) return CursorShape::Arrow;
-    switch (tools.tool) {
+    switch (tools.toolMode) {
     case Tool::Nodes: return CursorShape::Node;
     case Tool::Links: return CursorShape::Link;
     case Tool::Parking: return CursorShape::Parking;

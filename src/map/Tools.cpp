@@ -29,13 +29,16 @@ namespace {
 
 constexpr int32_t kScrollEdge = 12;  // pixels from the edge of the map
 
-// Nothing is made unseen.
-void ShowNetwork() {
-    if (!layers.network) platform::RequestRepaint();
-    layers.network = true;
+void Show(bool* layer) {
+    if (!*layer) platform::RequestRepaint();
+    *layer = true;
 }
 
-bool MakesNetwork(Tool tool) { return tool == Tool::Nodes || tool == Tool::Links || tool == Tool::Parking; }
+// Nothing is made unseen.
+void ShowLayerOf(Tool tool) {
+    if (tool == Tool::Nodes || tool == Tool::Links || tool == Tool::Parking) Show(&layers.network);
+    if (tool == Tool::EdgeLights) Show(&layers.lights);
+}
 
 void PressNodes(Pixel at, KeyState) {
     LatLon position;
@@ -88,7 +91,7 @@ constexpr std::array<ToolRow, 9> kTools = { {
     { PressGuidelines, FollowGuideline, FinishGuideline, CancelGuideline, true },
 } };
 
-const ToolRow& Row() { return kTools[static_cast<size_t>(tools.tool)]; }
+const ToolRow& Row() { return kTools[static_cast<size_t>(tools.toolMode)]; }
 
 void EndPress() {
     if (tools.pressed && Row().drags) StopDragTimer();
@@ -117,12 +120,8 @@ bool Scroll() {
 void SetTool(Tool tool) {
     CancelDrag();
     if (tool != Tool::Apron) DropOutline();
-    if (tool == Tool::EdgeLights && !layers.lights) {  // what is being placed must be seen
-        layers.lights = true;
-        platform::RequestRepaint();
-    }
-    if (MakesNetwork(tool)) ShowNetwork();
-    tools.tool = tool;
+    ShowLayerOf(tool);
+    tools.toolMode = tool;
     RequestFeedback();  // the handles belong to the pointer
 }
 
@@ -134,7 +133,7 @@ void ResetTools() {
     EndPress();
     model::state.busy = false;
     tools.outline.clear();
-    tools.tool = Tool::Pointer;
+    tools.toolMode = Tool::Pointer;
     tools.panning = tools.hasClick = false;
     layers.highlightedDesignator = nullptr;
 }
@@ -148,7 +147,7 @@ void OnButtonDown(Pixel at, KeyState keys) {
     tools.press = at;
     tools.hasClick = true;
     tools.lastClick = UnderPixel(at);
-    if (MakesNetwork(tools.tool)) ShowNetwork();  // it may have been hidden since
+    ShowLayerOf(tools.toolMode);  // it may have been hidden since
     if (Row().drags) StartDragTimer();
     Row().press(at, keys);
 }
@@ -157,8 +156,8 @@ void OnMouseMove(Pixel at, KeyState) {
     tools.cursor = at;
     if (tools.panning) PanDrag(at);
     if (tools.pressed) Follow(at);
-    if (tools.tool == Tool::Apron && HasOutline()) RequestFeedback();
-    if (tools.tool == Tool::Pointer && !tools.pressed) MoveHandle();
+    if (tools.toolMode == Tool::Apron && HasOutline()) RequestFeedback();
+    if (tools.toolMode == Tool::Pointer && !tools.pressed) MoveHandle();
 }
 
 void OnButtonUp(Pixel at, KeyState) {
@@ -171,9 +170,9 @@ void OnButtonUp(Pixel at, KeyState) {
 void OnDoubleClick(Pixel at, KeyState keys) {
     tools.cursor = at;
     if (view.lockedToSim || !model::state.airport) return;
-    if (tools.tool == Tool::Apron) return CloseOutline();
+    if (tools.toolMode == Tool::Apron) return CloseOutline();
     if (!Row().drags) return;  // the first press has made what was wanted
-    const Pick pick = tools.tool == Tool::Pointer ? PickObject(at) : Pick{};
+    const Pick pick = tools.toolMode == Tool::Pointer ? PickObject(at) : Pick{};
     if (!pick.object) return OnButtonDown(at, keys);
     CancelDrag();
     OpenProperties(pick.object);

@@ -29,7 +29,7 @@ enum class Tool : int {
 constexpr int kDragThreshold = 3;  // pixels in x or y that make a press a drag
 
 struct ToolState {
-    Tool tool = Tool::Pointer;
+    Tool toolMode = Tool::Pointer;
     uint8_t nodeKind = 1;                   // 1 normal, 2 hold-short, 4 ILS hold-short
     uint32_t linkKind = 1;                  // 1 normal, 2 runway, 4 apron, 5 closed
     int lastParkingType = 9;                // code of the type of new parking spots; 9 Gate Medium

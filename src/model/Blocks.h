@@ -26,7 +26,8 @@ void* TakeFrom(BlockPool* pool, size_t size);
 void GiveTo(BlockPool* pool, void* block, size_t size);
 void ReleasePool(BlockPool* pool);
 
-// The pool of all objects. A block of `size` bytes, aligned for any field of an object, holding anything. It is given back with that size.
+// The pool of all objects. A block of `size` bytes, aligned for any field of an object, holding anything. It is given
+// back with that size.
 void* TakeBlock(size_t size);
 void GiveBlock(void* block, size_t size);
 

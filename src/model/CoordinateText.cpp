@@ -110,7 +110,8 @@ const char* ParseCoordinate(std::string_view text, const CoordinateRules& rules,
 }  // namespace
 
 CoordinateTexts FormatLatLon(LatLon position) {
-    return { FormatCoordinate(position.lat, 'N', 'S'), FormatCoordinate(position.lon, 'W', 'E') };
+    const double lon = std::remainder(position.lon, kTwoPi);  // the map goes on beyond the 180th meridian
+    return { FormatCoordinate(position.lat, 'N', 'S'), FormatCoordinate(lon, 'W', 'E') };
 }
 
 ParseResult ParseLatLon(const CoordinateTexts& entered, const CoordinateTexts& shown, LatLon* position,

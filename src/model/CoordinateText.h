@@ -12,7 +12,7 @@ struct CoordinateTexts {
 };
 
 // In the form of the setting latLongFormat: 1 N49.262533, 2 N49* 15.7521', 3 N49* 15' 45.12",
-// 4 N49:15.7521, any other N49:15:45.12.
+// 4 N49:15.7521, any other N49:15:45.12. A longitude beyond half a turn is shown where it lies.
 CoordinateTexts FormatLatLon(LatLon position);
 
 enum class ParseResult { Unchanged = 0, Changed = 1, Error = 2 };

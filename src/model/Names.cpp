@@ -3,6 +3,9 @@
 
 #include <iterator>
 
+#include "model/Records.h"
+#include "model/SceneryObject.h"
+
 namespace model {
 
 namespace {
@@ -46,6 +49,12 @@ std::string RunwayEndName(uint32_t number, uint32_t designator) {
     std::string name = lettered ? kLetteredNumbers[number - kFirstLettered] : std::to_string(number);
     if (designator < std::size(kSuffixes)) name += kSuffixes[designator];
     return name;
+}
+
+std::string RunwayName(const SceneryObject* runway) {
+    const RunwayRecord& body = PayloadAs<RunwayPayload>(runway).body;
+    return RunwayEndName(body.primaryNumber, body.primaryDesignator) + '/' +
+           RunwayEndName(body.secondaryNumber, body.secondaryDesignator);
 }
 
 }  // namespace model

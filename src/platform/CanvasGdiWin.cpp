@@ -160,6 +160,7 @@ HFONT FontFor(int height, bool bold, int tenths) {
     const HFONT handle =
         CreateFontW(height, 0, tenths, tenths, bold ? FW_BOLD : FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
                     OUT_TT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, VARIABLE_PITCH | FF_SWISS, L"Arial");
+    if (!handle) return static_cast<HFONT>(GetStockObject(DEFAULT_GUI_FONT));  // not kept: the next text tries again
     fonts.push_back({ height, bold, tenths, handle });
     return handle;
 }

@@ -59,6 +59,15 @@ void Fill(HWND dialog, int control, const Texts& texts) {
     for (const auto& text : texts) AddChoice(dialog, control, listBox ? LB_ADDSTRING : CB_ADDSTRING, text);
 }
 
+// F1 presses the Help button, wherever in the dialog the focus is.
+LRESULT CALLBACK HelpKeyProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
+    if (message == WM_NCDESTROY) RemoveWindowSubclass(dialog, HelpKeyProc, 0);
+    const HWND button = message == WM_HELP ? GetDlgItem(dialog, IDHELP) : nullptr;
+    if (!button) return DefSubclassProc(dialog, message, wParam, lParam);
+    SendMessageW(dialog, WM_COMMAND, IDHELP, reinterpret_cast<LPARAM>(button));
+    return TRUE;
+}
+
 }  // namespace
 
 INT_PTR RunDialog(int resource, DLGPROC procedure, void* data) {
@@ -121,18 +130,26 @@ bool DialogTookMessage(MSG* message) {
 
 void StartDialog(HWND dialog, LPARAM data) {
     SetWindowLongPtrW(dialog, DWLP_USER, data);
+    SetWindowSubclass(dialog, HelpKeyProc, 0, 0);
     HWND owner = GetWindow(dialog, GW_OWNER);
     if (!owner || IsIconic(owner)) owner = GetDesktopWindow();
     RECT over{}, own{};
     GetWindowRect(owner, &over);
     GetWindowRect(dialog, &own);
+    PlaceDialog(dialog, { (over.left + over.right - own.right + own.left) / 2,
+                          (over.top + over.bottom - own.bottom + own.top) / 2 });
+}
+
+void PlaceDialog(HWND dialog, POINT corner) {
+    RECT own{};
+    GetWindowRect(dialog, &own);
+    const LONG width = own.right - own.left, height = own.bottom - own.top;
+    const RECT there = { corner.x, corner.y, corner.x + width, corner.y + height };
     MONITORINFO screen{};
     screen.cbSize = sizeof screen;
-    GetMonitorInfoW(MonitorFromWindow(owner, MONITOR_DEFAULTTONEAREST), &screen);
-    const LONG width = own.right - own.left, height = own.bottom - own.top;
-    LONG x = (over.left + over.right - width) / 2, y = (over.top + over.bottom - height) / 2;
-    x = std::max(screen.rcWork.left, std::min(x, screen.rcWork.right - width));
-    y = std::max(screen.rcWork.top, std::min(y, screen.rcWork.bottom - height));
+    GetMonitorInfoW(MonitorFromRect(&there, MONITOR_DEFAULTTONEAREST), &screen);
+    const LONG x = std::max(screen.rcWork.left, std::min(corner.x, screen.rcWork.right - width));
+    const LONG y = std::max(screen.rcWork.top, std::min(corner.y, screen.rcWork.bottom - height));
     SetWindowPos(dialog, nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 

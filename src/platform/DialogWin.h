@@ -34,8 +34,11 @@ void UseKeys(HWND dialog, HACCEL keys);
 // The message loop asks first: whether the message was one for an open modeless dialog, which now has it.
 bool DialogTookMessage(MSG* message);
 
-// For WM_INITDIALOG: keeps the data pointer and places the dialog over the middle of its owner, on the screen.
+// For WM_INITDIALOG: keeps the data pointer and places the dialog over the middle of its owner, on the screen. F1 then
+// does what the button IDHELP does.
 void StartDialog(HWND dialog, LPARAM data);
+// Its upper left corner there, as far as the whole dialog then is on the screen.
+void PlaceDialog(HWND dialog, POINT corner);
 void* DialogData(HWND dialog);
 
 std::string FieldText(HWND dialog, int control);

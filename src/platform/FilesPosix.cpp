@@ -44,6 +44,14 @@ bool WriteAll(int descriptor, std::span<const uint8_t> bytes) {
     return true;
 }
 
+// False when the size cannot be told: that must not look like an empty file.
+bool TakeSize(OpenFile* file, uint64_t* size) {
+    struct stat info;
+    if (::fstat(file->descriptor, &info) != 0) return false;
+    *size = static_cast<uint64_t>(info.st_size);
+    return true;
+}
+
 bool EndsWithNoCase(std::string_view text, std::string_view end) {
     return text.size() >= end.size() && EqualNoCase(text.substr(text.size() - end.size()), end);
 }
@@ -94,8 +102,9 @@ FileHandle OpenForReading(const std::string& path) {
 }
 
 uint64_t FileSize(OpenFile* file) {
-    struct stat info;
-    return ::fstat(file->descriptor, &info) == 0 ? static_cast<uint64_t>(info.st_size) : 0;
+    uint64_t size = 0;
+    TakeSize(file, &size);
+    return size;
 }
 
 size_t ReadAt(OpenFile* file, uint64_t offset, void* buffer, size_t size) {
@@ -113,9 +122,8 @@ size_t ReadAt(OpenFile* file, uint64_t offset, void* buffer, size_t size) {
 bool ReadWholeFile(const std::string& path, uint64_t limit, std::vector<uint8_t>* bytes) {
     bytes->clear();
     const FileHandle file = OpenForReading(path);
-    if (!file) return false;
-    const uint64_t size = FileSize(file.get());
-    if (size > limit) return false;
+    uint64_t size = 0;
+    if (!file || !TakeSize(file.get(), &size) || size > limit) return false;
     bytes->resize(static_cast<size_t>(size));
     if (ReadAt(file.get(), 0, bytes->data(), bytes->size()) == bytes->size()) return true;
     bytes->clear();

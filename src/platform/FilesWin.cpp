@@ -64,6 +64,15 @@ std::wstring BehindLinks(const std::wstring& path) {
     return target.size() > size ? L"" : target;
 }
 
+// A file that its owner has protected stays, also where the system would let us replace it. So does one that cannot be
+// looked at just now.
+bool MayReplace(const std::wstring& target) {
+    constexpr DWORD kKept = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY;
+    const DWORD attributes = GetFileAttributesW(target.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES) return GetLastError() == ERROR_FILE_NOT_FOUND;
+    return !(attributes & kKept);
+}
+
 uint64_t Joined(DWORD high, DWORD low) { return static_cast<uint64_t>(high) << 32 | low; }
 
 // "~tv", eight hexadecimal digits and ".tmp", as CreateSibling makes them. The system's patterns match more.
@@ -109,6 +118,14 @@ HANDLE CreateSibling(const std::wstring& target, std::wstring* sibling) {
     return INVALID_HANDLE_VALUE;
 }
 
+// False when the size cannot be told: that must not look like an empty file.
+bool TakeSize(OpenFile* file, uint64_t* size) {
+    LARGE_INTEGER told;
+    if (!GetFileSizeEx(file->handle, &told)) return false;
+    *size = static_cast<uint64_t>(told.QuadPart);
+    return true;
+}
+
 bool EndsWithNoCase(std::string_view text, std::string_view end) {
     return text.size() >= end.size() && EqualNoCase(text.substr(text.size() - end.size()), end);
 }
@@ -133,8 +150,9 @@ FileHandle OpenForReading(const std::string& path) {
 }
 
 uint64_t FileSize(OpenFile* file) {
-    LARGE_INTEGER size;
-    return GetFileSizeEx(file->handle, &size) ? static_cast<uint64_t>(size.QuadPart) : 0;
+    uint64_t size = 0;
+    TakeSize(file, &size);
+    return size;
 }
 
 size_t ReadAt(OpenFile* file, uint64_t offset, void* buffer, size_t size) {
@@ -155,9 +173,8 @@ size_t ReadAt(OpenFile* file, uint64_t offset, void* buffer, size_t size) {
 bool ReadWholeFile(const std::string& path, uint64_t limit, std::vector<uint8_t>* bytes) {
     bytes->clear();
     const FileHandle file = OpenForReading(path);
-    if (!file) return false;
-    const uint64_t size = FileSize(file.get());
-    if (size > limit) return false;
+    uint64_t size = 0;
+    if (!file || !TakeSize(file.get(), &size) || size > limit) return false;
     bytes->resize(static_cast<size_t>(size));
     if (ReadAt(file.get(), 0, bytes->data(), bytes->size()) == bytes->size()) return true;
     bytes->clear();
@@ -167,11 +184,7 @@ bool ReadWholeFile(const std::string& path, uint64_t limit, std::vector<uint8_t>
 bool WriteFileWhole(const std::string& path, std::span<const uint8_t> bytes) {
     if (!IsUsable(path)) return false;
     const std::wstring target = BehindLinks(NativePath(path));
-    if (target.empty()) return false;
-    const DWORD attributes = GetFileAttributesW(target.c_str());
-    // A file that its owner has protected stays, also where the system would let us replace it.
-    constexpr DWORD kKept = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY;
-    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & kKept)) return false;
+    if (target.empty() || !MayReplace(target)) return false;
     std::wstring sibling;
     const HANDLE file = CreateSibling(target, &sibling);
     if (file == INVALID_HANDLE_VALUE) return false;

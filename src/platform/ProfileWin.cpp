@@ -63,10 +63,21 @@ bool WriteAsUtf16(const std::string& file, const std::string& text) {
     return WriteFileWhole(file, { reinterpret_cast<const uint8_t*>(wide.data()), wide.size() * sizeof(wchar_t) });
 }
 
+// A new file, empty but for the mark. One that is there stays as it is, even when it cannot be read just now.
+bool MakeUtf16File(const std::string& file) {
+    const HANDLE made = CreateFileW(WideFromUtf8(file).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (made == INVALID_HANDLE_VALUE) return GetLastError() == ERROR_FILE_EXISTS;
+    constexpr wchar_t kMark = 0xFEFF;
+    DWORD written = 0;
+    const bool ok = WriteFile(made, &kMark, sizeof kMark, &written, nullptr) && written == sizeof kMark;
+    return CloseHandle(made) && ok;
+}
+
 // False when the file cannot be made ready to take the text without a loss.
 bool PrepareFile(const std::string& file, const std::wstring& text) {
     std::vector<uint8_t> bytes;
-    if (!ReadWholeFile(file, kLargestFile, &bytes)) return FileExists(file) || WriteAsUtf16(file, "");
+    if (!ReadWholeFile(file, kLargestFile, &bytes)) return MakeUtf16File(file);
     if (bytes.empty()) return WriteAsUtf16(file, "");
     if (HasForeignMark(TextOf(bytes))) return WriteAsUtf16(file, DecodeIniText(bytes));
     const bool isUtf16 = bytes.size() >= 2 && bytes[0] == 0xFF && bytes[1] == 0xFE;

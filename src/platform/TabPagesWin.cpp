@@ -74,9 +74,12 @@ void MakePages(HWND dialog, int tab, std::span<const TabPage> pages) {
     }
     // Only now is the inside of the control known. The last page made lies in front.
     for (size_t i = pages.size(); i-- > 0;) {
+        const HWND page = MakePage(dialog, control, pages[i].resource);
+        // What is on a page that is not there would be stored as empty.
+        if (!page) PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
         TCITEMW item{};
         item.mask = TCIF_PARAM;
-        item.lParam = reinterpret_cast<LPARAM>(MakePage(dialog, control, pages[i].resource));
+        item.lParam = reinterpret_cast<LPARAM>(page);
         SendMessageW(control, TCM_SETITEMW, i, reinterpret_cast<LPARAM>(&item));
     }
     ShowChosenPage(dialog, tab);

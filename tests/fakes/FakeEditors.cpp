@@ -1,8 +1,6 @@
 // FakeEditors.cpp - see FakeEditors.h.
 #include "fakes/FakeEditors.h"
 
-#include <utility>
-
 #include "dialogs/Editors.h"
 
 FakeEditors fakeEditors;
@@ -12,8 +10,6 @@ namespace {
 bool Note(const char* name, model::SceneryObject* subject = nullptr) {
     fakeEditors.opened.emplace_back(name);
     fakeEditors.subjects.push_back(subject);
-    const std::function<void()> meanwhile = std::exchange(fakeEditors.meanwhile, nullptr);
-    if (meanwhile) meanwhile();
     return false;
 }
 

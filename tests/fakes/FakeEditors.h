@@ -1,7 +1,6 @@
 // FakeEditors.h - the windows of the dialogs as tests see them: they open and close at once.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -12,8 +11,7 @@ struct FakeEditors {
     std::vector<std::string> opened;  // "node", "insert runway", "new airport"...
     std::vector<model::SceneryObject*> subjects;
     std::vector<dialogs::ListKind> lists;
-    std::function<void()> meanwhile;  // what the user does in the next one
-    bool newAirportStored = false;    // "New Airport" is answered with OK, not Cancel
+    bool newAirportStored = false;  // "New Airport" is answered with OK, not Cancel
 };
 
 extern FakeEditors fakeEditors;

@@ -55,11 +55,33 @@ void OpenDocument(const std::string& path) { fakeShell.documents.push_back(path)
 
 void ShowOptionsDialog() { ++fakeShell.optionsDialogs; }
 
-void OpenHelp(std::string_view topic) { fakeShell.helpTopics.emplace_back(topic); }
+std::string RegisteredCommand(std::string_view association) {
+    const auto found = fakeShell.registeredCommands.find(std::string(association));
+    return found == fakeShell.registeredCommands.end() ? "" : found->second;
+}
+
+bool StartCommand(const std::string& command) {
+    if (command.empty()) return false;
+    fakeShell.startedCommands.push_back(command);
+    return fakeShell.commandsStart;
+}
 
 void ShowPageSetup() { ++fakeShell.pageSetups; }
 
 void PrintAirportMap() { ++fakeShell.prints; }
+
+bool AskPicturePath(const PictureQuestion& question, PictureAnswer* answer) {
+    fakeShell.pictureQuestions.push_back(question);
+    if (fakeShell.pictureAnswer) *answer = *fakeShell.pictureAnswer;
+    return fakeShell.pictureAnswer.has_value();
+}
+
+bool DrawMapPicture(PictureFormat format, const map::PictureSize& size, std::vector<uint8_t>* bytes) {
+    if (fakeShell.pictureFails) return false;
+    (format == PictureFormat::Png ? fakeShell.pngs : fakeShell.metafiles).push_back(size);
+    *bytes = { 'p', 'i', 'c' };
+    return true;
+}
 
 void CloseMainWindow() { ++fakeShell.closeRequests; }
 

@@ -1,6 +1,7 @@
 // FakeShell.h - the program's window as tests see it: what it was told is recorded, what it answers prepared.
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -14,11 +15,17 @@ struct FakeShell {
     int stateRefreshes = 0;
     std::vector<std::string> textTitles, texts;
     std::vector<std::string> documents;
-    std::vector<std::string> helpTopics;
+    std::map<std::string, std::string> registeredCommands;  // by association
+    std::vector<std::string> startedCommands;               // or tried
+    bool commandsStart = true;
     int openDialogs = 0, recentRefreshes = 0;
     int optionsDialogs = 0;
     std::vector<std::string> aircraftEditors;  // the simulator folder of each
     int pageSetups = 0, prints = 0, faultFinders = 0;
+    std::vector<app::PictureQuestion> pictureQuestions;
+    std::optional<app::PictureAnswer> pictureAnswer;  // none: the user cancels
+    std::vector<map::PictureSize> metafiles, pngs;    // that were drawn
+    bool pictureFails = false;
     int closeRequests = 0;
     std::vector<std::string> registeredFolders;
     std::optional<std::string> browsedFolder;  // the answer of the folder browser; none: the user cancels

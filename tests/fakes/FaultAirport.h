@@ -98,3 +98,48 @@ inline CleanAirport MakeCleanAirport() {
                              build::Encoded({ 80, 220 }) });
     return a;
 }
+
+inline void Free(model::SceneryObject* object) {
+    model::UnlinkObject(object);
+    model::FreeObject(object);
+}
+
+// The same airport with faults of all checks.
+inline void MakeBrokenAirport() {
+    const CleanAirport a = MakeCleanAirport();
+    Free(a.baseStart);
+    Free(a.reciprocalStart);
+    model::PayloadAs<model::TaxiLinkPayload>(a.runwayLink).designator = nullptr;
+    build::Link(a.westCorner, a.apronNode, model::kRunwayLink);
+    model::SceneryObject* twin = build::Node({ 3, 250 });
+    build::Link(twin, a.westCorner);
+    build::Link(twin, a.eastCorner);
+    build::Link(a.apronNode, build::Node({ 500, 160 }));
+    build::Link(build::Node({ 0, 2600 }), build::Spot({ 300, 2600 }), model::kParkingLink);
+    build::Link(build::Node({ 0, 3000 }), build::Node({ 300, 3000 }));
+    build::Node({ 0, 4000 });
+    build::Node({ 15, 4000 });
+    build::Node({ 0, 5000 }, model::kHoldShortNode);
+    build::Spot({ 0, 6000 });
+    build::Apron({ build::Encoded({ 200, 400 }), build::Encoded({ 250, 450 }), build::Encoded({ 250, 400 }),
+                   build::Encoded({ 200, 450 }) });
+}
+
+// First lines of what is told of it, press after press.
+inline constexpr const char* kFaultsOfBrokenAirport[] = {
+    "HOLD-SHORT NODE too far from runway.",
+    "NODE AND LINK POSSIBLY UNCONNECTED.",
+    "NODES POSSIBLY UNCONNECTED.",
+    "ISOLATED SEGMENT.",
+    "ISOLATED SEGMENT.",
+    "ISOLATED PARKING.",
+    "ISOLATED NODE.",
+    "ISOLATED NODE.",
+    "ISOLATED NODE.",
+    "OVERLAPPING NODES.",
+    "BAD START LOCATION.",
+    "BAD START LOCATION.",
+    "LINK DESIGNATOR DOESN'T MATCH THE RUNWAY.",
+    "MISPLACED RUNWAY LINK.",
+    "CROSSED APRON EDGES.",
+};

@@ -10,7 +10,7 @@
 #include "bgl/ByteWriter.h"
 #include "bgl/NameList.h"
 #include "bgl/RecordIds.h"
-#include "bgl/SceneryFile.h"
+#include "bgl/SceneryStructure.h"
 #include "model/Ident.h"
 #include "model/Records.h"
 

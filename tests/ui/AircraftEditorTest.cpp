@@ -267,9 +267,18 @@ TEST_F(AircraftEditorTest, HelpOpensTheManualAtItsTopic) {
     const StandInBrowser browser;
     Start();
     Open();
+    const std::string topic = "file:///C:/UiTest/Tarvo/ReadMe.htm#AircraftEditor\n";
     Press(dialog, IDHELP);
-    EXPECT_TRUE(browser.WaitForOpened("file:///C:/UiTest/Tarvo/ReadMe.htm#AircraftEditor\n")) << browser.Opened();
+    std::string opened = topic;
+    EXPECT_TRUE(browser.WaitForOpened(opened)) << browser.Opened();
     EXPECT_TRUE(IsWindowVisible(dialog)) << "the dialog stays open";
+    for (const int control : { IDC_AIRCRAFT_LIST, IDC_AIRCRAFT_AIRLINE }) {
+        SendMessageW(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(control)), TRUE);
+        ASSERT_TRUE(BringToFront(dialog));
+        TapKey(VK_F1);
+        opened += topic;
+        EXPECT_TRUE(browser.WaitForOpened(opened)) << "F1 in control " << control << ": " << browser.Opened();
+    }
     CloseDialog(dialog, IDCANCEL);
 }
 

@@ -1,5 +1,8 @@
 // FaultFinderTest.cpp - the Fault Finder beside the map: what it tells, selects and shows, with edits in between.
+#include "bgl/AirportWriter.h"
+#include "fakes/FaultAirport.h"
 #include "FaultFinderIds.h"
+#include "platform/Files.h"
 #include "ProgramParts.h"
 #include "Resource.h"
 #include "UiHarness.h"
@@ -22,6 +25,27 @@ protected:
         CreateNode(mainWindow, IDT_HOLD_SHORT_NODE);
         ClickToolButton(mainWindow, IDT_POINTER);
         ASSERT_FALSE(IsGreyed(IDM_UNDO)) << "no node was made";
+    }
+    void StartWithBrokenAirport() {
+        ResetFakes();
+        MakeBrokenAirport();
+        std::vector<uint8_t> bytes;
+        std::string refusal;
+        ASSERT_TRUE(bgl::BuildAirportFile(1, &bytes, &refusal)) << refusal;
+        model::ClearModel();
+        ASSERT_TRUE(platform::WriteFileWhole("C:\\UiTest\\broken.bgl", bytes));
+        ASSERT_NO_FATAL_FAILURE(Start(L"C:\\UiTest\\broken.bgl TEST"));
+        ASSERT_TRUE(WaitForTitle(L"TEST")) << Utf8(Title());
+    }
+    void DeleteSelected() {
+        PostKey(mainWindow, VK_DELETE);
+        SettlePosted(agent);
+    }
+    // Up to "No more faults found.".
+    int Presses(HWND finder) {
+        int count = 0;
+        while (count < 30 && NextFault(finder) != L"No more faults found.") ++count;
+        return count;
     }
     static std::wstring Message(HWND finder) { return TextOf(GetDlgItem(finder, IDC_FAULT_MESSAGE)); }
     bool Tells(HWND finder, const std::wstring& beginning) {
@@ -114,6 +138,49 @@ TEST_F(FaultFinderTest, AnEditKeepsTheCheckAndForgetsTheFaultsBefore) {
     EXPECT_EQ(NextFault(finder), L"No more faults found.");
 }
 
+TEST_F(FaultFinderTest, EveryFaultOfABrokenAirportIsToldAndShown) {
+    StartWithBrokenAirport();
+    const HWND finder = OpenFinder();
+    ASSERT_NE(finder, nullptr);
+    for (const char* line : kFaultsOfBrokenAirport) {
+        EXPECT_EQ(NextFault(finder), Wide(line));
+        ExpectFaultInTheMiddle(kDayMarker);
+    }
+    EXPECT_TRUE(IsChecked(IDM_HOLD_SHORT_LIMITS));
+    EXPECT_TRUE(IsChecked(IDM_STARTS)) << "the message speaks of start locations";
+    EXPECT_EQ(NextFault(finder), L"No more faults found.");
+    EXPECT_TRUE(IsGreyed(IDM_UNDO)) << "looking is no edit";
+}
+
+TEST_F(FaultFinderTest, FaultsAreRepairedAndBroughtBackBetweenThePresses) {
+    constexpr wchar_t kNodes[] = L"NODES POSSIBLY UNCONNECTED.",
+                      kNodeAndLink[] = L"NODE AND LINK POSSIBLY UNCONNECTED.";
+    StartWithBrokenAirport();
+    const HWND finder = OpenFinder();
+    ASSERT_NE(finder, nullptr);
+    EXPECT_EQ(NextFault(finder), kTooFar);
+    DeleteSelected();
+    EXPECT_EQ(NextFault(finder), kNodeAndLink);
+    DeleteSelected();  // the open end and the link beside it
+    EXPECT_EQ(NextFault(finder), kNodes) << "the check begins again, without what was repaired";
+    Command(IDM_UNDO);
+    EXPECT_EQ(NextFault(finder), kNodeAndLink) << "the fault is back";
+    EXPECT_EQ(NextFault(finder), kNodes);
+    DeleteSelected();
+    EXPECT_EQ(NextFault(finder), kNodeAndLink);
+    Command(IDM_UNDO);
+    Command(IDM_UNDO);
+    EXPECT_EQ(NextFault(finder), kNodeAndLink) << "the hold-short node is back, but its check is over";
+    for (const wchar_t* line : { kNodes, L"ISOLATED SEGMENT.", L"ISOLATED SEGMENT." })
+        EXPECT_EQ(NextFault(finder), line);
+    DeleteSelected();  // the second segment
+    EXPECT_EQ(NextFault(finder), L"ISOLATED SEGMENT.") << "the first one again";
+    EXPECT_EQ(NextFault(finder), L"ISOLATED PARKING.");
+    EXPECT_EQ(Presses(finder), 9) << "three nodes, an overlap, two starts, two runway links, an apron";
+    Command(IDM_UNDO);
+    EXPECT_EQ(NextFault(finder), kTooFar) << "a new pass";
+}
+
 TEST_F(FaultFinderTest, TheKeyboardFindsTheNextFaultFromBothWindows) {
     StartWithFaults();
     const HWND finder = OpenFinder();
@@ -177,7 +244,7 @@ TEST_F(FaultFinderTest, EveryCommandOpensAnotherWindow) {
     EXPECT_EQ(NextFault(second), kTooFar);
     EXPECT_EQ(NextFault(first), kIsolated) << "both go on in the same pass";
     CloseDialog(first, IDCANCEL);
-    EXPECT_EQ(NextFault(second), kIsolated) << "its check begins again";
+    EXPECT_EQ(NextFault(second), L"No more faults found.") << "the pass stands where it stood";
     PostMessageW(mainWindow, WM_CLOSE, 0, 0);
     Answer(MessageBoxUp(), IDNO);
     DWORD exitCode = 1;

@@ -1,35 +1,12 @@
 // GroundDialogTest.cpp - the dialogs of nodes, links and parking spots, of the airport and of a new one.
 #include "AirportIds.h"
-#include "EditorSteps.h"
-#include "TaxiIds.h"
+#include "GroundSteps.h"
 
 namespace ui {
 
-class GroundDialogTest : public EditorTest {
-protected:
-    static constexpr int kApart = 120;  // pixels
+class GroundDialogTest : public GroundTest {};
 
-    void Use(UINT tool, POINT at) {
-        Command(tool);
-        ClickMap(at);
-        Command(IDT_POINTER);
-    }
-    POINT Beside(int dx) const { return { ground.x + dx, ground.y }; }
-    // Between two nodes on free ground.
-    POINT MakeLink() {
-        Command(IDT_NORMAL_LINK);
-        BringToFront(mainWindow);
-        const POINT middle = Beside(kApart / 2);
-        DragPointer(mainWindow, { Beside(0), middle, Beside(kApart) });
-        SettlePosted(agent);
-        Settle(mainWindow);
-        Command(IDT_POINTER);
-        return middle;
-    }
-};
-
-constexpr wchar_t kNode[] = L"Node Properties", kLink[] = L"Link Properties", kSpot[] = L"Parking Properties",
-                  kAirport[] = L"Airport Properties";
+constexpr wchar_t kAirport[] = L"Airport Properties";
 
 TEST_F(GroundDialogTest, EveryFieldOfANodeIsKept) {
     StartOnGround();

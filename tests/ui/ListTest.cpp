@@ -1,18 +1,21 @@
 // ListTest.cpp - the six list windows: what they show, and what is done from them while they stand beside the map.
 #include <algorithm>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "EditorSteps.h"
 #include "ListIds.h"
 #include "NavaidIds.h"
+#include "OptionsIds.h"
 #include "StandInBrowser.h"
 
 namespace ui {
 
 constexpr wchar_t kNavaidList[] = L"NAVAID List", kRunwayList[] = L"Runway List", kParkingList[] = L"Parking List",
                   kStartList[] = L"Start Locations List", kDesignatorList[] = L"Taxiway Designator List",
-                  kCommList[] = L"Comm Frequencies List", kComm[] = L"COMM Frequency Properties";
+                  kCommList[] = L"Comm Frequencies List", kComm[] = L"COMM Frequency Properties",
+                  kParkingProperties[] = L"Parking Properties";
 constexpr int kParkingColumns = 4;
 
 class ListTest : public EditorTest {
@@ -316,6 +319,56 @@ TEST_F(ListTest, ADoubleClickOpensTheProperties) {
     CloseDialog(dialog, IDCANCEL);
 }
 
+TEST_F(ListTest, ADoubleClickBelowTheRowsOpensNothing) {
+    StartWithSample("hub");
+    const HWND list = Open(IDM_LIST_COMMS, kCommList);
+    ASSERT_NE(list, nullptr);
+    ASSERT_TRUE(BringToFront(list));
+    RECT area{};
+    GetClientRect(Rows(list), &area);
+    for (const int row : { -1, 0 }) {
+        if (row >= 0) Select(list, row);
+        ClickPointer(Rows(list), 20, area.bottom - 5);
+        ClickPointer(Rows(list), 20, area.bottom - 5);
+        ASSERT_TRUE(SettlePosted(agent));
+        EXPECT_TRUE(IsWindowEnabled(list)) << "no dialog or message is up over it, row " << row;
+        EXPECT_EQ(FindVisible(program.id, nullptr, kComm), nullptr);
+    }
+}
+
+TEST_F(ListTest, AListThatIsOpenFollowsTheUnits) {
+    StartWithSample("hub");
+    const HWND runways = Open(IDM_LIST_RUNWAYS, kRunwayList), parking = Open(IDM_LIST_PARKING, kParkingList);
+    ASSERT_NE(runways, nullptr);
+    ASSERT_NE(parking, nullptr);
+    Select(runways, 1);
+    EXPECT_TRUE(Row(parking, 0).find(" ft\t") != std::string::npos) << Row(parking, 0);
+    const HWND options = Open(IDM_OPTIONS, L"Options");
+    ASSERT_NE(options, nullptr);
+    Toggle(options, IDC_METRIC);
+    Toggle(options, IDC_METRIC_RADIUS);
+    CloseDialog(options, IDOK);
+    EXPECT_TRUE(WaitUntil([&] { return Row(runways, 1).starts_with("16L/34R\t3627."); })) << Row(runways, 1);
+    EXPECT_EQ(Selected(runways), 1);
+    EXPECT_TRUE(WaitUntil([&] { return Row(parking, 0).find(" m\t") != std::string::npos; })) << Row(parking, 0);
+}
+
+TEST_F(ListTest, F1OpensTheTopicOfTheList) {
+    const StandInBrowser browser;
+    StartWithSample("hub");
+    std::string opened;
+    for (const auto& [command, title, topic] : { std::tuple(IDM_LIST_COMMS, kCommList, "CommFrequencies"),
+                                                 std::tuple(IDM_LIST_PARKING, kParkingList, "ParkingList") }) {
+        const HWND dialog = Open(static_cast<UINT>(command), title);
+        ASSERT_NE(dialog, nullptr);
+        ASSERT_TRUE(BringToFront(dialog));
+        ASSERT_TRUE(WaitUntil([&] { return FocusOf(agent) == Rows(dialog); }));
+        TapKey(VK_F1);
+        opened += std::string("file:///C:/UiTest/Tarvo/ReadMe.htm#") + topic + "\n";
+        EXPECT_TRUE(browser.WaitForOpened(opened)) << browser.Opened();
+    }
+}
+
 class ParkingListTest : public ListTest {
 protected:
     void ClickHeader(HWND dialog, int column) {
@@ -401,6 +454,62 @@ TEST_F(ParkingListTest, AChangedSpotStaysSelectedAndInItsPlaceOfTheOrder) {
     EXPECT_EQ(Row(dialog, 0), first) << "the list is still sorted by name";
     EXPECT_EQ(Row(dialog, 1), second);
     EXPECT_EQ(Selected(dialog), 1) << "the row that was selected still is";
+}
+
+TEST_F(ParkingListTest, TheKeyboardAloneIsEnough) {
+    StartWithSample("hub");
+    const HWND dialog = Open(IDM_LIST_PARKING, kParkingList);
+    ASSERT_NE(dialog, nullptr);
+    const int count = Count(dialog);
+    ASSERT_TRUE(BringToFront(dialog));
+    ASSERT_TRUE(WaitUntil([&] { return FocusOf(agent) == Rows(dialog); }));
+    TypeText(L"gate c 2");
+    ASSERT_TRUE(
+        WaitUntil([&] { return Selected(dialog) >= 0 && Row(dialog, Selected(dialog)).starts_with("Gate C  2"); }));
+    const int row = Selected(dialog);
+    const std::string found = Row(dialog, row);
+    TapKey(VK_RETURN);
+    const HWND properties = Dialog(kParkingProperties);
+    ASSERT_NE(properties, nullptr);
+    EXPECT_FALSE(IsWindowEnabled(dialog)) << "the list waits";
+    ASSERT_TRUE(BringToFront(properties));
+    TapKey(VK_ESCAPE);
+    ASSERT_TRUE(WaitUntilGone(properties));
+    EXPECT_TRUE(WaitUntil([&] { return FocusOf(agent) == Rows(dialog); })) << "back to the list";
+    EXPECT_EQ(Row(dialog, row), found);
+    EXPECT_EQ(Selected(dialog), row);
+    TapKey(VK_DELETE);
+    EXPECT_TRUE(WaitForCount(dialog, count - 1));
+    EXPECT_NE(Row(dialog, row), found);
+    TapKey(VK_ESCAPE);
+    EXPECT_TRUE(WaitUntilGone(dialog));
+}
+
+TEST_F(ParkingListTest, TheColumnsFitAgainOnAMonitorOfAnotherResolution) {
+    constexpr UINT kDpiChanged = 0x02E0;  // WM_DPICHANGED of Windows 8.1
+    StartWithSample("hub");
+    const HWND dialog = Open(IDM_LIST_PARKING, kParkingList);
+    ASSERT_NE(dialog, nullptr);
+    const auto width = [&] { return SendMessageW(Rows(dialog), LVM_GETCOLUMNWIDTH, 0, 0); };
+    const LRESULT before = width();
+    ASSERT_GT(before, 40);
+    SendMessageW(Rows(dialog), LVM_SETCOLUMNWIDTH, 0, 40);
+    ASSERT_EQ(width(), 40);
+    SendMessageW(dialog, kDpiChanged, MAKEWPARAM(96, 96), 0);
+    EXPECT_TRUE(WaitUntil([&] { return width() == before; })) << width();
+}
+
+TEST_F(ParkingListTest, ADoubleClickOnARowOpensTheProperties) {
+    StartWithSample("hub");
+    const HWND dialog = Open(IDM_LIST_PARKING, kParkingList);
+    ASSERT_NE(dialog, nullptr);
+    ASSERT_TRUE(BringToFront(dialog));
+    ClickPointer(Rows(dialog), 40, 60);
+    ClickPointer(Rows(dialog), 40, 60);
+    const HWND properties = Dialog(kParkingProperties);
+    ASSERT_NE(properties, nullptr);
+    CloseDialog(properties, IDCANCEL);
+    EXPECT_GE(Selected(dialog), 0);
 }
 
 TEST_F(ListTest, UnitsAreThoseOfTheSettings) {

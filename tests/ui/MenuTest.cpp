@@ -24,6 +24,7 @@ constexpr ExpectedEntry kEntries[] = {
     { 40037, L"&Properties" },
     { 40070, L"Pag&e Setup..." },
     { 40069, L"P&rint..." },
+    { 40401, L"Save &Map Picture..." },
     { 40007, L"E&xit" },
     { 40058, L"&Undo\tCtrl+Z" },
     { 40059, L"&Redo\tCtrl+Y" },
@@ -66,7 +67,7 @@ constexpr UINT kGreyedWithoutAirport[] = {
     IDM_PRINT,          IDM_UNDO,         IDM_REDO,         IDM_SELECT_ALL,         IDM_INSERT_RUNWAY,
     IDM_INSERT_HELIPAD, IDM_INSERT_TOWER, IDM_INSERT_START, IDM_INSERT_ILS,         IDM_INSERT_MARKER_BEACON,
     IDM_INSERT_NDB,     IDM_INSERT_VOR,   IDM_LIST_PARKING, IDM_LIST_DESIGNATORS,   IDM_LIST_RUNWAYS,
-    IDM_LIST_STARTS,    IDM_LIST_COMMS,   IDM_LIST_NAVAIDS, IDM_FAULT_FINDER,
+    IDM_LIST_STARTS,    IDM_LIST_COMMS,   IDM_LIST_NAVAIDS, IDM_FAULT_FINDER,       IDM_SAVE_PICTURE,
 };
 
 TEST_F(MenuTest, EveryEntryHasItsTextAndNoOtherIsThere) {

@@ -200,6 +200,10 @@ TEST_F(NavaidDialogTest, EveryPartOfAnIlsCanBeChanged) {
     Enter(dialog, IDC_ILS_SLOPE_PITCH, L"3.25");
     Toggle(dialog, IDC_ILS_DME);
     EXPECT_FALSE(IsOn(dialog, IDC_ILS_DME_LATITUDE));
+    EXPECT_FALSE(IsWindowVisible(ChildWithId(dialog, IDC_NAV_CHANNEL)));
+    Choose(dialog, IDC_ILS_SUFFIX, 3);
+    ExpectRefusal(dialog, "ERROR: Runway 16C already has an ILS", IDC_NAV_RUNWAY);
+    Choose(dialog, IDC_ILS_SUFFIX, 1);
     CloseDialog(dialog, IDOK);
     EXPECT_TRUE(WaitUntil([&] { return !RowText(List(), "\tISNQ\t").empty(); }));
     EXPECT_EQ(RowText(List(), "\tISNQ\t"), "16L\tLOC+GP\tISNQ\t110.35\t179.5\tChanged");

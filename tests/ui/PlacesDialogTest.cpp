@@ -113,6 +113,7 @@ TEST_F(PlacesDialogTest, TheTowerViewpointOfANewAirportIsPlacedOnce) {
     ASSERT_NE(dialog, nullptr);
     Enter(dialog, IDC_AIRPORT_LATITUDE, L"N47 30");
     Enter(dialog, IDC_AIRPORT_LONGITUDE, L"W122 30");
+    Enter(dialog, IDC_AIRPORT_ELEVATION, L"400");
     Enter(dialog, IDC_AIRPORT_IDENT, L"XTST");
     for (const int id : { IDC_COUNTRY, IDC_CITY, IDC_AIRPORT_NAME }) Enter(dialog, id, L"Nowhere");
     CloseDialog(dialog, IDOK);
@@ -122,6 +123,7 @@ TEST_F(PlacesDialogTest, TheTowerViewpointOfANewAirportIsPlacedOnce) {
     dialog = Open(IDM_INSERT_TOWER, kTower);
     ASSERT_NE(dialog, nullptr);
     ExpectUnplaced(dialog, "the control tower viewpoint");
+    EXPECT_EQ(Shown(dialog, IDC_PLACE_ELEVATION), "400") << "that of the airport is offered";
     ClickMap(ground);
     Enter(dialog, IDC_PLACE_ELEVATION, L"140");
     CloseDialog(dialog, IDOK);

@@ -1,5 +1,7 @@
 // PrintTest.cpp - page setup and printing, on a printer that writes its pages to a file.
+#include <map>
 #include <memory>
+#include <sstream>
 
 #include "PageSetupIds.h"
 #include "ProgramParts.h"
@@ -16,6 +18,48 @@ int Count(const std::string& text, const std::string& part) {
     int count = 0;
     for (size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + part.size())) ++count;
     return count;
+}
+
+// What the lines `NUMBERS operator` of the document set, in order; only those with that many numbers.
+std::vector<std::vector<double>> Operands(const std::string& text, const std::string& name, size_t count) {
+    std::vector<std::vector<double>> found;
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);) {
+        std::istringstream words(line);
+        std::vector<double> numbers;
+        for (double number = 0; words >> number;) numbers.push_back(number);
+        words.clear();
+        std::string word;
+        if (numbers.size() == count && words >> word && word == name) found.push_back(numbers);
+    }
+    return found;
+}
+
+std::vector<int> LineWidths(const std::string& text) {
+    std::vector<int> widths;
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);) {
+        if (line.find(" setlinewidth") != std::string::npos) widths.push_back(atoi(line.c_str()));
+    }
+    return widths;
+}
+
+// The text that a part of the document shows; characters that have no letter of their own stand for themselves.
+std::string Shown(const std::string& text) {
+    const std::map<std::string, std::string> signs = {
+        { "uni00A0", " " }, { "space", " " }, { "comma", "," }, { "colon", ":" },   { "slash", "/" },  { "zero", "0" },
+        { "one", "1" },     { "two", "2" },   { "five", "5" },  { "uni00AD", "-" }, { "hyphen", "-" },
+    };
+    std::string shown;
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);) {
+        std::istringstream words(line);
+        std::string name, call;
+        if (!(words >> name >> call) || call != "glyphshow") continue;
+        const auto sign = signs.find(name.substr(1));
+        shown += sign == signs.end() ? name.substr(1) : sign->second;
+    }
+    return shown;
 }
 
 class PrintTest : public UiTest {
@@ -91,6 +135,68 @@ TEST_F(PrintTest, TheMapIsPrintedOnOnePageAndStaysOnTheScreen) {
     const std::string again = PrintWith(IDT_PRINT);
     EXPECT_EQ(Count(again, "%%Page:"), 1) << "by the toolbar";
     EXPECT_EQ(CloseProgram(), 0u);
+}
+
+// A4 at 600 pixels to the inch: 4958 x 7016 pixels, of which 150 on each side cannot be printed on.
+TEST_F(PrintTest, ThePageIsMeasured) {
+    StartWithPrinter();
+    HWND dialog = OpenSetup();
+    ASSERT_NE(dialog, nullptr);
+    Tick(dialog, IDC_PRINT_BORDER);
+    Tick(dialog, IDC_PRINT_TITLE);
+    TypeScale(dialog, L"1500");
+    const bool metric = TextOf(GetDlgItem(dialog, IDC_PRINT_SCALE_LABEL)) == L"S&cale (ft/cm):";
+    CloseDialog(dialog, IDOK);
+    ASSERT_FALSE(metric) << "the numbers are for inches";
+    RECT client{};
+    GetClientRect(mainWindow, &client);
+    const std::string document = PrintWith(IDM_PRINT);
+    const auto clips = Operands(document, "rectclip", 4);
+    ASSERT_GT(clips.size(), 100u);
+    const std::vector<double> box = clips.front();
+    EXPECT_EQ(box[0], 600 - 150) << "an inch of margin";
+    EXPECT_EQ(box[2], 4958 - 2 * 600) << "the view is wider than the paper";
+    const double shown = 3704.3518 * 3.280839895 / 1500 * 600;  // two nautical miles of the first view, in feet
+    EXPECT_NEAR(box[3], shown, 1.01) << "both edges are whole pixels";
+    EXPECT_NEAR(box[1] + box[3] / 2, 7016 / 2.0 - 150, 1) << "in the middle";
+    for (const std::vector<double>& clip : clips) {
+        if (clip[2] == 0 || clip[3] == 0) continue;  // of something beside the map
+        EXPECT_GE(clip[0], box[0]);
+        EXPECT_GE(clip[1], box[1]);
+        EXPECT_LE(clip[0] + clip[2], box[0] + box[2]);
+        EXPECT_LE(clip[1] + clip[3], box[1] + box[3]);
+    }
+    const size_t border = document.rfind("1 setlinewidth");
+    ASSERT_NE(border, std::string::npos);
+    for (const auto& width : LineWidths(document.substr(0, border))) EXPECT_GE(width, 3) << "ten feet are 4 pixels";
+    const std::string frame = document.substr(border);
+    EXPECT_EQ(frame.find("rectclip"), std::string::npos);
+    const auto starts = Operands(frame, "moveto", 2);
+    ASSERT_EQ(starts.size(), 2u) << "the border and the title";
+    EXPECT_EQ(starts[0], (std::vector<double>{ box[0], box[1] }));
+    EXPECT_EQ(Operands(frame, "lineto", 2)[1], (std::vector<double>{ box[0] + box[2] - 1, box[1] + box[3] - 1 }));
+    EXPECT_EQ(starts[1][0], box[0] + 8);
+    EXPECT_NE(frame.find("[83 0 0 -83 0 0]"), std::string::npos) << "ten points";
+    const std::string title = Shown(frame);
+    EXPECT_EQ(title.substr(0, 6), Utf8(FindSample("hub").ident) + "  ") << title;
+    EXPECT_EQ(title.substr(title.find(',')), ",  Scale: 1500 ft/in") << title;
+}
+
+TEST_F(PrintTest, BesideAnOpenListNothingElseCanBeDoneMeanwhile) {
+    StartWithPrinter();
+    PostCommand(mainWindow, IDM_LIST_RUNWAYS);
+    ASSERT_TRUE(SettlePosted(agent));
+    const HWND list = FindVisible(program.id, L"#32770", nullptr);
+    ASSERT_NE(list, nullptr);
+    for (const UINT command : { IDM_PAGE_SETUP, IDM_PRINT, IDM_SAVE_PICTURE }) {
+        PostCommand(mainWindow, command);
+        const HWND dialog = DialogOtherThan(list);
+        ASSERT_NE(dialog, nullptr) << command;
+        EXPECT_FALSE(IsWindowEnabled(mainWindow)) << command;
+        EXPECT_FALSE(IsWindowEnabled(list)) << command;
+        CloseDialog(dialog, IDCANCEL);
+        EXPECT_TRUE(WaitUntil([&] { return IsWindowEnabled(mainWindow) && IsWindowEnabled(list); })) << command;
+    }
 }
 
 TEST_F(PrintTest, ACancelledDialogPrintsNothing) {

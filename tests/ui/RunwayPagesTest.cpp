@@ -124,6 +124,31 @@ TEST_F(RunwayPagesTest, InMetresLabelsAndFieldsAreMetric) {
     CloseDialog(dialog, IDCANCEL);
 }
 
+TEST_F(RunwayPagesTest, EveryControlLiesWithinItsPageAndThePagesWithinTheirTabs) {
+    StartOnGround();
+    const HWND dialog = Insert();
+    ASSERT_NE(dialog, nullptr);
+    const HWND tabs = ChildWithId(dialog, IDC_RUNWAY_TABS);
+    RECT tabPlace{};
+    GetWindowRect(tabs, &tabPlace);
+    int checked = 0;
+    for (const HWND control : Children(dialog)) {
+        const HWND page = GetParent(control);
+        if (page == dialog) continue;
+        RECT place{}, inside{};
+        GetWindowRect(control, &place);
+        GetWindowRect(page, &inside);
+        EXPECT_TRUE(place.left >= inside.left && place.right <= inside.right && place.top >= inside.top &&
+                    place.bottom <= inside.bottom)
+            << GetDlgCtrlID(control);
+        EXPECT_TRUE(inside.left > tabPlace.left && inside.right < tabPlace.right && inside.top > tabPlace.top &&
+                    inside.bottom < tabPlace.bottom);
+        ++checked;
+    }
+    EXPECT_GT(checked, 100);
+    CloseDialog(dialog, IDCANCEL);
+}
+
 TEST_F(RunwayPagesTest, EachPageHasItsTopicInTheManual) {
     const StandInBrowser browser;
     StartOnGround();

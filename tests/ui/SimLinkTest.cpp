@@ -14,6 +14,8 @@ constexpr uint32_t kCrossHair = 0xFF3C28, kSelectedNode = 0xFFC81E;
 constexpr double kSpan = 3704.3518;           // metres across the height of a fresh view
 constexpr int kCrossHairPixels = 2 * 44 - 1;  // two lines that share a pixel
 constexpr DWORD kHangPatience = 60000;        // nine tries of two seconds, on a busy machine
+constexpr DWORD kFelt = 1500;                 // a program that does not answer for so long is held by something
+constexpr DWORD kLongestWait = 5000;          // between two attempts to reach the simulator
 constexpr uint32_t kFirstSlot = 1, kParkingSlot = 2, kMarkerSlot = 3;
 
 class SimLinkTest : public UiTest {
@@ -56,6 +58,11 @@ protected:
     }
     bool NoCrossHair() { return CountColour(GrabMap(mainWindow), MapArea(mainWindow), kCrossHair) == 0; }
 
+    bool SelectedAt(POINT at) {
+        const RECT box = { at.x - 10, at.y - 10, at.x + 11, at.y + 11 };
+        return CountColour(GrabMap(mainWindow), box, kSelectedNode) > 0;
+    }
+
     bool CanUndo() { return !IsGreyed(IDM_UNDO); }
     void PressInSimulator(uint32_t slot) {
         simulator->PressKey(slot);
@@ -87,13 +94,13 @@ TEST_F(SimLinkTest, TheAircraftMovesOverTheMapWithoutATrace) {
         FlyNorth(metres);
         EXPECT_TRUE(WaitUntil([&] { return CrossHairAt(NorthOfMiddle(metres)); })) << metres;
     }
+    const int64_t longitude = simulator->Peek(kLongitude, 8);
     simulator->Fly(true);
     ASSERT_TRUE(simulator->WaitForPolls(kCircuitSteps / 2));
     simulator->Fly(false);
-    simulator->WaitForPolls(2);
+    simulator->Poke(kLongitude, 8, longitude);
     FlyNorth(200);
-    simulator->Poke(kLongitude, 8, simulator->Peek(kLongitude, 8));
-    simulator->WaitForPolls(2);
+    EXPECT_TRUE(WaitUntil([&] { return CrossHairAt(NorthOfMiddle(200)); })) << "nothing of the flight is left";
     PostKey(mainWindow, VK_HOME);
     EXPECT_TRUE(WaitUntil([&] { return CrossHairAt(Middle()); })) << "and home again";
     EXPECT_FALSE(CanUndo()) << "nothing of this is an edit";
@@ -125,20 +132,20 @@ TEST_F(SimLinkTest, LockedTheMapFollowsTheAircraft) {
 
 TEST_F(SimLinkTest, TheHotKeysMakeTheirObjectsAndEachIsUndone) {
     StartBoth();
-    FlyNorth(1200);  // off the taxiways
-    ASSERT_TRUE(WaitUntil([&] { return CrossHairAt(NorthOfMiddle(1200)); }));
     EXPECT_FALSE(CanUndo());
+    const POINT place = NorthOfMiddle(1200);  // off the taxiways
     for (uint32_t slot : { kFirstSlot, kParkingSlot, kMarkerSlot }) {
+        FlyNorth(1200);
+        ASSERT_TRUE(WaitUntil([&] { return CrossHairAt(place); })) << slot;
         ASSERT_NO_FATAL_FAILURE(PressInSimulator(slot));
         EXPECT_TRUE(WaitUntil([&] { return CanUndo(); })) << slot;
+        FlyNorth(1400);  // the cross-hair would hide a node
+        EXPECT_TRUE(WaitUntil([&] { return SelectedAt(place); })) << slot;
         simulator->WaitForPolls(3);
         Command(IDM_UNDO);
         EXPECT_FALSE(CanUndo()) << slot << ": one press, one action";
+        EXPECT_TRUE(WaitUntil([&] { return !SelectedAt(place); })) << slot;
     }
-    PressInSimulator(kFirstSlot);
-    FlyNorth(1400);
-    EXPECT_TRUE(
-        WaitUntil([&] { return CountColourAround(GrabMap(mainWindow), NorthOfMiddle(1200), kSelectedNode) > 0; }));
 }
 
 TEST_F(SimLinkTest, APressUnderADialogIsCarriedOutAfterwards) {
@@ -201,6 +208,8 @@ TEST_F(SimLinkTest, ASimulatorKilledAndStartedTenTimesIsFoundEachTime) {
         ASSERT_NO_FATAL_FAILURE(StartSimulator());
         ASSERT_TRUE(WaitForConnection(true)) << round;
         EXPECT_EQ(simulator->Slot(kFirstSlot), 0x100BEu);
+        PostKey(mainWindow, VK_HOME);
+        EXPECT_TRUE(WaitUntil([&] { return CrossHairAt(Middle()); })) << round;
         simulator.reset();
         ASSERT_TRUE(WaitForConnection(false)) << round;
         EXPECT_TRUE(NoCrossHair());
@@ -236,7 +245,8 @@ TEST_F(SimLinkTest, AnswersThatEndEarlyOrAreGarbageChangeNothing) {
     for (Trouble trouble : { Trouble::CorruptTypes, Trouble::CorruptAll }) {
         simulator->Be(trouble);
         ASSERT_TRUE(simulator->WaitForPolls(5));
-        EXPECT_TRUE(CrossHairAt(Middle()) || NoCrossHair()) << "the aircraft is nowhere else";
+        EXPECT_TRUE(CrossHairAt(Middle())) << "the aircraft stays, " << Utf8(StatusText(mainWindow, kSimulatorPart));
+        EXPECT_TRUE(WaitForConnection(true));
         simulator->Be(Trouble::None);
         EXPECT_TRUE(WaitUntil([&] { return CrossHairAt(Middle()); })) << "and there again";
     }
@@ -250,9 +260,13 @@ TEST_F(SimLinkTest, AnswersThatEndEarlyOrAreGarbageChangeNothing) {
 
 TEST_F(SimLinkTest, AHangingSimulatorBlocksOnceAndTheEditorGoesOn) {
     StartBoth();
+    ExpectEditing();
     simulator->Be(Trouble::Hang);
+    ASSERT_TRUE(WaitUntil([&] { return !Settle(mainWindow, kFelt); })) << "the simulator's hanging is not felt";
+    PostCommand(mainWindow, IDM_UNDO);
     ASSERT_TRUE(WaitForConnection(false, kHangPatience));
-    ASSERT_TRUE(WaitUntil([&] { return Settle(mainWindow, 1000); }, kHangPatience));
+    EXPECT_TRUE(WaitUntil([&] { return !CanUndo(); })) << "what was commanded meanwhile is done";
+    EXPECT_FALSE(WaitUntil([&] { return !Settle(mainWindow, kFelt); }, 2 * kLongestWait)) << "it blocks again";
     ExpectEditing();
     simulator->Resume();
     simulator->Be(Trouble::None);

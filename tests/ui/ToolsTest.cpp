@@ -101,6 +101,17 @@ TEST_F(ToolsTest, AnApronIsDrawnAndGetsACorner) {
     EXPECT_TRUE(IsEmpty());
 }
 
+TEST_F(ToolsTest, AnAbandonedOutlineLeavesNoArea) {
+    Command(IDT_APRON);
+    Click(-100, -80);
+    Click(100, -80);
+    Click(100, 80);
+    EXPECT_TRUE(Has(At(50, -40), kApron)) << "the area is not shown while it is drawn";
+    Command(IDT_POINTER);
+    EXPECT_TRUE(IsEmpty());
+    EXPECT_TRUE(IsGreyed(IDM_UNDO));
+}
+
 TEST_F(ToolsTest, BackspaceTakesACornerBackAndEnterClosesTheRest) {
     Command(IDT_APRON);
     Click(-100, -80);

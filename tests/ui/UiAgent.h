@@ -19,7 +19,8 @@ enum AgentMessage : UINT {
     kAgentIcon,                    // wParam HICON -> which stock icon it is (IDI_...), 0 none
     kAgentFocus,                   // -> window with the focus
     kAgentCursor,                  // -> which stock cursor is set now (IDC_...), 0 none of them
-    kAgentGdiLevel,                // -> how far the program's table of GDI objects is filled
+    kAgentGdiObjects,              // -> how many GDI objects the program has
+    kAgentUserObjects,             // -> how many windows, menus, icons and cursors
     kAgentMark,                    // posted: counted when its turn comes
     kAgentMarks,                   // -> how many marks have been counted
     kAgentDrop,                    // wParam main window, lParam path: as if that file were dropped on it

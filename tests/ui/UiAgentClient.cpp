@@ -88,7 +88,10 @@ int StockIcon(const Agent& agent, HICON icon) {
 
 int StockCursor(const Agent& agent) { return static_cast<int>(SendMessageW(agent.window, kAgentCursor, 0, 0)); }
 
-int GdiLevel(const Agent& agent) { return static_cast<int>(SendMessageW(agent.window, kAgentGdiLevel, 0, 0)); }
+GuiObjects CountGuiObjects(const Agent& agent) {
+    return { static_cast<int>(SendMessageW(agent.window, kAgentGdiObjects, 0, 0)),
+             static_cast<int>(SendMessageW(agent.window, kAgentUserObjects, 0, 0)) };
+}
 
 void CatchCommands(const Agent& agent, bool on) { SendMessageW(agent.window, kAgentCatch, on ? 1 : 0, 0); }
 

@@ -7,6 +7,7 @@
 #include <cwchar>
 #include <shlobj.h>
 
+#include "fakes/GuiObjects.h"
 #include "UiAgent.h"
 
 namespace ui {
@@ -69,19 +70,6 @@ LRESULT StockCursor() {
     return 0;
 }
 
-// The low word of a GDI handle is its place in the table. New objects fill the free places first, so the highest
-// of a handful of new ones tells how far the table is filled, give or take what was freed just now.
-LRESULT GdiLevel() {
-    HGDIOBJ probes[64];
-    LRESULT highest = 0;
-    for (HGDIOBJ& probe : probes) {
-        probe = CreatePen(PS_SOLID, 1, 0);
-        highest = std::max<LRESULT>(highest, LOWORD(reinterpret_cast<UINT_PTR>(probe)));
-    }
-    for (HGDIOBJ probe : probes) DeleteObject(probe);
-    return highest;
-}
-
 // A posted command, as menus give it, is taken away from the program and remembered.
 void Catch(MSG* message) {
     if (!catching || message->message != WM_COMMAND) return;
@@ -118,7 +106,8 @@ LRESULT CALLBACK AgentProc(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     case kAgentIcon: return StockIcon(wParam);
     case kAgentFocus: return reinterpret_cast<LRESULT>(GetFocus());
     case kAgentCursor: return StockCursor();
-    case kAgentGdiLevel: return GdiLevel();
+    case kAgentGdiObjects: return GdiObjects();
+    case kAgentUserObjects: return UserObjects();
     case kAgentDrop: return DropFile(reinterpret_cast<HWND>(wParam), reinterpret_cast<const wchar_t*>(lParam));
     case kAgentMark: ++marks; return 0;
     case kAgentMarks: return marks;

@@ -90,6 +90,12 @@ HWND FocusOf(const Agent& agent);
 // While commands are caught, the program gets none: what a menu gives can be read instead of obeyed.
 void CatchCommands(const Agent& agent, bool on);
 UINT CaughtCommand(const Agent& agent);  // the last one, which is then forgotten; 0 none
-int GdiLevel(const Agent& agent);        // how far the program's table of GDI objects is filled, roughly
+
+// What the program has of the window system's objects.
+struct GuiObjects {
+    int gdi = 0;
+    int user = 0;  // windows, menus, icons and cursors; under Wine those of other programs too
+};
+GuiObjects CountGuiObjects(const Agent& agent);
 
 }  // namespace ui

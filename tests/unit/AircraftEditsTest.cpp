@@ -169,6 +169,49 @@ TEST_F(AircraftEdits, ASectionThatIsGoneMeanwhileIsRefused) {
     EXPECT_EQ(Get(kConfig), "[fltsim.0]\ntitle=First\n");
 }
 
+TEST_F(AircraftEdits, AFileThatIsGoneMeanwhileIsNamed) {
+    const Aircraft aircraft = Load();
+    AircraftFields fields = aircraft.shown;
+    fields.airline = "X";
+    std::filesystem::remove(root / kConfig);
+    EXPECT_FALSE(ApplyFields(aircraft, fields, &bad));
+    ASSERT_EQ(fake.messages.size(), 1u);
+    EXPECT_EQ(fake.messages[0].text, "ERROR: Unable to read file\n" + aircraft.configPath);
+    EXPECT_FALSE(Exists(kConfig)) << "nothing is made in its place";
+}
+
+TEST_F(AircraftEdits, AConfigurationWhoseBytesWouldNotComeBackIsRefused) {
+    const Aircraft aircraft = Load();
+    AircraftFields fields = aircraft.shown;
+    fields.airline = "X";
+    const std::string half("\xFF\xFE[\0]\0\0", 7);  // UTF-16 with half a character at its end
+    Put(kConfig, half);
+    EXPECT_FALSE(ApplyFields(aircraft, fields, &bad));
+    ASSERT_EQ(fake.messages.size(), 1u);
+    EXPECT_EQ(fake.messages[0].text, "ERROR: The encoding of this file is damaged\n" + aircraft.configPath);
+    EXPECT_EQ(Get(kConfig), half);
+}
+
+TEST_F(AircraftEdits, AModelThatHasLostItsRadiusMeanwhileIsRefused) {
+    const Aircraft aircraft = Load();
+    AircraftFields fields = aircraft.shown;
+    fields.radius = "20";
+    Put(kModel, Model(0));
+    EXPECT_FALSE(ApplyFields(aircraft, fields, &bad));
+    ASSERT_EQ(fake.messages.size(), 1u);
+    EXPECT_EQ(fake.messages[0].text, "ERROR: This model no longer has a radius\n" + aircraft.modelPath);
+    EXPECT_EQ(Get(kModel), Model(0));
+    ExpectNoBackups();
+}
+
+TEST_F(AircraftEdits, ABackupWhoseValuesTheFileCannotHoldIsNotRestored) {
+    Put(kConfigBackup, "[fltsim.0]\r\natc_airline=\xE6\x9D\xB1\r\n");
+    EXPECT_FALSE(RestoreAircraft(Load()));
+    ASSERT_EQ(fake.messages.size(), 1u);
+    EXPECT_EQ(fake.messages[0].text, "ERROR: Unable to restore atc_airline in\n" + Load().configPath);
+    EXPECT_EQ(Get(kConfig), kOriginal);
+}
+
 TEST_F(AircraftEdits, WhenTheModelCannotBeWrittenTheConfigurationIsPutBack) {
     std::filesystem::create_directories(root / kModelBackup);  // in the way of the backup
     EXPECT_FALSE(Apply([](AircraftFields* fields) { *fields = { "X", "g", "X", "20" }; }));

@@ -104,6 +104,7 @@ TEST_F(AircraftVariations, ABrokenModelFolderHasNoRadius) {
     EXPECT_EQ(find("[models]\nnormal=missing\n"), "");
     EXPECT_EQ(find(std::string("[models]\nnormal=plain.MDL\0x\n", 28)), "");
     EXPECT_NE(find("; x\n[Models]\n Normal = plain \ncrash=plain\n"), "");
+    EXPECT_NE(find("[models]\nnormal=plain // of the year\n"), "");
 }
 
 TEST_F(AircraftVariations, WithoutASimulatorThereIsNothing) {
@@ -121,7 +122,7 @@ TEST_F(AircraftVariations, TheSampleAircraftAreAllListed) {
     std::vector<Variation> rows = List();
     ASSERT_EQ(rows.size(), 28u);
     for (const Variation& row : rows) EXPECT_GT(row.radius, 0u) << row.title;
-    SortVariations(&rows, kRadius, true);
+    SortVariations(&rows, { kRadius, true });
     EXPECT_EQ(rows.front().type, "777-300");
     EXPECT_EQ(rows.back().type, "172SP Skyhawk");
 }
@@ -142,16 +143,31 @@ std::string Order(const std::vector<Variation>& rows) {
 
 TEST(AircraftSorting, GoesWithoutRegardToCaseAndByTheNumberOfTheRadius) {
     std::vector<Variation> rows = { Row("boeing", "b", 9), Row("Airbus", "c", 20), Row("BOEING", "a", 100) };
-    SortVariations(&rows, kManufacturer, false);
+    SortVariations(&rows, { kManufacturer, false });
     EXPECT_EQ(Order(rows), "cab");
-    SortVariations(&rows, kManufacturer, true);
+    SortVariations(&rows, { kManufacturer, true });
     EXPECT_EQ(Order(rows), "abc");
-    SortVariations(&rows, kRadius, false);
+    SortVariations(&rows, { kRadius, false });
     EXPECT_EQ(Order(rows), "bca");
-    SortVariations(&rows, kRadius, true);
+    SortVariations(&rows, { kRadius, true });
     EXPECT_EQ(Order(rows), "acb");
-    SortVariations(&rows, kAirline, true);
+    SortVariations(&rows, { kAirline, true });
     EXPECT_EQ(Order(rows), "cab") << "equal rows go by manufacturer and type";
+}
+
+TEST(AircraftSorting, ASecondClickOnAHeadTurnsTheOrderAround) {
+    SortOrder order;
+    EXPECT_EQ(order.column, kManufacturer);
+    EXPECT_FALSE(order.descending);
+    const std::pair<int, bool> clicks[] = {
+        { kRadius, false }, { kRadius, true }, { kRadius, false }, { kRadius, true }, { kType, false }
+    };
+    for (const auto& [column, descending] : clicks) {
+        order = OrderAfterClick(order, column);
+        EXPECT_EQ(order.column, column);
+        EXPECT_EQ(order.descending, descending);
+    }
+    EXPECT_TRUE(OrderAfterClick({ kManufacturer, false }, kManufacturer).descending);
 }
 
 TEST(AircraftFinding, FindsTheNextBeginningFromTheGivenRowAndGoesAround) {

@@ -56,7 +56,7 @@ TEST_F(AirportTest, OpeningShowsTheAirportInTheMiddleNorthUp) {
     const std::string path = WriteAirport("mine.bgl", "KTST");
     map::view.rotation = 1;
     map::layers.navaids = true;
-    map::tools.tool = map::Tool::Nodes;
+    map::tools.toolMode = map::Tool::Nodes;
     app::state.savePath = "C:\\old.bgl";
     ASSERT_TRUE(OpenAirportFile(path, "ktst"));
     EXPECT_TRUE(model::state.loaded);
@@ -65,7 +65,7 @@ TEST_F(AirportTest, OpeningShowsTheAirportInTheMiddleNorthUp) {
     EXPECT_NEAR(map::view.centre.lat, build::kMiddle.lat, 1e-8);
     EXPECT_NEAR(map::view.centre.lon, build::kMiddle.lon, 1e-8);
     EXPECT_EQ(map::view.rotation, 0);
-    EXPECT_EQ(map::tools.tool, map::Tool::Pointer);
+    EXPECT_EQ(map::tools.toolMode, map::Tool::Pointer);
     EXPECT_FALSE(map::layers.navaids);
     EXPECT_EQ(app::state.sourceFile, path);
     EXPECT_EQ(app::state.savePath, "") << "Save would overwrite the file of another airport";
@@ -137,14 +137,14 @@ TEST_F(AirportTest, WhatHindersSavingIsToldOnceTheAirportIsShown) {
 TEST_F(AirportTest, ClosingLeavesNothingBehind) {
     ASSERT_TRUE(OpenAirportFile(WriteAirport("TV2_KTST.bgl", "KTST"), ""));
     app::state.savePath = app::state.sourceFile;
-    map::tools.tool = map::Tool::Nodes;
+    map::tools.toolMode = map::Tool::Nodes;
     map::tools.hasClick = true;
     app::CloseAirport();
     EXPECT_FALSE(model::state.loaded);
     EXPECT_EQ(model::state.head, nullptr);
     EXPECT_EQ(app::state.sourceFile, "");
     EXPECT_EQ(app::state.savePath, "");
-    EXPECT_EQ(map::tools.tool, map::Tool::Pointer);
+    EXPECT_EQ(map::tools.toolMode, map::Tool::Pointer);
     EXPECT_FALSE(map::tools.hasClick);
     EXPECT_EQ(fakeShell.title, "Tarvo        ");
 }

@@ -56,9 +56,9 @@ TEST_F(ApproachLightsTest, EachSystemHasItsNumberOfLamps) {
         size_t white, red, green, flashes;
     } kRows[] = { { "none", 0, 0, 0, 0 },        { "ODALS", 0, 0, 0, 7 },        { "MALSF", 45, 0, 0, 3 },
                   { "MALSR", 45, 0, 0, 5 },      { "SSALF", 45, 0, 0, 3 },       { "SSALR", 45, 0, 0, 5 },
-                  { "ALSF-1", 131, 21, 49, 15 }, { "ALSF-2", 144, 54, 49, 15 },  { "RAIL", 0, 0, 0, 5 },
+                  { "ALSF-1", 126, 21, 49, 15 }, { "ALSF-2", 144, 54, 49, 15 },  { "RAIL", 0, 0, 0, 5 },
                   { "CALVERT", 134, 0, 0, 0 },   { "CALVERT-2", 159, 54, 0, 0 }, { "MALS", 45, 0, 0, 0 },
-                  { "SALS", 86, 21, 0, 0 },      { "SSALSF", 45, 0, 0, 3 },      { "SSALS", 45, 0, 0, 0 },
+                  { "SALS", 81, 21, 49, 0 },     { "SSALSF", 45, 0, 0, 3 },      { "SSALS", 45, 0, 0, 0 },
                   { "SSALSR", 45, 0, 0, 5 } };
     static_assert(std::size(kRows) == kApproachSystems);
     for (uint16_t code = 0; code < kApproachSystems; ++code) {
@@ -133,6 +133,16 @@ TEST_F(ApproachLightsTest, AlsfBarrettesStand100FeetApartTo2400Feet) {
     ASSERT_EQ(out.size(), 24u);
     for (size_t i = 0; i < out.size(); ++i) EXPECT_NEAR(out[i], FeetOf(100.0 * double(i + 1)), kNear);
     ExpectFlashes(Stations(1000, 2400, 100));
+}
+
+TEST_F(ApproachLightsTest, TheCentreLineOfAlsfOneBeginsAt300Feet) {
+    for (const uint16_t system : { kAlsf1, kSals }) {
+        Show(system);
+        const std::vector<double> out = OutAlongCentre(Lit(Ink::LightWhite));
+        ASSERT_FALSE(out.empty());
+        EXPECT_NEAR(out.front(), FeetOf(300), kNear) << system;
+        EXPECT_NEAR(out.back(), FeetOf(system == kSals ? 1500 : 2400), kNear) << system;
+    }
 }
 
 TEST_F(ApproachLightsTest, TheDecisionBarIs100FeetWide) {

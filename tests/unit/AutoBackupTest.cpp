@@ -9,7 +9,7 @@
 #include "app/AppState.h"
 #include "app/SaveAirport.h"
 #include "bgl/AirportWriter.h"
-#include "bgl/SceneryFile.h"
+#include "bgl/SceneryStructure.h"
 #include "fakes/BuildObjects.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/FakeShell.h"

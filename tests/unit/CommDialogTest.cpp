@@ -61,7 +61,8 @@ TEST_F(CommDialog, MegahertzAreStoredAsHertz) {
 }
 
 TEST_F(CommDialog, NoFrequencyIsRefusedWithAnExample) {
-    for (const char* text : { "0", "", "  ", "0.0" }) {
+    // What begins with no number reads as 0, and less than a hertz is 0 in the record.
+    for (const char* text : { "0", "", "  ", "0.0", "none", "-", "0.0000001", "0x77", "inf" }) {
         EXPECT_FALSE(Edit([&](CommFields& entered) { entered.frequency = text; })) << text;
         EXPECT_EQ(LastMessage(), "ERROR: You must enter a frequency, for example 121.9");
         EXPECT_EQ(bad.field, Field::Frequency);

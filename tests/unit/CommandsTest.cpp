@@ -118,7 +118,7 @@ TEST_F(CommandsTest, AGreyedCommandStaysDead) {
     EXPECT_FALSE(RunCommand(IDT_SAVE));
     EXPECT_FALSE(RunCommand(IDT_NORMAL_NODE));
     EXPECT_TRUE(fakeShell.saveQuestions.empty());
-    EXPECT_EQ(map::tools.tool, map::Tool::Pointer);
+    EXPECT_EQ(map::tools.toolMode, map::Tool::Pointer);
     EXPECT_EQ(fakeShell.stateRefreshes, 0);
 }
 
@@ -252,7 +252,7 @@ TEST_F(CommandsTest, ANodeButtonChoosesTheToolAndTheKind) {
     } const rows[] = { { IDT_HOLD_SHORT_NODE, 2 }, { IDT_ILS_HOLD_SHORT_NODE, 4 }, { IDT_NORMAL_NODE, 1 } };
     for (const auto& row : rows) {
         RunCommand(row.id);
-        EXPECT_EQ(map::tools.tool, map::Tool::Nodes);
+        EXPECT_EQ(map::tools.toolMode, map::Tool::Nodes);
         EXPECT_EQ(map::tools.nodeKind, row.kind);
         int checked = 0;
         for (const app::ToolButton& button : app::FirstToolbar()) checked += IsCommandChecked(button.command);
@@ -260,7 +260,7 @@ TEST_F(CommandsTest, ANodeButtonChoosesTheToolAndTheKind) {
         EXPECT_TRUE(IsCommandChecked(row.id));
     }
     RunCommand(IDT_POINTER);
-    EXPECT_EQ(map::tools.tool, map::Tool::Pointer);
+    EXPECT_EQ(map::tools.toolMode, map::Tool::Pointer);
     EXPECT_FALSE(IsCommandChecked(IDT_NORMAL_NODE));
 }
 
@@ -372,7 +372,7 @@ TEST_F(CommandsTest, EachToolCommandPressesItsOwnButtonOnly) {
     OpenAnAirport();
     for (const auto& row : rows) {
         EXPECT_TRUE(RunCommand(row.id));
-        EXPECT_EQ(map::tools.tool, row.tool);
+        EXPECT_EQ(map::tools.toolMode, row.tool);
         EXPECT_TRUE(row.linkKind == 0 || map::tools.linkKind == row.linkKind);
         for (const auto& other : rows) EXPECT_EQ(IsCommandChecked(other.id), other.id == row.id);
         EXPECT_FALSE(IsCommandChecked(IDT_POINTER));

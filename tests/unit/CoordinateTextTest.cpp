@@ -86,6 +86,19 @@ TEST_F(CoordinateText, HemisphereLettersFollowTheSign) {
     EXPECT_EQ(Format(1, 0, 0).longitude, "W0.000000");
 }
 
+TEST_F(CoordinateText, PlacesBeyondThe180thMeridianAreShownOnItsOtherSideAndReadBack) {
+    EXPECT_EQ(Format(5, 0, 180.5).longitude, "E179:30:00.00");
+    EXPECT_EQ(Format(5, 0, -180.25).longitude, "W179:45:00.00");
+    EXPECT_EQ(Format(5, 0, 180).longitude, "W180:00:00.00");
+    EXPECT_EQ(Format(5, 0, -180).longitude, "E180:00:00.00");
+    for (const double west : { 180.5, -180.5 }) {
+        const CoordinateTexts texts = Format(1, 47, west);
+        ASSERT_EQ(Parse(texts.latitude, texts.longitude), ParseResult::Changed) << texts.longitude;
+        EXPECT_NEAR(West(), west > 0 ? west - 360 : west + 360, 1e-6);
+    }
+    EXPECT_TRUE(fake.messages.empty());
+}
+
 TEST_F(CoordinateText, MinutesAndSecondsArePaddedWithZeros) {
     EXPECT_EQ(Format(2, 5 + 2.5 / 60, 0).latitude, "N5* 02.5000'");
     EXPECT_EQ(Format(5, 5 + 2.0 / 60 + 3.25 / 3600, 0).latitude, "N5:02:03.25");

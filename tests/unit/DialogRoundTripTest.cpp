@@ -195,6 +195,12 @@ protected:
         build::Vor();
     }
 
+    // Often the ends of ranges: then many a float is no number.
+    uint8_t AnyByte() {
+        constexpr uint8_t kEnds[] = { 0x00, 0x7F, 0x80, 0xFF };
+        return Chance(30) ? kEnds[Below(std::size(kEnds))] : static_cast<uint8_t>(Random());
+    }
+
     // Random bytes where a record's shape does not depend on them, and where the model does not point.
     void Scramble() {
         for (SceneryObject* object : build::List()) {
@@ -204,7 +210,7 @@ protected:
             if (kind == model::kParkingSpot) from = 4;
             if (kind == model::kApron || kind == model::kTaxiDesignator) continue;
             if (kind == model::kApronEdgeLights) to = offsetof(model::EdgeLightsHead, stripCount);
-            for (size_t i = from; i < to; ++i) object->payload[i] = static_cast<uint8_t>(Random());
+            for (size_t i = from; i < to; ++i) object->payload[i] = AnyByte();
             if (kind == model::kCommFrequency) object->payload[object->payloadSize - 1] = 0;
         }
     }
@@ -256,6 +262,15 @@ protected:
         SceneryObject* object = list[Below(static_cast<uint32_t>(list.size()))];
         if (model::KindOf(object) != model::kAirport) DeleteEntry(object);
     }
+    void NewMarkers() {
+        NewMarkerFields shown;
+        if (!LoadNewMarkerFields(&shown)) return;
+        NewMarkerFields entered = shown;
+        Mutate(entered.runwayEnd, static_cast<int>(MarkerRunwayChoices().size()));
+        for (bool& wanted : entered.wanted) Mutate(wanted);
+        for (std::string& distance : entered.distance) Mutate(distance);
+        CreateMarkers(shown, entered, &bad);
+    }
     void Step() {
         const auto list = build::List();
         SceneryObject* object = list[Below(static_cast<uint32_t>(list.size()))];
@@ -269,14 +284,19 @@ protected:
             return;
         }
         case 4: object->flags ^= model::kSelected; return;
+        case 5: return NewMarkers();
         default: break;
         }
         if (model::IsReplacedStock(object)) return;
         if (model::HasPosition(object) && Chance(20)) MoveToClick(object, build::At({ 10, 10 }));
+        const int before = Actions();
+        const uint32_t kind = model::KindOf(object);
         if (!RunDialog(object, true)) CancelDialog();
+        if (Actions() > before) ++recordedOf[kind];
     }
 
     std::mt19937 generator{ 2004 };
+    std::map<uint32_t, int> recordedOf;  // actions of the dialog of each kind
 };
 
 TEST_F(DialogRoundTrip, OkWithoutAChangeChangesNothingWhateverTheRecordsHold) {
@@ -328,6 +348,11 @@ TEST_F(DialogRoundTrip, UndoingTenThousandSequencesOfEditsGivesTheOriginalBytes)
         while (model::CanUndo()) model::Undo();
     }
     EXPECT_GT(recorded, 10000);
+    for (const uint32_t kind :
+         { model::kAirport, model::kRunway, model::kHelipad, model::kCommFrequency, model::kStartLocation,
+           model::kTaxiNode, model::kTaxiLink, model::kParkingSpot, model::kApron, model::kApronEdgeLights, model::kIls,
+           model::kMarkerBeacon, model::kNdb, model::kVorDme, model::kTowerViewpoint })
+        EXPECT_GT(recordedOf[kind], 50) << "the dialog of kind " << kind << " was hardly tested";
 }
 
 }  // namespace

@@ -12,7 +12,6 @@
 #include "fakes/FakePlatform.h"
 #include "fakes/FakeShell.h"
 #include "fakes/RecordingCanvas.h"
-#include "map/HoldShortUpdate.h"
 #include "map/MapView.h"
 #include "map/PaintMap.h"
 #include "model/EditHistory.h"
@@ -145,33 +144,6 @@ TEST_F(EditCommandsTest, AClickOnTheMapGoesToTheOpenDialog) {
     EXPECT_TRUE(dialogs::TakeMapClick({ 0.5, 1 }));
     EXPECT_EQ(clicked.lat, 0.5);
     EXPECT_EQ(clicked.lon, 1);
-}
-
-// The link to the runway gets another type in its dialog: the way there is another one then.
-TEST_F(EditCommandsTest, HoldShortMarkingsFollowWhatADialogChanges) {
-    OpenAirport();
-    build::Runway(36);
-    model::SceneryObject* hold = build::Node({ 80, 0 }, model::kHoldShortNode);
-    model::SceneryObject* link = build::Link(hold, build::Node({ 5, 130 }));
-    build::Link(hold, build::Node({ 70, 0 }));
-    const auto isReversed = [&] { return model::PayloadAs<model::TaxiNodeRecord>(hold).reversed != 0; };
-    model::BeginAction();
-    map::UpdateHoldShort(hold);
-    ASSERT_TRUE(isReversed());
-    app::EditProperties(link);
-    EXPECT_TRUE(isReversed());
-    fakeEditors.meanwhile = [&] {
-        model::SceneryObject* edited = model::CopyObject(link);
-        auto& payload = model::PayloadAs<model::TaxiLinkPayload>(edited);
-        payload.flagsWord = (payload.flagsWord & ~0xFu) | model::kRunwayLink;
-        model::BeginAction();
-        model::ModifyObject(edited, link);
-    };
-    app::EditProperties(link);
-    EXPECT_FALSE(isReversed());
-    model::Undo();
-    EXPECT_TRUE(isReversed());
-    EXPECT_EQ(model::LinkTypeOf(model::PayloadAs<model::TaxiLinkPayload>(link)), model::kTaxiwayLink);
 }
 
 }  // namespace

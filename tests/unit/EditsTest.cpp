@@ -3,6 +3,7 @@
 #include "dialogs/PositionField.h"
 #include "dialogs/Subject.h"
 #include "fakes/DialogFixture.h"
+#include "map/HoldShortUpdate.h"
 #include "map/MapView.h"
 #include "model/CoordinateText.h"
 #include "model/DeleteRules.h"
@@ -157,6 +158,34 @@ TEST_F(EditsTest, TheSubjectReplacesTheSelectionUnlessItIsPartOfItOrAKeyIsHeld) 
     EXPECT_FALSE(model::IsSelected(a));
     EXPECT_TRUE(model::IsSelected(b));
     EXPECT_EQ(state.undoHead, nullptr);
+}
+
+TEST_F(EditsTest, AnApronThatBecomesTheSubjectIsSelectedAsAWhole) {
+    SceneryObject* apron = build::Apron({ build::Encoded({}), build::Encoded({ 100, 0 }), build::Encoded({ 0, 100 }) });
+    SelectSubject(apron, false);
+    model::BeginAction();
+    EXPECT_EQ(model::DeleteSelected(), 1);
+    EXPECT_EQ(state.head, nullptr);
+}
+
+// The link to the runway gets another type: the way there is another one then.
+TEST_F(EditsTest, HoldShortMarkingsFollowInTheSameAction) {
+    build::Runway(36);
+    SceneryObject* hold = build::Node({ 80, 0 }, model::kHoldShortNode);
+    SceneryObject* link = build::Link(hold, build::Node({ 5, 130 }));
+    build::Link(hold, build::Node({ 70, 0 }));
+    auto isReversed = [&] { return As<model::TaxiNodeRecord>(hold).reversed != 0; };
+    model::BeginAction();
+    map::UpdateHoldShort(hold);
+    ASSERT_TRUE(isReversed());
+    model::ClearHistory();
+    auto& draft = As<model::TaxiLinkPayload>(DraftOf(&edits, link));
+    draft.flagsWord = (draft.flagsWord & ~0xFu) | model::kRunwayLink;
+    EXPECT_TRUE(Commit(&edits));
+    EXPECT_FALSE(isReversed());
+    EXPECT_EQ(Actions(), 1);
+    model::Undo();
+    EXPECT_TRUE(isReversed());
 }
 
 TEST_F(EditsTest, OnlyAPlaceOutsideTheViewIsCentred) {

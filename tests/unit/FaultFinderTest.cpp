@@ -107,6 +107,15 @@ TEST_F(FaultFinder, ClosingHidesTheMarkerAndOpeningStartsOver) {
     EXPECT_EQ(FindFaults(AllSwitches()), faults::kHoldShortMessage);
 }
 
+TEST_F(FaultFinder, WhenOneOfTwoWindowsClosesTheOtherGoesOn) {
+    Node({}, model::kHoldShortNode);
+    EXPECT_EQ(FindFaults(AllSwitches()), faults::kHoldShortMessage);
+    faults::CloseFinder();
+    EXPECT_EQ(FindFaults(AllSwitches()), faults::kIsolatedNodeMessage);
+    faults::CloseFinder();
+    EXPECT_EQ(FindFaults(AllSwitches()), "No more faults found.");
+}
+
 TEST_F(FaultFinder, AnotherAirportStartsOverWithoutTheMarker) {
     Node({}, model::kHoldShortNode);
     FindFaults(AllSwitches());

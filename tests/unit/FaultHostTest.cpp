@@ -4,8 +4,10 @@
 #include <gtest/gtest.h>
 
 #include "app/Airport.h"
+#include "app/AppState.h"
 #include "dialogs/OverMap.h"
 #include "fakes/FakeShell.h"
+#include "fakes/TestLibrary.h"
 #include "map/FaultMarker.h"
 #include "model/ObjectList.h"
 
@@ -29,9 +31,14 @@ TEST(FaultHost, TheMenusShowWhatTheFinderHasSwitched) {
 
 TEST(FaultHost, HelpOpensAtTheFindersTopic) {
     ResetProgram();
+    const TestLibrary files;
+    files.PutCache("ReadMe.htm", "<h1>Manual</h1>");
+    app::state.programFolder = files.program;
+    fakeShell.registeredCommands["http"] = "b.exe %1";
     faults::OpenHelpTopic("#FaultFinder");
-    ASSERT_EQ(fakeShell.helpTopics.size(), 1u);
-    EXPECT_EQ(fakeShell.helpTopics[0], "#FaultFinder");
+    ASSERT_EQ(fakeShell.startedCommands.size(), 1u);
+    EXPECT_TRUE(fakeShell.startedCommands[0].ends_with("/ReadMe.htm#FaultFinder"));
+    ResetProgram();
 }
 
 TEST(FaultHost, ClosingTheAirportTakesItsMarkerAway) {

@@ -1,7 +1,8 @@
 // FaultSearchTest.cpp - the order of the checks, resuming, edits between presses, switches; and the corpus: an
 // airport without faults, and each fault in it.
-#include <functional>
+#include <iterator>
 #include <random>
+#include <set>
 
 #include "fakes/FaultAirport.h"
 
@@ -63,23 +64,25 @@ TEST_F(FaultSearch, AfterTheLastFaultThereAreNoMoreAndTheNextPressStartsAgain) {
 }
 
 TEST_F(FaultSearch, ChecksRunInTheirOrder) {
-    const CleanAirport a = MakeCleanAirport();
-    build::Apron(
-        { build::Encoded({ 0, 0 }), build::Encoded({ 50, 50 }), build::Encoded({ 50, 0 }), build::Encoded({ 0, 50 }) });
-    Link(a.westCorner, a.apronNode, model::kRunwayLink);
-    model::UnlinkObject(a.baseStart);
-    model::FreeObject(a.baseStart);
-    SceneryObject* twin = Node({ 3, 250 });
-    Link(twin, a.westCorner);
-    Link(twin, a.eastCorner);
-    Link(Node({ 0, 3000 }), Node({ 300, 3000 }));
-    Node({ 0, 4000 });
-    Node({ 15, 4000 });
-    Node({ 0, 5000 }, model::kHoldShortNode);
-    EXPECT_EQ(FirstLines(AllFaults()),
-              (Lines{ "HOLD-SHORT NODE too far from runway.", "NODES POSSIBLY UNCONNECTED.", "ISOLATED SEGMENT.",
-                      "ISOLATED NODE.", "ISOLATED NODE.", "ISOLATED NODE.", "OVERLAPPING NODES.", "BAD START LOCATION.",
-                      "MISPLACED RUNWAY LINK.", "CROSSED APRON EDGES." }));
+    MakeBrokenAirport();
+    EXPECT_EQ(FirstLines(AllFaults()), Lines(std::begin(kFaultsOfBrokenAirport), std::end(kFaultsOfBrokenAirport)));
+}
+
+TEST_F(FaultSearch, WhatWasListedCanBeDroppedAndTheCheckGoesOnBehindIt) {
+    MakeBrokenAirport();
+    while (NextLine() != "ISOLATED SEGMENT.") {
+    }
+    DropLists(&search);
+    EXPECT_EQ(NextLine(), "ISOLATED PARKING.");
+    DropLists(&search);
+    for (int i = 0; i < 3; ++i) EXPECT_EQ(NextLine(), "ISOLATED NODE.");
+    EXPECT_EQ(NextLine(), "OVERLAPPING NODES.");
+    DropLists(&search);
+    EXPECT_EQ(NextLine(), "BAD START LOCATION.");
+    DropLists(&search);
+    EXPECT_EQ(NextLine(), "LINK DESIGNATOR DOESN'T MATCH THE RUNWAY.");
+    DropLists(&search);
+    EXPECT_EQ(NextLine(), "MISPLACED RUNWAY LINK.");
 }
 
 TEST_F(FaultSearch, AnEditStartsTheCheckAgainAndForgetsEarlierFaults) {
@@ -186,6 +189,17 @@ TEST_F(FaultSearch, AnotherAirportInBetweenIsNoDanger) {
     EXPECT_EQ(Next(), SearchResult::NoFaults);
 }
 
+TEST_F(FaultSearch, LinksWithoutAnEndAreNoDangerAndStillCountAtTheOther) {
+    SceneryObject* node = Node({ 0, 0 });
+    for (uint32_t type : { model::kTaxiwayLink, model::kRunwayLink }) Link(node, nullptr, type);
+    Link(nullptr, nullptr, model::kRunwayLink);
+    EXPECT_EQ(FirstLines(AllFaults()), Lines{ "ISOLATED NODE." });
+    Node({ 10, 0 });  // open, beside the node with two links and beside no link
+    const auto reports = AllFaults(Only(FaultCheck::OpenLinks));
+    ASSERT_EQ(reports.size(), 1u);
+    ExpectAt(reports[0], { 10, 0 });
+}
+
 TEST_F(FaultSearch, CodesOfMoreThanOneTurnAreNoDanger) {
     std::mt19937 random(1);
     std::vector<SceneryObject*> nodes;
@@ -203,76 +217,141 @@ TEST_F(FaultSearch, CodesOfMoreThanOneTurnAreNoDanger) {
 
 namespace {
 
-struct Seeded {
-    const char* name;
-    std::function<void(const CleanAirport&)> seed;
-    Lines expected;
+struct Told {
+    std::string line;
+    std::vector<SceneryObject*> objects;  // in any order
+    build::Place at;
 };
 
-void Free(SceneryObject* object) {
-    model::UnlinkObject(object);
-    model::FreeObject(object);
+struct Seeded {
+    const char* name;
+    std::vector<Told> (*seed)(const CleanAirport& a);  // into the airport; what is to be told of it then
+};
+
+std::multiset<SceneryObject*> AsSet(const std::vector<SceneryObject*>& objects) {
+    return { objects.begin(), objects.end() };
+}
+
+constexpr const char* kSegment = "ISOLATED SEGMENT.";
+constexpr build::Place kWestStart = { -1000 + 60.96, 0 }, kEastStart = { 1000 - 60.96, 0 };
+
+SceneryObject* DesignateAfter(SceneryObject* link, SceneryObject* runway) {
+    PayloadAs<model::TaxiLinkPayload>(link).designator = runway;
+    return link;
 }
 
 const Seeded kCorpus[] = {
     { "hold-short node too far",
       [](auto& a) {
           model::SetPosition(a.eastHold, build::At({ 950, 95 }));
-      },
-      { "HOLD-SHORT NODE too far from runway." } },
+          return std::vector<Told>{ { "HOLD-SHORT NODE too far from runway.", { a.eastHold }, { 950, 95 } } };
+      } },
+    { "ILS hold-short node far off",
+      [](auto& a) {
+          PayloadAs<model::TaxiNodeRecord>(a.apronNode).type = model::kIlsHoldShortNode;
+          return std::vector<Told>{};
+      } },
     { "open end beside a node",
       [](auto& a) {
-          Link(a.apronNode, Node({ 935, 155 }));
-      },
-      { "NODES POSSIBLY UNCONNECTED." } },
+          SceneryObject* end = Node({ 935, 155 });
+          Link(a.apronNode, end);
+          return std::vector<Told>{ { "NODES POSSIBLY UNCONNECTED.", { end, a.eastCorner }, { 935, 155 } } };
+      } },
     { "open end beside a link",
       [](auto& a) {
-          Link(a.apronNode, Node({ 500, 160 }));
-      },
-      { "NODE AND LINK POSSIBLY UNCONNECTED." } },
+          SceneryObject* end = Node({ 500, 160 });
+          Link(a.apronNode, end);
+          return std::vector<Told>{ { "NODE AND LINK POSSIBLY UNCONNECTED.", { end, a.taxiLink }, { 500, 160 } } };
+      } },
     { "segment",
       [](auto&) {
-          Link(Node({ 0, 2000 }), Node({ 500, 2000 }));
-      },
-      { "ISOLATED SEGMENT." } },
+          SceneryObject *start = Node({ 0, 2000 }), *end = Node({ 500, 2000 });
+          return std::vector<Told>{ { kSegment, { start, end, Link(start, end) }, { 0, 2000 } } };
+      } },
     { "segment with parking",
       [](auto&) {
-          Link(Node({ 0, 2000 }), build::Spot({ 500, 2000 }), model::kParkingLink);
-      },
-      { "ISOLATED SEGMENT." } },
+          SceneryObject *node = Node({ 0, 2000 }), *spot = build::Spot({ 500, 2000 });
+          SceneryObject* link = Link(node, spot, model::kParkingLink);
+          return std::vector<Told>{ { kSegment, { node, spot, link }, { 0, 2000 } } };
+      } },
+    { "the only way closed",
+      [](auto& a) {
+          PayloadAs<model::TaxiLinkPayload>(a.apronLink).flagsWord = model::kClosedLink;
+          SceneryObject *second = a.apron->prev, *first = second->prev;  // the links to the spots
+          return std::vector<Told>{
+              { kSegment, { a.apronNode, a.firstSpot, a.secondSpot, first, second }, { 0, 250 } }
+          };
+      } },
     { "parking",
       [](auto&) {
-          build::Spot({ 0, 2000 });
-      },
-      { "ISOLATED PARKING." } },
+          return std::vector<Told>{ { "ISOLATED PARKING.", { build::Spot({ 0, 2000 }) }, { 0, 2000 } } };
+      } },
+    { "parking behind a closed link",
+      [](auto& a) {
+          SceneryObject* spot = build::Spot({ 0, 400 });
+          Link(a.apronNode, spot, model::kClosedLink);
+          return std::vector<Told>{ { "ISOLATED PARKING.", { spot }, { 0, 400 } } };
+      } },
     { "node",
       [](auto&) {
-          Node({ 0, 2000 });
-      },
-      { "ISOLATED NODE." } },
+          return std::vector<Told>{ { "ISOLATED NODE.", { Node({ 0, 2000 }) }, { 0, 2000 } } };
+      } },
+    { "node behind a closed link",
+      [](auto& a) {
+          Link(a.apronNode, Node({ 0, 400 }), model::kClosedLink);
+          return std::vector<Told>{};
+      } },
     { "overlap",
       [](auto& a) {
           SceneryObject* twin = Node({ 3, 150 });
           Link(twin, a.apronNode);
           Link(twin, a.eastCorner);
-      },
-      { "OVERLAPPING NODES." } },
-    { "missing start", [](auto& a) { Free(a.reciprocalStart); }, { "BAD START LOCATION." } },
+          return std::vector<Told>{ { "OVERLAPPING NODES.", { a.junction, twin }, { 0, 150 } } };
+      } },
+    { "missing start",
+      [](auto& a) {
+          Free(a.reciprocalStart);
+          return std::vector<Told>{ { "BAD START LOCATION.", { a.runway }, kEastStart } };
+      } },
     { "start with the wrong name",
-      [](auto& a) { PayloadAs<model::StartLocationRecord>(a.baseStart).number = 10; },
-      { "BAD START LOCATION." } },
+      [](auto& a) {
+          PayloadAs<model::StartLocationRecord>(a.baseStart).number = 10;
+          return std::vector<Told>{ { "BAD START LOCATION.", { a.runway }, kWestStart } };
+      } },
+    { "start of a helipad",
+      [](auto& a) {
+          PayloadAs<model::StartLocationRecord>(a.baseStart).designatorAndType = 0x30;
+          return std::vector<Told>{ { "BAD START LOCATION.", { a.runway }, kWestStart } };
+      } },
+    { "missing start of a closed end",
+      [](auto& a) {
+          Free(a.reciprocalStart);
+          PayloadAs<model::RunwayPayload>(a.runway).body.pattern = 0x08;
+          return std::vector<Told>{};
+      } },
     { "misplaced runway link",
-      [](auto& a) { PayloadAs<model::TaxiLinkPayload>(a.apronLink).flagsWord = model::kRunwayLink; },
-      { "MISPLACED RUNWAY LINK." } },
+      [](auto& a) {
+          PayloadAs<model::TaxiLinkPayload>(a.apronLink).flagsWord = model::kRunwayLink;
+          return std::vector<Told>{ { "MISPLACED RUNWAY LINK.", { a.apronLink }, { 0, 200 } } };
+      } },
     { "runway link without a name",
-      [](auto& a) { PayloadAs<model::TaxiLinkPayload>(a.runwayLink).designator = nullptr; },
-      { "LINK DESIGNATOR DOESN'T MATCH THE RUNWAY." } },
+      [](auto& a) {
+          SceneryObject* link = DesignateAfter(a.runwayLink, nullptr);
+          return std::vector<Told>{ { "LINK DESIGNATOR DOESN'T MATCH THE RUNWAY.", { link }, {} } };
+      } },
+    { "runway link named after another runway",
+      [](auto& a) {
+          SceneryObject* other = HeadedRunway(4, 40, { 9000, 0 });
+          PayloadAs<model::RunwayPayload>(other).body.pattern = 0x09;
+          SceneryObject* link = DesignateAfter(a.runwayLink, other);
+          return std::vector<Told>{ { "LINK DESIGNATOR DOESN'T MATCH THE RUNWAY.", { link }, {} } };
+      } },
     { "crossed apron",
       [](auto&) {
-          build::Apron({ build::Encoded({ 0, 400 }), build::Encoded({ 50, 450 }), build::Encoded({ 50, 400 }),
-                         build::Encoded({ 0, 450 }) });
-      },
-      { "CROSSED APRON EDGES." } },
+          SceneryObject* apron = build::Apron({ build::Encoded({ 0, 400 }), build::Encoded({ 50, 450 }),
+                                                build::Encoded({ 50, 400 }), build::Encoded({ 0, 450 }) });
+          return std::vector<Told>{ { "CROSSED APRON EDGES.", { apron }, { 25, 425 } } };
+      } },
 };
 
 }  // namespace
@@ -281,7 +360,13 @@ TEST_F(FaultSearch, EachFaultInACleanAirportGivesItsReportAndNoOther) {
     for (const Seeded& seeded : kCorpus) {
         SCOPED_TRACE(seeded.name);
         model::ClearModel();
-        seeded.seed(MakeCleanAirport());
-        EXPECT_EQ(FirstLines(AllFaults()), seeded.expected);
+        const std::vector<Told> expected = seeded.seed(MakeCleanAirport());
+        const std::vector<FaultReport> reports = AllFaults();
+        ASSERT_EQ(reports.size(), expected.size()) << testing::PrintToString(FirstLines(reports));
+        for (size_t i = 0; i < reports.size(); ++i) {
+            EXPECT_EQ(FirstLine(reports[i].message), expected[i].line);
+            EXPECT_EQ(AsSet(reports[i].objects), AsSet(expected[i].objects));
+            ExpectAt(reports[i], expected[i].at, 0.3);
+        }
     }
 }

@@ -80,6 +80,22 @@ TEST_F(FaultsCommand, FaultsAreStatusThreeAndToldInFull) {
     EXPECT_EQ(result.output.find('\r'), std::string::npos);
 }
 
+TEST_F(FaultsCommand, TheFileOfABrokenAirportHasAllItsFaultsInTheirOrder) {
+    MakeBrokenAirport();
+    const ToolResult result = Faults({ Save("broken.bgl") });
+    EXPECT_EQ(result.status, 3);
+    EXPECT_TRUE(result.output.starts_with(
+        "TEST: 15 faults: 1 Hold Short Limits, 2 Open Links, 6 Isolated Segments, 1 Overlapping Nodes, "
+        "2 Default Start Locations, 2 Runway Links, 1 Apron Polygons\n"))
+        << result.output.substr(0, 200);
+    size_t at = 0;
+    for (const char* line : kFaultsOfBrokenAirport) {
+        const size_t found = result.output.find(std::string("\n    ") + line, at);
+        ASSERT_NE(found, std::string::npos) << line;
+        at = found + 1;
+    }
+}
+
 TEST_F(FaultsCommand, JsonHoldsEachReport) {
     const std::string path = FaultyFile("faulty.bgl");
     const ToolResult result = Faults({ path, "--json" });

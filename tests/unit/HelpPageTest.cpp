@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "app/AppState.h"
+#include "fakes/FakeShell.h"
+#include "fakes/TestLibrary.h"
+
 namespace {
 
 using app::BrowserCommand;
@@ -58,5 +62,60 @@ TEST(HelpPageTest, TheUrlIsNotTakenForAPlaceItself) {
 }
 
 TEST(HelpPageTest, WithoutABrowserThereIsNoCommand) { EXPECT_EQ(BrowserCommand("", "file:///C:/a.htm"), ""); }
+
+// What opens the page.
+
+using Commands = std::vector<std::string>;
+
+class OpenHelpTest : public testing::Test {
+protected:
+    OpenHelpTest() {
+        ResetProgram();
+        app::state.programFolder = files.program;
+        files.PutCache("ReadMe.htm", "<h1>Manual</h1>");
+    }
+    ~OpenHelpTest() override { ResetProgram(); }
+
+    std::string Page() const { return app::HelpFile(files.program); }
+    std::string Url() const { return FileUrl(Page(), "#Options"); }
+
+    TestLibrary files;
+};
+
+TEST_F(OpenHelpTest, TheBrowserForWebAddressesIsAskedFirstAndGetsTheTopic) {
+    fakeShell.registeredCommands = { { "http", "web.exe %1" }, { ".htm", "page.exe %1" } };
+    app::OpenHelp("#Options");
+    EXPECT_EQ(fakeShell.startedCommands, Commands{ "web.exe " + Url() });
+    EXPECT_TRUE(fakeShell.documents.empty());
+}
+
+TEST_F(OpenHelpTest, WithoutItTheProgramForPagesIsAsked) {
+    fakeShell.registeredCommands = { { ".htm", "page.exe %1" } };
+    app::OpenHelp("#Options");
+    EXPECT_EQ(fakeShell.startedCommands, Commands{ "page.exe " + Url() });
+    EXPECT_TRUE(fakeShell.documents.empty());
+}
+
+TEST_F(OpenHelpTest, WhenNeitherStartsTheShellOpensThePage) {
+    fakeShell.registeredCommands = { { "http", "web.exe %1" }, { ".htm", "page.exe %1" } };
+    fakeShell.commandsStart = false;
+    app::OpenHelp("#Options");
+    EXPECT_EQ(fakeShell.startedCommands, (Commands{ "web.exe " + Url(), "page.exe " + Url() }));
+    EXPECT_EQ(fakeShell.documents, Commands{ Page() });
+}
+
+TEST_F(OpenHelpTest, WithNothingRegisteredTheShellOpensThePage) {
+    app::OpenHelp("#Options");
+    EXPECT_TRUE(fakeShell.startedCommands.empty());
+    EXPECT_EQ(fakeShell.documents, Commands{ Page() });
+}
+
+TEST_F(OpenHelpTest, WithoutThePageNothingIsStarted) {
+    fakeShell.registeredCommands = { { "http", "web.exe %1" } };
+    app::state.programFolder = files.simulator;
+    app::OpenHelp("#Options");
+    EXPECT_TRUE(fakeShell.startedCommands.empty());
+    EXPECT_TRUE(fakeShell.documents.empty());
+}
 
 }  // namespace

@@ -102,6 +102,17 @@ TEST_F(HoldShortFault, InsideARunwayOf450FeetEveryPlacePasses) {
     EXPECT_EQ(Faults(), 1u);
 }
 
+TEST_F(HoldShortFault, TheInsideTestBeginsAt450FeetOfWidth) {
+    model::SceneryObject* runway = HeadedRunway(9, 90);
+    PayloadOf(runway).body.length = 500;
+    Node({}, kHoldShortNode);
+    for (float width : { 137.1f, 137.2f, 137.5f, 200.0f }) {  // 449.8, 450.1 feet: from the middle to the side 225
+        PayloadOf(runway).body.width = width;
+        EXPECT_EQ(Faults(), 0u) << width;
+    }
+    EXPECT_DOUBLE_EQ(faults::kWideRunway, 450.0);
+}
+
 TEST_F(HoldShortFault, ReportsTheNodesInListOrderWithTheirPlaces) {
     model::SceneryObject* first = Node({ 0, 500 }, kHoldShortNode);
     Node({ 0, 600 });

@@ -1,7 +1,9 @@
 #include "dialogs/IlsDialog.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstring>
+#include <limits>
 
 #include "dialogs/Choices.h"
 #include "dialogs/ListRows.h"
@@ -100,6 +102,29 @@ TEST_F(NewIls, TheLocalizerStandsBeyondTheFarBlastPad) {
 TEST_F(NewIls, HeadingsWrapBelow360) {
     Runway().heading = 270;
     EXPECT_EQ(+Ils(Create(kReciprocalEnd)).localizer.heading, 90);
+    Runway().heading = std::nextafter(180.0F, 0.0F);  // the other way is 360 to a float
+    EXPECT_EQ(+Ils(Create(kReciprocalEnd)).localizer.heading, 0);
+}
+
+TEST_F(NewIls, ABlastPadOfNonsensicalLengthCountsAsNone) {
+    for (const float length : { std::nanf(""), std::numeric_limits<float>::infinity() }) {
+        Parts().secondaryBlastPad.length = length;
+        const model::IlsPayload& ils = Ils(Create(kBaseEnd));
+        EXPECT_NEAR(At(ils.body.longitude, ils.body.latitude).north, 1500 + 304.8, 0.5);
+        EXPECT_NEAR(+ils.localizer.width, 3.64, 0.01);
+    }
+}
+
+TEST_F(NewIls, WithoutAChosenRunwayThereIsNone) {
+    const auto ends = EndsForNewIls();
+    ASSERT_EQ(ends.size(), 2u);
+    EXPECT_EQ(ChosenEnd(ends, 1, &bad), &ends[1]);
+    for (const int choice : { -1, 2 }) {
+        fake.messages.clear();
+        EXPECT_EQ(ChosenEnd(ends, choice, &bad), nullptr);
+        EXPECT_EQ(LastMessage(), "ERROR: You must select a runway");
+        EXPECT_EQ(bad.field, Field::Runway);
+    }
 }
 
 TEST_F(NewIls, TheGlideSlopeStands300MetresInAnd120MetresToTheRight) {
@@ -307,6 +332,22 @@ TEST_F(IlsDialog, TheNameGoesToTheRunwayEndThatIsChosen) {
     EXPECT_EQ(+Runway().primaryIls, 0u);
     EXPECT_EQ(+Runway().secondaryIls, model::PackIdent("IABC"));
     EXPECT_EQ(Ils(ils).localizer.runwayNumber, 18);
+}
+
+TEST_F(IlsDialog, ARunwayEndThatAnotherIlsServesIsRefused) {
+    SceneryObject *base = Create(kBaseEnd), *other = Create(kReciprocalEnd);
+    const auto before = Bytes(other);
+    const int actions = Actions();
+    const auto take = [](IlsFields& entered) { entered.number = 36, entered.suffix = 1; };
+    EXPECT_FALSE(Edit(other, take));
+    EXPECT_EQ(LastMessage(), "ERROR: Runway 36L already has an ILS");
+    EXPECT_EQ(bad.field, Field::Runway);
+    EXPECT_EQ(Bytes(other), before);
+    EXPECT_EQ(Actions(), actions);
+    EXPECT_TRUE(DeleteEntry(base));
+    EXPECT_TRUE(Edit(other, take));
+    EXPECT_EQ(+Runway().primaryIls, model::PackIdent("IABC"));
+    EXPECT_EQ(+Runway().secondaryIls, 0u);
 }
 
 TEST_F(IlsDialog, TwoNewIlsOfOneIdentAreToldApartByTheirRunwayEnds) {

@@ -44,7 +44,7 @@ protected:
     static bool ReadBack(const CacheTexts& texts) {
         library = {};
         if (bgl::ParseFileList(texts, "C:\\FS9") == CacheState::Missing) return false;
-        for (bgl::LibraryFile& file : library.files) file.present = true;
+        for (bgl::SceneryFile& file : library.files) file.present = true;
         bgl::ParseAirportIndex(texts.airportIndex);
         return true;
     }
@@ -105,7 +105,7 @@ TEST_F(IndexCache, ReadFilesAreNotPresentUntilTheScanFindsThem) {
     const CacheTexts texts = ThreeFiles();
     library = {};
     ASSERT_EQ(bgl::ParseFileList(texts, "C:\\FS9"), CacheState::Checked);
-    for (const bgl::LibraryFile& file : library.files) EXPECT_FALSE(file.present);
+    for (const bgl::SceneryFile& file : library.files) EXPECT_FALSE(file.present);
     library.files[0].present = true;
     library.files[2].present = true;
     library.files[2].kind = FileKind::NotExamined;

@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <functional>
@@ -12,23 +13,28 @@
 #include <regex>
 #include <thread>
 
+#include "aircraft/FilePair.h"
+#include "app/AppState.h"
+#include "app/AutoBackup.h"
 #include "app/Settings.h"
 #include "app/SettingsFile.h"
 #include "bgl/AirportIndex.h"
 #include "bgl/AirportWriter.h"
 #include "bgl/IndexCache.h"
 #include "bgl/OpenAirport.h"
-#include "bgl/SceneryFile.h"
+#include "bgl/SceneryStructure.h"
 #include "fakes/BuildObjects.h"
 #include "fakes/FakeProfile.h"
 #include "fakes/FakeShell.h"
+#include "fakes/Rounds.h"
 #include "fakes/TestLibrary.h"
+#include "map/MapView.h"
 #include "model/ObjectList.h"
 #include "platform/Files.h"
 
 namespace {
 
-constexpr int kKills = 200;
+const int kKills = Rounds(200, 1000);
 
 class Killed : public testing::Test {
 protected:
@@ -41,8 +47,8 @@ protected:
         bgl::library = {};
     }
 
-    // Lets a child write version after version, kills it at a random moment and looks at what it left; 200 times.
-    // The parent knows that writing has begun, so that no kill comes too early. The unfinished siblings that killed
+    // Lets a child write version after version, kills it at a random moment and looks at what it left; kKills
+    // times. The parent knows that writing has begun, so that no kill comes too early. The unfinished siblings that killed
     // writers leave stay until the folder of the test goes: here nothing removes them, Windows builds do.
     void KillDuring(const std::function<void(int version)>& write, const std::function<void()>& look) {
         for (int kill = 0; kill < kKills; ++kill) {
@@ -76,25 +82,87 @@ protected:
     std::uniform_int_distribution<int> delay{ 0, 4000 };
 };
 
+void MakeAirportOfVersion(int version) {
+    model::ClearModel();
+    model::state.airport = build::Airport("KTST");
+    model::state.loaded = model::state.modified = true;
+    for (int i = 0; i < 50 + version; ++i) build::Node({ double(i), double(version) });
+}
+
+// The open airport is all that the file holds.
+void ExpectWholeFileOfAirport(const std::string& path) {
+    EXPECT_GE(model::CountKind(model::kTaxiNode), 50u);
+    std::vector<uint8_t> left, again;
+    std::string refusal;
+    ASSERT_TRUE(platform::ReadWholeFile(path, 1 << 24, &left));
+    ASSERT_TRUE(bgl::BuildAirportFile(0, &again, &refusal)) << refusal;
+    EXPECT_EQ(left.size(), again.size()) << "the file is cut";
+}
+
 TEST_F(Killed, WhileSavingAnAirport) {
     const std::string path = disk.program + "/TV2_KTST.bgl";
     const auto write = [&](int version) {
-        model::ClearModel();
-        model::state.airport = build::Airport("KTST");
-        for (int i = 0; i < 50 + version; ++i) build::Node({ double(i), double(version) });
+        MakeAirportOfVersion(version);
         bgl::WriteAirportFile(path);
     };
     const auto look = [&] {
         bgl::AirportPlace place;
         ASSERT_TRUE(bgl::FindAirportInFile(path, "KTST", &place));
         ASSERT_TRUE(bgl::OpenAirport(place, ""));
-        EXPECT_GE(model::CountKind(model::kTaxiNode), 50u);
-        std::vector<uint8_t> left, again;
-        std::string refusal;
-        ASSERT_TRUE(platform::ReadWholeFile(path, 1 << 24, &left));
-        ASSERT_TRUE(bgl::BuildAirportFile(0, &again, &refusal)) << refusal;
-        EXPECT_EQ(left.size(), again.size()) << "the file is cut";
+        ExpectWholeFileOfAirport(path);
         model::ClearModel();
+    };
+    KillDuring(write, look);
+}
+
+// The next start takes the killed one's place and has the airport back.
+TEST_F(Killed, WhileWritingTheAutobackup) {
+    const auto start = [&] {
+        ResetProgram();
+        map::ResizeView(800, 600);
+        app::state.programFolder = disk.program;
+    };
+    const auto write = [&](int version) {
+        if (app::state.autoBackup.empty() && !app::ClaimAutoBackup()) return;
+        MakeAirportOfVersion(version);
+        app::WriteAutoBackup();
+    };
+    const auto look = [&] {
+        ASSERT_TRUE(app::ClaimAutoBackup() && app::RecoverAirport());
+        EXPECT_EQ(app::state.autoBackup, app::AutoBackupPath(disk.program)) << "the killed one's lock is still held";
+        EXPECT_EQ(model::state.icao, "KTST");
+        ExpectWholeFileOfAirport(app::state.autoBackup);
+        start();
+    };
+    start();
+    KillDuring(write, look);
+}
+
+std::vector<uint8_t> LinesOfVersion(int version) {
+    std::string text;
+    for (int line = 0; line < 4000; ++line) text += std::to_string(version) + "\n";
+    return { text.begin(), text.end() };
+}
+
+TEST_F(Killed, WhileSavingAnAircraft) {
+    const std::string files[] = { disk.program + "/Aircraft.cfg", disk.program + "/plain.mdl" };
+    const std::vector<uint8_t> original = LinesOfVersion(-1);
+    for (const std::string& path : files) ASSERT_TRUE(platform::WriteFileWhole(path, original));
+    const auto write = [&](int version) {
+        std::vector<aircraft::FileChange> changes;
+        for (const std::string& path : files) changes.push_back({ path, original, LinesOfVersion(version), true });
+        std::string failed;
+        aircraft::WriteChanges(changes, &failed);
+    };
+    const auto look = [&] {
+        for (const std::string& path : files) {
+            std::vector<uint8_t> left, backup;
+            ASSERT_TRUE(platform::ReadWholeFile(path, 1 << 24, &left));
+            const int version = std::stoi(std::string(left.begin(), std::find(left.begin(), left.end(), '\n')));
+            EXPECT_EQ(left, LinesOfVersion(version));
+            ASSERT_TRUE(platform::ReadWholeFile(path + "_BACKUP", 1 << 24, &backup));
+            EXPECT_EQ(backup, original);
+        }
     };
     KillDuring(write, look);
 }

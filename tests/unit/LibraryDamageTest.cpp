@@ -6,7 +6,7 @@
 
 #include "bgl/AirportIndex.h"
 #include "bgl/LibraryScan.h"
-#include "bgl/SceneryFile.h"
+#include "bgl/SceneryStructure.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/FakeProgress.h"
 #include "fakes/TestLibrary.h"
@@ -224,7 +224,7 @@ TEST_F(LibraryDamage, BadFilesAreMarkedAndPassedOver) {
     EXPECT_EQ(library.airports.size(), 2u);
     EXPECT_EQ(library.report.present, 4u);
     EXPECT_TRUE(fake.messages.empty());
-    for (const bgl::LibraryFile& file : library.files) {
+    for (const bgl::SceneryFile& file : library.files) {
         EXPECT_EQ(file.kind, file.path.ends_with("d.bgl") ? FileKind::AddOn : FileKind::NoAirports) << file.path;
     }
     Collect();

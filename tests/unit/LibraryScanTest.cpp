@@ -55,7 +55,7 @@ protected:
         for (const std::string& ident : idents) text += (text.empty() ? "" : " ") + ident;
         return text;
     }
-    static const bgl::LibraryFile* FileNamed(const std::string& end) {
+    static const bgl::SceneryFile* FileNamed(const std::string& end) {
         for (const auto& file : library.files) {
             if (file.path.ends_with(end)) return &file;
         }

@@ -146,6 +146,38 @@ TEST_F(LinkDialog, OnlyTheChangedFieldsGoToTheOtherSelectedLinks) {
     EXPECT_EQ(Bytes(other), before);
 }
 
+TEST_F(LinkDialog, ATaxiwaysNameMakesASelectedRunwayLinkATaxiwayToo) {
+    SceneryObject* other = build::Link(b, a, model::kRunwayLink, runway);
+    other->flags |= model::kSelected;
+    EXPECT_TRUE(Edit(link, [](LinkFields& fields) { fields.designator = 0; }));
+    EXPECT_EQ(Type(other), model::kTaxiwayLink);
+    EXPECT_EQ(Designator(other), blank);
+    EXPECT_EQ(Type(link), model::kTaxiwayLink);
+}
+
+TEST_F(LinkDialog, ARunwaysNameMakesASelectedTaxiwayARunwayLinkToo) {
+    SceneryObject* south = build::Runway(9);
+    As<model::RunwayPayload>(south).body.width = 30;
+    SceneryObject* own = build::Link(b, a, model::kRunwayLink, runway);
+    own->flags |= model::kSelected;
+    Link(own).width = 46;
+    EXPECT_TRUE(Edit(own, [&](LinkFields& fields) { fields.designator = DesignatorIndex(south); }));
+    EXPECT_EQ(Designator(own), south);
+    EXPECT_EQ(Width(own), 46);  // its type has not changed
+    EXPECT_EQ(Type(link), model::kRunwayLink);
+    EXPECT_EQ(Designator(link), south);
+    EXPECT_EQ(Width(link), 30);
+}
+
+TEST_F(LinkDialog, AnotherTypeTakesTheRunwaysNameFromASelectedRunwayLink) {
+    SceneryObject* other = build::Link(b, a, model::kRunwayLink, runway);
+    other->flags |= model::kSelected;
+    EXPECT_TRUE(Edit(link, [&](LinkFields& fields) { fields.type = TypeIndex(model::kClosedLink); }));
+    EXPECT_EQ(Type(other), model::kClosedLink);
+    EXPECT_EQ(Designator(other), blank);
+    EXPECT_EQ(Designator(link), alpha);
+}
+
 TEST_F(LinkDialog, BothEdgesAreWrittenTogetherAndSoAreTheirLights) {
     SceneryObject* other = build::Link(b, a);
     other->flags |= model::kSelected;
@@ -234,6 +266,17 @@ TEST_F(LinkDialog, TheBlankDesignatorIsMadeInTheSameActionWhenThereIsNone) {
     model::Undo();
     EXPECT_EQ(BlankDesignator(), nullptr);
     EXPECT_EQ(Designator(link), alpha);
+}
+
+TEST_F(LinkDialog, ABlankDesignatorThatTheTypeOverrulesIsNotMade) {
+    model::UnlinkObject(blank);
+    model::FreeObject(blank);
+    EXPECT_TRUE(Edit(link, [&](LinkFields& fields) {
+        fields.designator = 0;
+        fields.type = TypeIndex(model::kRunwayLink);
+    }));
+    EXPECT_EQ(Type(link), model::kRunwayLink);
+    EXPECT_EQ(BlankDesignator(), nullptr);
 }
 
 TEST_F(LinkDialog, AParkingConnectorKeepsItsTypeAndHasTheBlankDesignator) {

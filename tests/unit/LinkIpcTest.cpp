@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <iterator>
 
 #include "fakes/FakeTransport.h"
 
@@ -76,12 +77,27 @@ protected:
 };
 
 TEST_F(LinkIpcTest, EveryErrorHasItsTextByCode) {
-    EXPECT_STREQ(ErrorText(IpcError::Okay), "Okay");
-    EXPECT_STREQ(ErrorText(static_cast<IpcError>(2)), "Cannot link to FSUIPC or WideClient");
-    EXPECT_STREQ(ErrorText(static_cast<IpcError>(8)), "Sim is not version requested");
-    EXPECT_STREQ(ErrorText(static_cast<IpcError>(12)), "IPC sendmessage failed all retries");
-    EXPECT_STREQ(ErrorText(static_cast<IpcError>(15)),
-                 "Read or Write request cannot be added, memory for Process is full");
+    constexpr const char* kTexts[] = {
+        "Okay",
+        "Attempt to Open when already Open",
+        "Cannot link to FSUIPC or WideClient",
+        "Failed to Register common message with Windows",
+        "Failed to create Atom for mapping filename",
+        "Failed to create a file mapping object",
+        "Failed to open a view to the file map",
+        "Incorrect version of FSUIPC, or not FSUIPC",
+        "Sim is not version requested",
+        "Call cannot execute, link not Open",
+        "Call cannot execute: no requests accumulated",
+        "IPC timed out all retries",
+        "IPC sendmessage failed all retries",
+        "IPC request contains bad data",
+        "Maybe running on WideClient, but FS not running on Server, or wrong FSUIPC",
+        "Read or Write request cannot be added, memory for Process is full",
+    };
+    static_assert(std::size(kTexts) == simlink::kIpcErrors);
+    for (int code = 0; code < simlink::kIpcErrors; ++code)
+        EXPECT_STREQ(ErrorText(static_cast<IpcError>(code)), kTexts[code]);
 }
 
 TEST_F(LinkIpcTest, OpensAndKnowsBothVersions) {

@@ -203,6 +203,19 @@ TEST_F(LinkSimulatorTest, MovingTheAircraftStopsTheSlewFirst) {
     EXPECT_NEAR(HeadingRadians(simulator.heading), kPi, 1e-8);
 }
 
+TEST_F(LinkSimulatorTest, AMoveIsKnownAtOnceAndAFailedOneIsNot) {
+    PutAircraft(&fakeTransport.simulator, 5, 6, 7);
+    Next();
+    const model::LatLon place = { 0.5, 1.25 };
+    EXPECT_TRUE(MoveAircraft(place, kPi));
+    EXPECT_EQ(simulator.position.latitude, FromLatLon(place).latitude);
+    EXPECT_EQ(simulator.position.longitude, FromLatLon(place).longitude);
+    EXPECT_EQ(simulator.heading, HeadingFromRadians(kPi));
+    fakeTransport.answer = [](uint8_t*) { return Sent{ true, 0, 0 }; };
+    EXPECT_FALSE(MoveAircraft({ -0.5, 0 }, 0));
+    EXPECT_EQ(simulator.position.latitude, FromLatLon(place).latitude);
+}
+
 TEST_F(LinkSimulatorTest, StoppingTheSlewMovesNothing) {
     PutAircraft(&fakeTransport.simulator, 5, 6, 7);
     Next();

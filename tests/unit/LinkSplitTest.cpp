@@ -6,6 +6,7 @@
 
 #include "fakes/MapFixture.h"
 #include "model/EditHistory.h"
+#include "model/Links.h"
 
 namespace {
 
@@ -111,6 +112,26 @@ TEST_F(LinkSplitTest, AHalfThatEndsAtASpotIsAParkingLinkAndTheOtherAnApronRoute)
     SplitLink(old, node);
     EXPECT_EQ(LinkTypeOf(Of(Between(node, spot))), kParkingLink);
     EXPECT_EQ(LinkTypeOf(Of(Between(node, a))), kApronRouteLink);
+}
+
+TEST_F(LinkSplitTest, TheHalfOfARunwayLinkThatEndsAtASpotLosesTheRunwaysName) {
+    SceneryObject* runway = build::Runway(36);
+    SceneryObject* other = build::Designator("B");
+    SceneryObject* a = build::Node({ 0, 0 });
+    SceneryObject* spot = build::Spot({ 0, 100 });
+    SceneryObject* old = build::Link(a, spot, kRunwayLink, runway);
+    SceneryObject* node = build::Node({ 0, 50 });
+    BeginAction();
+    SplitLink(old, node);
+    const TaxiLinkPayload &toSpot = Of(Between(node, spot)), &along = Of(Between(node, a));
+    EXPECT_EQ(LinkTypeOf(toSpot), kParkingLink);
+    ASSERT_TRUE(toSpot.designator && KindOf(toSpot.designator) == kTaxiDesignator);
+    EXPECT_TRUE(IsBlankDesignator(toSpot.designator) && toSpot.designator != other);
+    EXPECT_EQ(LinkTypeOf(along), kRunwayLink);
+    EXPECT_TRUE(along.designator == runway);
+    Undo();
+    EXPECT_EQ(Links(), std::vector<SceneryObject*>{ old });
+    EXPECT_EQ(BlankDesignator(), nullptr);
 }
 
 TEST_F(LinkSplitTest, TwoObjectsAreNeverJoinedTwice) {

@@ -245,6 +245,29 @@ TEST_F(ListRowsTest, TypingFindsTheNextRowWithACellThatBeginsSo) {
     EXPECT_EQ(RowBeginningWith({}, 0, "x"), -1);
 }
 
+TEST_F(ListRowsTest, TypingTakesOneBlankForTheBlanksOfARow) {
+    const std::vector<ListRow> rows = { { "Gate D  1\tGate Small", nullptr }, { "Gate D  12\t", nullptr } };
+    EXPECT_EQ(RowBeginningWith(rows, 0, "gate d 12"), 1);
+    EXPECT_EQ(RowBeginningWith(rows, 1, "gate d 1"), 1);
+    EXPECT_EQ(RowBeginningWith(rows, 0, "gate d  1"), 0);
+    EXPECT_EQ(RowBeginningWith(rows, 0, "gated"), -1);
+}
+
+TEST_F(ListRowsTest, ShortFrequenciesKeepTheWidthOfTheirColumn) {
+    SceneryObject* vor = build::Vor();
+    As<model::VorDmePayload>(vor).body.frequency = 99500000;
+    EXPECT_EQ(CellsOf(Row(vor))[3], " 99.50");
+    SceneryObject* ils = build::Ils("IABC");
+    As<model::IlsPayload>(ils).body.frequency = 0;
+    As<model::IlsPayload>(ils).body.flags = model::kHasDme;
+    EXPECT_EQ(CellsOf(Row(ils))[1], "LOC+DME");
+    EXPECT_EQ(CellsOf(Row(ils))[3], "  0.00");
+    SceneryObject* ndb = build::Ndb();
+    As<model::NdbPayload>(ndb).frequency = 50000;
+    EXPECT_EQ(CellsOf(Row(ndb))[3], " 50.0");
+    EXPECT_EQ(Row(Comm(0, 99500000, "")), " 99.500\t\t");
+}
+
 class ParkingOrderTest : public DialogFixture {
 protected:
     // Name code, number and type of a spot; its radius is its place in the airport.

@@ -163,6 +163,45 @@ TEST_F(MarkingsTest, ThresholdStripesCountTheWidth) {
     }
 }
 
+TEST_F(MarkingsTest, TheArrowHeadsBeforeADisplacedThresholdNeverOverlap) {
+    const std::pair<double, size_t> rows[] = { { 25, 1 }, { 60, 2 }, { 75, 3 }, { 100, 4 }, { 200, 4 } };
+    for (const auto& [feet, heads] : rows) {
+        SetUp();
+        SceneryObject* runway = build::Runway(36);
+        auto& payload = PayloadAs<RunwayPayload>(runway);
+        payload.body.surface = 4;
+        payload.body.width = static_cast<float>(feet * kMetresPerFoot);
+        payload.primaryThreshold = { 4, 25, payload.body.width };  // room for the row alone
+        Open();
+        Scale(8);
+        view.centre = build::At({ 0, -985 });
+        RecordingCanvas page;
+        Paint(&page);
+        std::vector<std::pair<int, int>> spans;
+        for (const CanvasCall& call : page.FilledWith(InkOf(Ink::RunwayMarking))) {
+            if (call.points.size() == 3) spans.push_back({ call.points[2].x, call.points[1].x });
+        }
+        ASSERT_EQ(spans.size(), heads) << feet;
+        for (size_t i = 1; i < spans.size(); ++i) EXPECT_GT(spans[i].first, spans[i - 1].second) << feet;
+    }
+}
+
+TEST_F(MarkingsTest, AClosedEndsCrossLiesOnItsDesignation) {
+    constexpr uint16_t kAllOfOneEnd = 0x0002 | 0x0020 | 0x0200;
+    SceneryObject* runway = build::Runway(36);
+    PayloadAs<RunwayPayload>(runway).body.markings = kAllOfOneEnd;
+    Open();
+    Scale(4);
+    view.centre = build::At({ 0, -930 });
+    Paint(&log);
+    const std::vector<CanvasCall> cross = log.FilledWith(InkOf(Ink::RunwayYellow));
+    ASSERT_EQ(cross.size(), 2u);
+    for (const CanvasCall& bar : cross) {
+        const double y = (bar.points[0].y + bar.points[2].y) / 2.0;
+        EXPECT_NEAR(y, PixelOf({ 0, -1000 + (20 + 150 + 40 + 30) * kMetresPerFoot }).y, 2);
+    }
+}
+
 TEST_F(MarkingsTest, RunwayLightsAreDrawnByNightOnly) {
     Scale(0.25);
     SceneryObject* runway = WideRunway();

@@ -86,6 +86,15 @@ TEST_F(MoveDragTest, ATowerThatStandsNowhereStaysThere) {
     EXPECT_EQ(Copied(PayloadAs<TowerViewpointRecord>(tower).longitude), kPlaceholderLongitude);
 }
 
+TEST_F(MoveDragTest, TheZerosOfAFileWithoutATowerStayZeros) {
+    SceneryObject* tower = build::Tower();
+    PayloadAs<TowerViewpointRecord>(tower) = {};
+    SceneryObject* node = build::Node();
+    MoveAll({ 50, 0 });
+    EXPECT_EQ(Copied(PayloadAs<TowerViewpointRecord>(tower).longitude), 0u);
+    EXPECT_LT(DistanceTo(node, { 50, 0 }), kNear) << "the other objects move";
+}
+
 TEST_F(MoveDragTest, ALinkTakesItsEndsWithIt) {
     SceneryObject* a = build::Node({ -100, 0 });
     SceneryObject* b = BigSpot({ 100, 0 });

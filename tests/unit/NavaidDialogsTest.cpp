@@ -50,6 +50,7 @@ TEST_F(NavFrequency, BandsAndStepsAreChecked) {
     EXPECT_TRUE(Refuses(FrequencyKind::Ndb, "352.3", "ERROR: The frequency must be a multiple of 0.5 kHz"));
     EXPECT_TRUE(Refuses(FrequencyKind::Ndb, "2000", "ERROR: The frequency must be a number from 190 to 1750 kHz"));
     EXPECT_TRUE(Refuses(FrequencyKind::Ndb, "0", "ERROR: You must enter a frequency, for example 350.0"));
+    EXPECT_TRUE(Refuses(FrequencyKind::Ndb, "low", "ERROR: You must enter a frequency, for example 350.0"));
     EXPECT_TRUE(Refuses(FrequencyKind::Vor, "", "ERROR: You must enter a frequency, for example 113.5"));
     EXPECT_TRUE(Refuses(FrequencyKind::Localizer, " ", "ERROR: You must enter a frequency, for example 110.3"));
 }

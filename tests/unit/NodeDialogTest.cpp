@@ -1,6 +1,8 @@
 #include "dialogs/NodeDialog.h"
 
 #include "fakes/DialogFixture.h"
+#include "map/HoldShortUpdate.h"
+#include "model/CoordinateText.h"
 #include "model/Geodesy.h"
 
 namespace {
@@ -157,6 +159,31 @@ TEST_F(NodeDialog, ANodeThatBecomesHoldShortTurnsItsMarkingUnlessTheUserChoseIt)
     EXPECT_TRUE(Store(nodes[0], fields));
     EXPECT_EQ(Node(nodes[0]).reversed, 1);
     EXPECT_EQ(Node(nodes[1]).reversed, 0);
+}
+
+// Moved to the other side of the node that leads away from the runway.
+TEST_F(NodeDialog, TheMarkingFollowsANewPlaceUnlessTheUserTurnedItHimself) {
+    build::Runway(36);
+    SceneryObject* node = build::Node({ 80, 0 }, model::kHoldShortNode);
+    build::Link(node, build::Node({ 5, 130 }));
+    build::Link(node, build::Node({ 75, 0 }));
+    model::BeginAction();
+    map::UpdateHoldShort(node);
+    const bool before = Node(node).reversed != 0;
+    model::ClearHistory();
+    NodeFields fields = LoadNodeFields(node);
+    fields.position = model::FormatLatLon(build::At({ 70, 0 }));
+    EXPECT_TRUE(Store(node, fields));
+    EXPECT_EQ(Node(node).reversed != 0, !before);
+    EXPECT_EQ(Actions(), 1);
+    model::Undo();
+    EXPECT_EQ(Node(node).reversed != 0, before);
+    Node(node).reversed = !before;
+    fields = LoadNodeFields(node);
+    fields.position = model::FormatLatLon(build::At({ 70, 0 }));
+    fields.reversed = before;
+    EXPECT_TRUE(Store(node, fields));
+    EXPECT_EQ(Node(node).reversed != 0, before);
 }
 
 }  // namespace

@@ -135,6 +135,14 @@ TEST_F(NumberField, VariationIsShownEastPositiveAndStoredWestPositiveBelow360) {
     EXPECT_EQ(ShowNumber(kVariation, 0), "0.0");
 }
 
+TEST_F(NumberField, ATextReadsAsZeroByTheNumberThatItBeginsWith) {
+    for (const char* text : { "", " ", "x", "0", "-0.0", "+", ".", "0.0000004", "0 and more", "nan" })
+        EXPECT_TRUE(ReadsAsZero(kFrequency, text)) << text;
+    for (const char* text : { "1", " 118.2x", "0.000001", ".5", "-3" })
+        EXPECT_FALSE(ReadsAsZero(kFrequency, text)) << text;
+    EXPECT_FALSE(ReadsAsZero(kFrequency, std::string(400, '9')));
+}
+
 TEST_F(NumberField, AnUnchangedTextIsNotRead) {
     double stored = 45.7199;
     EXPECT_TRUE(ReadQuantity(kLength, "no number", "no number", &stored));

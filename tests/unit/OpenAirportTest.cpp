@@ -11,7 +11,7 @@
 #include "bgl/FileBuilder.h"
 #include "bgl/NavaidRecords.h"
 #include "bgl/RecordIds.h"
-#include "bgl/SceneryFile.h"
+#include "bgl/SceneryStructure.h"
 #include "fakes/BuildObjects.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/SceneryBytes.h"

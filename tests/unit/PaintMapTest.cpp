@@ -8,6 +8,7 @@
 #include "fakes/RandomAirport.h"
 #include "map/ScreenPlace.h"
 #include "map/Selection.h"
+#include "map/Shapes.h"
 
 namespace {
 
@@ -94,6 +95,38 @@ TEST_F(PaintMapTest, LayersCoverEachOtherInTheirOrder) {
     }
 }
 
+TEST_F(PaintMapTest, WhatIsDrawnOverTheNetworkKeepsItsOrder) {
+    Scale(2);
+    layers.lights = layers.navaids = true;
+    ConcreteApron({ -60, -60 }, { 60, 60 })->flags |= kSelected;
+    build::Link(build::Node({ -50, 0 }), build::Node({ 50, 5 }));
+    PayloadAs<RunwayPayload>(WideRunway()).body.lights = 1;
+    build::Vor({ -30, -30 });
+    const EncodedPoint from = build::Encoded({ -40, -40 }), to = build::Encoded({ 40, -40 });
+    build::EdgeLights({ { 20, from.longitude, from.latitude, to.longitude, to.latitude, 0, 0, 0 } });
+    build::Guideline(build::Marker({ 10, 10 }), build::Marker({ 20, 10 }));
+    Open();
+    view.lockedToSim = true;
+    simAircraft = { true, build::kMiddle };
+    Paint(&log);
+    const std::vector<Colour> order = {
+        InkOf(Ink::TaxiLink),       InkOf(Ink::LightWhite), InkOf(Ink::ReferencePoint), InkOf(Ink::Navaid),
+        InkOf(Ink::EdgeLightStrip), InkOf(Ink::Marker),     InkOf(Ink::Guideline),      InkOf(Ink::CrossHair),
+    };
+    int before = -1;
+    for (size_t i = 0; i < order.size(); ++i) {
+        const int at = log.FirstWith(order[i]);
+        EXPECT_GT(at, before) << "layer " << i;
+        before = at;
+    }
+    const auto drawn = log.Drawn();
+    const auto outline = std::find_if(drawn.begin(), drawn.end(), [](const CanvasCall& call) {
+        return call.name == "polyline" && call.pen == InkOf(Ink::SelectedOutline);
+    });
+    EXPECT_GT(outline - drawn.begin(), log.FirstWith(InkOf(Ink::Navaid)));
+    EXPECT_LT(outline - drawn.begin(), log.FirstWith(InkOf(Ink::EdgeLightStrip)));
+}
+
 TEST_F(PaintMapTest, ASelectedApronStaysVisibleAboveRunwaysAndTaxiways) {
     SceneryObject* apron = ConcreteApron({ -300, -300 }, { 300, 300 });
     apron->flags |= kSelected | kWholeSelected;
@@ -155,6 +188,35 @@ TEST_F(PaintMapTest, WhatLiesOutsideTheClipRectangleIsNotDrawn) {
     // The background and the reference point, which is a circle and two lines.
     EXPECT_EQ(log.Drawn().size(), 4u);
     for (const SceneryObject* o : build::List()) EXPECT_EQ(IsDrawn(o), KindOf(o) == kAirport);
+}
+
+// However near the map is: marks, chevrons, lamps and lines beside the page are not handed to the canvas.
+TEST_F(PaintMapTest, NothingBesideTheClipRectangleReachesTheCanvas) {
+    SceneryObject* object = WideRunway();
+    auto& runway = PayloadAs<RunwayPayload>(object);
+    runway.body.markings = 0x1E7F;
+    runway.body.lights = 0x1F;
+    runway.primaryApproachLights = runway.secondaryApproachLights = 0xE0 | 7;
+    runway.primaryThreshold = runway.secondaryThreshold = { 4, 300, 45 };
+    runway.primaryBlastPad = runway.secondaryBlastPad = { 4, 300, 45 };
+    runway.primaryOverrun = { 4, 300, 45 };
+    Open();
+    layers.lights = true;
+    Scale(4);
+    for (const double north : { -1350.0, -1150.0, -1000.0, -880.0, -600.0, 0.0, 850.0, 1200.0 }) {
+        view.centre = build::At({ 0, north });
+        RecordingCanvas page;
+        Paint(&page);
+        size_t checked = 0;
+        for (const CanvasCall& call : page.Drawn()) {
+            if (call.name == "text") continue;
+            std::vector<Point> points;
+            for (const Pixel point : call.points) points.push_back({ double(point.x), double(point.y) });
+            EXPECT_TRUE(Meets(BoundsOf(points), Grown(ClipBox(), 1, 1))) << call.name << " at " << north;
+            ++checked;
+        }
+        EXPECT_GT(checked, 3u) << north;
+    }
 }
 
 TEST_F(PaintMapTest, AnObjectThatMovedOffThePageIsNoLongerPicked) {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "fakes/ToolFixture.h"
+#include "map/ApronTool.h"
 #include "map/ToolCursor.h"
 #include "map/TurnDrag.h"
 
@@ -82,6 +83,48 @@ TEST_F(PaintToolsTest, TheOutlineShowsItsClosingEdge) {
     EXPECT_EQ(lines.back().points[0], PixelOf({ 100, 100 }));
     EXPECT_NEAR(lines.back().points[1].x, PixelOf({ 0, 0 }).x, 1);
     EXPECT_NEAR(lines.back().points[1].y, PixelOf({ 0, 0 }).y, 1);
+}
+
+TEST_F(PaintToolsTest, TheAreaOfAnApronInItsMakingLiesUnderTheMap) {
+    SquareApron();
+    SetTool(Tool::Apron);
+    Click({ -50, -50 });
+    Click({ 50, -50 });
+    RecordingCanvas two;
+    Paint(&two);
+    EXPECT_EQ(two.FilledWith(ApronColour(0)).size(), 1u);  // two corners make no area
+    const int repaints = fake.repaints;
+    Click({ 50, 250 });
+    EXPECT_GT(fake.repaints, repaints);
+    RecordingCanvas log;
+    Paint(&log);
+    const std::vector<CanvasCall> areas = log.FilledWith(ApronColour(0));
+    ASSERT_EQ(areas.size(), 2u);
+    EXPECT_EQ(areas[0].points.size(), 3u);  // the apron that exists covers it
+    EXPECT_EQ(areas[1].points.size(), 4u);
+    EXPECT_EQ(log.Drawn()[1].points, areas[0].points);  // right after the background
+    TakeBackOutlinePoint();
+    RecordingCanvas back;
+    Paint(&back);
+    EXPECT_EQ(back.FilledWith(ApronColour(0)).size(), 1u);
+}
+
+TEST_F(PaintToolsTest, TheLampsOfAPulledStripLieUnderTheMap) {
+    model::state.edgeLights.optimumSpacing = 50;
+    model::state.edgeLights.adjust = false;
+    SquareApron(300);
+    SetTool(Tool::EdgeLights);
+    Press({ -100, 0 });
+    DragTo({ 110, 0 });
+    RecordingCanvas log;
+    Paint(&log);
+    const std::vector<CanvasCall> lamps = log.FilledWith(InkOf(Ink::LightBlue));
+    ASSERT_EQ(lamps.size(), 5u);  // over 210 m
+    EXPECT_LT(log.FirstWith(InkOf(Ink::LightBlue)), log.FirstWith(ApronColour(0)));
+    CancelDrag();
+    RecordingCanvas cancelled;
+    Paint(&cancelled);
+    EXPECT_TRUE(cancelled.FilledWith(InkOf(Ink::LightBlue)).empty());
 }
 
 TEST_F(PaintToolsTest, EveryPullShowsItsBand) {

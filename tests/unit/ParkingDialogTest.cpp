@@ -121,10 +121,13 @@ TEST_F(ParkingDialog, ATypeBringsItsRadiusWhileTheRadiusIsTheOldTypesDefault) {
     EXPECT_EQ(fields.type, kGateSmallIndex);
 }
 
-TEST_F(ParkingDialog, TheDefaultRadiiByType) {
-    const double radii[] = { 20, 20, 10, 14, 18, 50, 44, 26, 31, 38, 54, 20 };
-    for (uint32_t code = 0; code < 12; ++code) EXPECT_EQ(DefaultParkingRadius(code), radii[code]);
-    EXPECT_EQ(DefaultParkingRadius(15), 20);
+TEST_F(ParkingDialog, TheRadiusThatATypeBringsIsExactThoughItIsShownInFeet) {
+    const float radii[] = { 20, 10, 14, 18, 50, 44, 26, 31, 38, 54, 20 };
+    for (int type = 0; type < 11; ++type) {
+        SceneryObject* spot = Gate();
+        EXPECT_TRUE(Edit(spot, [&](ParkingFields& entered) { ChooseParkingType(&entered, type); }));
+        EXPECT_EQ(Radius(spot), radii[type]);
+    }
 }
 
 TEST_F(ParkingDialog, TheTypeChosenLastIsThatOfNewSpots) {
@@ -249,6 +252,22 @@ TEST_F(SeveralSpots, ATypeChangesTheRadiusOfThoseThatHaveTheirTypesDefault) {
     EXPECT_EQ(Radius(first), 54);
     EXPECT_EQ(Radius(second), 40);
     EXPECT_EQ(model::ParkingTypeCode(Spot(second)), 10u);
+}
+
+TEST_F(SeveralSpots, ADefaultThatWasTypedInFeetIsOneToo) {
+    Spot(first).radius = 30.9996F;
+    EXPECT_TRUE(Edit(first, [](ParkingFields& entered) { ChooseParkingType(&entered, kGateHeavyIndex); }));
+    EXPECT_EQ(Radius(first), 54);
+}
+
+TEST_F(SeveralSpots, ATypeForSpotsOfSeveralTypesLeavesTheRadiusThatTheyShare) {
+    Spot(first).packed = (Spot(first).packed & ~0xF00u) | 9u << 8;
+    Spot(first).radius = Spot(second).radius = 20;
+    EXPECT_EQ(LoadParkingFields(first).radius, "65.62");
+    EXPECT_TRUE(Edit(first, [](ParkingFields& entered) { ChooseParkingType(&entered, kGateHeavyIndex); }));
+    EXPECT_EQ(Radius(first), 20);
+    EXPECT_EQ(Radius(second), 20);
+    EXPECT_EQ(model::ParkingTypeCode(Spot(first)), 10u);
 }
 
 TEST_F(SeveralSpots, ASpotThatIsNotSelectedIsEditedAlone) {

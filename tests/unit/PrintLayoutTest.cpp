@@ -46,6 +46,15 @@ platform::Pixel CentreOf(const CanvasCall& ellipse) {
     return { (ellipse.points[0].x + ellipse.points[1].x) / 2, (ellipse.points[0].y + ellipse.points[1].y) / 2 };
 }
 
+// In the order of the object list.
+std::vector<platform::Pixel> NodesOn(const RecordingCanvas& log) {
+    std::vector<platform::Pixel> centres;
+    for (const CanvasCall& call : log.FilledWith(map::InkOf(map::Ink::Node))) {
+        if (call.name == "ellipse") centres.push_back(CentreOf(call));
+    }
+    return centres;
+}
+
 }  // namespace
 
 TEST_F(PrintLayoutTest, AWideViewOnATallPageIsLimitedByItsWidth) {
@@ -156,15 +165,81 @@ TEST_F(PrintLayoutTest, AThousandMetresAreWhatTheScaleSays) {
     const PrintPage page = Fitted(&settings);
     RecordingCanvas log;
     map::PaintPage(&log.canvas, page);
-    std::vector<platform::Pixel> centres;
-    for (const CanvasCall& call : log.FilledWith(map::InkOf(map::Ink::Node))) {
-        if (call.name == "ellipse") centres.push_back(CentreOf(call));
-    }
+    const std::vector<platform::Pixel> centres = NodesOn(log);
     ASSERT_EQ(centres.size(), 2u);
     const double pixels = 10 * 600 / 2.54;  // 1000 m at 100 m to the centimetre
     EXPECT_NEAR(centres[0].y - centres[1].y, pixels, pixels * 0.0005 + 1);
     EXPECT_NEAR((centres[0].y + centres[1].y) / 2.0, (page.box.bottom - page.box.top) / 2.0, 1.5) << "in the middle";
     EXPECT_NEAR(centres[0].x, (page.box.right - page.box.left) / 2.0, 1.5);
+}
+
+// Sixteen pairs of nodes 1000 m apart, each pair a little farther north, on a page of 3000 pixels to the 1000 m.
+TEST_F(PrintLayoutTest, TheScaleIsExactToHalfAPixel) {
+    for (int i = 0; i < 16; ++i) {
+        build::Node({ i * 40.0 - 300, -500 + i * 0.02 });
+        build::Node({ i * 40.0 - 300, 500 + i * 0.02 });
+    }
+    PrintSettings settings;
+    settings.paper = map::UsualPaper(false);
+    settings.fitPage = false;
+    settings.printScale = 200;
+    for (const double rotation : { 0.0, 0.7, 3.1 }) {
+        map::view.rotation = rotation;
+        RecordingCanvas log;
+        map::PaintPage(&log.canvas, map::PlanPage(settings, { 5100, 6600, 0, 0, 5100, 6600, 600, 600 }));
+        const std::vector<platform::Pixel> nodes = NodesOn(log);
+        ASSERT_EQ(nodes.size(), 32u);
+        double sum = 0;
+        for (size_t i = 0; i < nodes.size(); i += 2) {
+            const double dx = nodes[i].x - nodes[i + 1].x, dy = nodes[i].y - nodes[i + 1].y;
+            const double distance = std::sqrt(dx * dx + dy * dy);
+            EXPECT_NEAR(distance, 3000, 1.5) << "each end is a whole pixel";
+            sum += distance;
+        }
+        EXPECT_NEAR(sum / 16, 3000, 0.5) << rotation;
+    }
+}
+
+TEST_F(PrintLayoutTest, LabelsKeepClearOfOneAnotherOnPaper) {
+    app::settings.showLabels = 1;
+    for (uint32_t i = 0; i < 36; ++i) build::Spot({ (i % 6) * 20.0 - 60, (i / 6) * 20.0 - 60 });
+    const auto labels = [](const RecordingCanvas& log) { return log.Drawn("text").size(); };
+    PrintSettings settings = MetricPage();
+    RecordingCanvas screen, paper;
+    Paint(&screen);
+    map::PaintPage(&paper.canvas, Fitted(&settings));
+    ASSERT_GT(labels(screen), 0u);
+    ASSERT_LT(labels(screen), 36u) << "the labels do not crowd";
+    EXPECT_LT(labels(paper), 36u) << "letters are six times as large there as on the screen";
+}
+
+TEST_F(PrintLayoutTest, WhatHasASizeOnTheScreenHasOneOnPaper) {
+    build::Marker();
+    PrintSettings settings = MetricPage();
+    const PrintPage page = Fitted(&settings);
+    RecordingCanvas screen, paper;
+    Paint(&screen);
+    map::PaintPage(&paper.canvas, page);
+    const auto width = [](const RecordingCanvas& log) {
+        const CanvasCall line = log.StrokedWith(map::InkOf(map::Ink::Marker)).back();
+        return std::max(std::abs(line.points[0].x - line.points[1].x), std::abs(line.points[0].y - line.points[1].y));
+    };
+    ASSERT_EQ(width(screen), 10);
+    EXPECT_NEAR(width(paper), 10 * page.textScale, 1.5);
+    RecordingCanvas sample;
+    map::PaintPage(&sample.canvas, map::PlanPage(settings, map::SampleDevice(settings.paper, 210, 297)));
+    EXPECT_NEAR(width(sample), 10 * 25 / 96.0, 1.5) << "the page in miniature";
+}
+
+TEST_F(PrintLayoutTest, TheSampleIsASheetOfFewPixels) {
+    const PrintDevice device = map::SampleDevice(map::UsualPaper(true), 210, 297);
+    EXPECT_EQ(device.sheetWidth, 210);
+    EXPECT_EQ(device.height, 297);
+    EXPECT_EQ(device.left, 0);
+    EXPECT_EQ(device.perInchX, 25);
+    EXPECT_EQ(device.perInchY, 25);
+    EXPECT_EQ(map::SampleDevice(map::UsualPaper(false), 85, 110).perInchY, 10);
+    EXPECT_GE(map::SampleDevice({}, 85, 110).perInchY, 0) << "a paper of no size";
 }
 
 TEST_F(PrintLayoutTest, TheMapIsClippedToItsBox) {

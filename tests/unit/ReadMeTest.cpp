@@ -75,6 +75,45 @@ TEST_F(ReadMeTest, EveryTopicThatTheProgramOpensIsThere) {
     for (const std::string& topic : topics) EXPECT_TRUE(HasTopic(topic)) << topic;
 }
 
+// The dialogs of the resource scripts that have a help button.
+std::set<std::string> DialogsWithHelp() {
+    std::set<std::string> dialogs;
+    for (const fs::directory_entry& entry : fs::directory_iterator(Checkout() / "res")) {
+        if (entry.path().extension() != ".rc") continue;
+        std::string dialog;
+        for (const std::string& word :
+             AllMatches(ReadText(entry.path()), "(IDD_[A-Z_]+ DIALOGEX|PUSHBUTTON \"&Help\")")) {
+            if (word.starts_with("IDD_"))
+                dialog = word.substr(0, word.find(' '));
+            else
+                dialogs.insert(dialog);
+        }
+    }
+    return dialogs;
+}
+
+// The topic of each dialog stands in the lines behind its resource, or in the file that opens it.
+TEST_F(ReadMeTest, EveryDialogWithAHelpButtonHasATopic) {
+    std::set<std::string> dialogs = DialogsWithHelp();
+    EXPECT_GT(dialogs.size(), 20u) << "the resource scripts were not searched";
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(Checkout() / "src")) {
+        if (entry.path().extension() != ".cpp") continue;
+        const std::string source = ReadText(entry.path());
+        for (const std::string& opened : AllMatches(source, "(IDD_[A-Z_]+)\\b")) {
+            if (!dialogs.contains(opened)) continue;
+            const std::vector<std::string> topics = AllMatches(source, "\"#([A-Z][A-Za-z]+)\"");
+            EXPECT_FALSE(topics.empty()) << opened << " in " << entry.path();
+            // One that is run by the common editor names its topic in the next line.
+            const std::string resource = "editor.resource = " + opened + ";";
+            if (source.find(resource) != std::string::npos) {
+                EXPECT_EQ(AllMatches(source, resource + "\\s*editor\\.(topic) = ").size(), 1u) << opened;
+            }
+            dialogs.erase(opened);
+        }
+    }
+    for (const std::string& dialog : dialogs) ADD_FAILURE() << dialog << " is opened nowhere";
+}
+
 // Width and height of a PNG file, from its first chunk; 0 for anything else.
 struct PictureSize {
     uint32_t width = 0, height = 0;

@@ -38,6 +38,11 @@ TEST_F(RecentAirports, AnAirportOpenedTwiceIsASingleEntryAtTheTopWithItsNewPath)
     EXPECT_EQ(settings.previousFiles, (List{ "ksea,C:\\new.bgl", "EDDF,C:\\b.bgl" }));
 }
 
+TEST_F(RecentAirports, AnAirportWithoutIdentifierIsNotRemembered) {
+    app::NoteOpenedAirport("", "C:\\a.bgl");
+    EXPECT_TRUE(settings.previousFiles.empty());
+}
+
 TEST_F(RecentAirports, TheListIsCutToTen) {
     for (int i = 0; i < 12; ++i) app::NoteOpenedAirport("K0" + std::to_string(10 + i), "p");
     EXPECT_EQ(settings.previousFiles.size(), 10u);

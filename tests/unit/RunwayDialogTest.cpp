@@ -1,6 +1,8 @@
 #include "dialogs/RunwayDialog.h"
 
+#include <algorithm>
 #include <cstring>
+#include <limits>
 
 #include "dialogs/Choices.h"
 #include "dialogs/Subject.h"
@@ -80,6 +82,130 @@ TEST_F(RunwayDialog, EachDataFieldWritesItsOwnBytes) {
     EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.surface = 1; }));
     EXPECT_EQ(+Body().surface, 1);
     EXPECT_EQ(Actions(), 5);
+}
+
+// One change of the editor, and the bytes of the payload that it may touch.
+struct OneChange {
+    const char* name;
+    void (*change)(RunwayFields& entered);
+    size_t first, size;
+};
+constexpr OneChange kOneChanges[] = {
+    { "surface", [](RunwayFields& f) { f.surface = 1; }, 0, 1 },
+    { "base number", [](RunwayFields& f) { f.ends[0].number = 5; }, 2, 1 },
+    { "base suffix", [](RunwayFields& f) { f.ends[0].suffix = 3; }, 3, 1 },
+    { "reciprocal number", [](RunwayFields& f) { f.ends[1].number = 5; }, 4, 1 },
+    { "reciprocal suffix", [](RunwayFields& f) { f.ends[1].suffix = 3; }, 5, 1 },
+    { "position",
+      [](RunwayFields& f) {
+          f.position = ShowPoint(build::Encoded({ 500, 500 }));
+      },
+      14, 8 },
+    { "elevation", [](RunwayFields& f) { f.elevation = "700"; }, 22, 4 },
+    { "width", [](RunwayFields& f) { f.width = "222"; }, 30, 4 },
+    { "heading", [](RunwayFields& f) { f.heading = "12.3"; }, 34, 4 },
+    { "pattern altitude", [](RunwayFields& f) { f.patternAltitude = "1500"; }, 38, 4 },
+    { "marking", [](RunwayFields& f) { f.precision = !f.precision; }, 42, 2 },
+    { "light level", [](RunwayFields& f) { f.edgeLights = f.edgeLights == 3 ? 1 : 3; }, 44, 1 },
+    { "closed", [](RunwayFields& f) { f.ends[1].noLanding = !f.ends[1].noLanding; }, 45, 1 },
+    { "base threshold", [](RunwayFields& f) { f.ends[0].displaced = "150"; }, 48, 4 },
+    { "reciprocal threshold", [](RunwayFields& f) { f.ends[1].displaced = "150"; }, 58, 4 },
+    { "base overrun", [](RunwayFields& f) { f.ends[0].overrun = "150"; }, 68, 4 },
+    { "reciprocal overrun", [](RunwayFields& f) { f.ends[1].overrun = "150"; }, 78, 4 },
+    { "base strobes", [](RunwayFields& f) { f.ends[0].strobes = "0x0A"; }, 107, 1 },
+    { "base system", [](RunwayFields& f) { f.ends[0].approachSystem = 5; }, 106, 1 },
+    { "reciprocal lights", [](RunwayFields& f) { f.ends[1].reil = !f.ends[1].reil; }, 108, 1 },
+    { "left system", [](RunwayFields& f) { f.ends[0].left.system = 3; }, 110, 2 },
+    { "left offset", [](RunwayFields& f) { f.ends[0].left.offset = "99"; }, 112, 4 },
+    { "right distance", [](RunwayFields& f) { f.ends[0].right.distance = "99"; }, 134, 4 },
+    { "left spacing", [](RunwayFields& f) { f.ends[1].left.spacing = "99"; }, 156, 4 },
+    { "right slope", [](RunwayFields& f) { f.ends[1].right.slope = "4.5"; }, 178, 4 },
+};
+
+TEST_F(RunwayDialog, EachFieldWritesNoByteButItsOwnWhateverTheOthersHold) {
+    ASSERT_EQ(runway->payloadSize, 183u);
+    std::fill_n(runway->payload, 183, uint8_t{ 0x55 });
+    Body().primaryNumber = 9;
+    Parts().primaryApproachLights = Parts().secondaryApproachLights = 0xE000;
+    for (const OneChange& row : kOneChanges) {
+        for (const bool metric : { false, true }) {
+            app::settings.metric = metric;
+            const auto before = Bytes(runway);
+            EXPECT_TRUE(Edit(row.change)) << row.name << ": " << LastMessage();
+            const auto changed = Changed(before);
+            EXPECT_FALSE(changed.empty()) << row.name;
+            for (const size_t offset : changed)
+                EXPECT_TRUE(offset >= row.first && offset < row.first + row.size) << row.name << ", byte " << offset;
+            EXPECT_EQ(Actions(), 1) << row.name;
+            model::Undo();
+            EXPECT_EQ(Bytes(runway), before) << row.name;
+        }
+    }
+}
+
+TEST_F(RunwayDialog, NumbersThatAreNoneAreNoChange) {
+    build::Ils("ISEA");
+    Body().primaryIls = model::PackIdent("ISEA");
+    Parts().primaryLeftVasi = { 8, 38, 1195.2F, 9, 3 };
+    const float odd[] = { std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity() };
+    for (const float number : odd) {
+        Body().length = Body().width = Body().heading = number;
+        const auto before = Bytes(runway);
+        EXPECT_TRUE(Edit([](RunwayFields&) {}));
+        EXPECT_EQ(Bytes(runway), before);
+        EXPECT_EQ(Actions(), 0);
+        EXPECT_TRUE(fake.messages.empty());
+    }
+    fake.answers = { platform::Answer::No };
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.length = "9000"; }));
+    EXPECT_EQ(+Parts().primaryLeftVasi.biasZ, 1195.2F);
+}
+
+TEST_F(RunwayDialog, FieldsAreReadInTheirOrder) {
+    std::vector<std::pair<Field, int>> refused;
+    const auto refuse = [&](auto change) {
+        EXPECT_FALSE(Edit(change));
+        refused.emplace_back(bad.field, bad.part);
+    };
+    RunwayFields wrong = LoadRunwayFields(runway);
+    wrong.elevation = wrong.length = wrong.width = wrong.patternAltitude = wrong.heading = "x";
+    for (RunwayEndFields& end : wrong.ends) end.overrun = end.displaced = "x";
+    const RunwayFields right = LoadRunwayFields(runway);
+    std::string RunwayFields::*const first[] = { &RunwayFields::elevation, &RunwayFields::length,
+                                                 &RunwayFields::width };
+    for (const auto text : first) {
+        refuse([&](RunwayFields& entered) { entered = wrong; });
+        wrong.*text = right.*text;
+    }
+    for (const auto text : { &RunwayEndFields::overrun, &RunwayEndFields::displaced }) {
+        for (size_t end = 0; end < 2; ++end) {
+            refuse([&](RunwayFields& entered) { entered = wrong; });
+            wrong.ends[end].*text = right.ends[end].*text;
+        }
+    }
+    refuse([&](RunwayFields& entered) { entered = wrong; });
+    wrong.patternAltitude = right.patternAltitude;
+    refuse([&](RunwayFields& entered) { entered = wrong; });
+    EXPECT_EQ(refused, (std::vector<std::pair<Field, int>>{ { Field::Elevation, 0 },
+                                                            { Field::Length, 0 },
+                                                            { Field::Width, 0 },
+                                                            { Field::Overrun, 0 },
+                                                            { Field::Overrun, 1 },
+                                                            { Field::DisplacedThreshold, 0 },
+                                                            { Field::DisplacedThreshold, 1 },
+                                                            { Field::PatternAltitude, 0 },
+                                                            { Field::Heading, 0 } }));
+}
+
+TEST_F(RunwayDialog, AnElevationInFeetIsTruncatedToMillimetres) {
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.elevation = "433"; }));
+    EXPECT_EQ(+Body().altitude, 131978);  // of 131978.4
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.elevation = "-10.5"; }));
+    EXPECT_EQ(+Body().altitude, -3200);  // of -3200.4
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.elevation = "0.5479"; }));
+    EXPECT_EQ(+Body().altitude, 166);  // of 166.99992
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.elevation = "0.0032808"; }));
+    EXPECT_EQ(+Body().altitude, 0);  // of 0.99998784
 }
 
 TEST_F(RunwayDialog, TheHighByteOfTheSurfaceStays) {
@@ -203,6 +329,9 @@ TEST_F(RunwayDialog, TheMagneticHeadingIsTheTrueOneLessTheEastVariation) {
     EXPECT_EQ(MagneticHeadingText("19.99"), "0.0");
     EXPECT_EQ(MagneticHeadingText("north"), "");
     EXPECT_EQ(MagneticHeadingText("400"), "");
+    As<model::AirportRecord>(airport).magneticVariation = -20;  // as a file may hold it
+    EXPECT_EQ(VariationText(), "20.0");
+    EXPECT_EQ(MagneticHeadingText("10"), "350.0");
 }
 
 TEST_F(RunwayDialog, LightsMapToTheApproachWordsAndTheLightsByte) {

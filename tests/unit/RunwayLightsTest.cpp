@@ -54,6 +54,17 @@ TEST_F(RunwayLightsTest, AThresholdWithApproachLightsHasFourInAGroup) {
     EXPECT_EQ(Lit(Ink::LightGreen).size(), 8u);
 }
 
+TEST_F(RunwayLightsTest, AThresholdBarStandsForTheRunwaysGreenLights) {
+    constexpr uint16_t kAlsfTwo = 7, kGreenRow = 0x20;
+    Runway().primaryApproachLights = kAlsfTwo;
+    const size_t bar = Lit(Ink::LightGreen).size();
+    Runway().body.lights = 1;
+    Runway().primaryApproachLights = kAlsfTwo | kGreenRow;
+    EXPECT_EQ(Lit(Ink::LightGreen).size(), bar);
+    Runway().primaryThreshold = { 4, 100, 45 };
+    EXPECT_EQ(Lit(Ink::LightGreen).size(), bar);
+}
+
 TEST_F(RunwayLightsTest, TheGreenEndRowSpansTheRunway) {
     Runway().primaryApproachLights = 0x20;
     EXPECT_EQ(Lit(Ink::LightGreen).size(), 16u);  // every ten feet of 150

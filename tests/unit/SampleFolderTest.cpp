@@ -11,7 +11,7 @@
 
 #include "bgl/AirportReader.h"
 #include "bgl/OpenAirport.h"
-#include "bgl/SceneryFile.h"
+#include "bgl/SceneryStructure.h"
 #include "fakes/FakePlatform.h"
 #include "model/Ident.h"
 #include "model/Links.h"

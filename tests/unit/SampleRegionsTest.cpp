@@ -2,7 +2,7 @@
 
 #include <set>
 
-#include "bgl/SceneryFile.h"
+#include "bgl/SceneryStructure.h"
 #include "model/Geodesy.h"
 #include "model/Records.h"
 #include "sample/Regions.h"

@@ -139,10 +139,35 @@ TEST_F(SaveAirportTest, TheNameOfAStockFileIsRefused) {
     fakeShell.savePath = In("AP915150.bgl");
     EXPECT_FALSE(app::SaveAirportAs());
     EXPECT_EQ(Content("AP915150.bgl"), "hundreds of airports");
-    EXPECT_EQ(fake.messages.size(), 1u);
+    ASSERT_EQ(fake.messages.size(), 1u);
+    EXPECT_EQ(fake.messages[0].text,
+              "ERROR: The name of a stock scenery file cannot be used.\nPlease save the airport under another name.");
     fakeShell.savePath = In("AP999999.bgl");  // its navaids would not be read back
     EXPECT_FALSE(app::SaveAirportAs());
     EXPECT_FALSE(platform::FileExists(In("AP999999.bgl")));
+}
+
+TEST_F(SaveAirportTest, TheNameOfAnAutobackupIsRefused) {
+    fakeShell.savePath = In("autobackuptemp2.BGL");
+    EXPECT_FALSE(app::SaveAirportAs());
+    ASSERT_EQ(fake.messages.size(), 1u);
+    EXPECT_EQ(fake.messages[0].text,
+              "ERROR: Tarvo deletes files of the autobackup's name.\nPlease save the airport under another name.");
+    EXPECT_FALSE(platform::FileExists(In("autobackuptemp2.BGL")));
+    EXPECT_TRUE(model::state.modified);
+}
+
+TEST_F(SaveAirportTest, NoOtherStockFileIsWrittenOverEither) {
+    fs::create_directories(folder / "Scenery" / "Namw" / "Scenery");
+    const std::string navaids = In("Scenery/Namw/Scenery/NV9namw0.bgl");
+    Put("Scenery/Namw/Scenery/NV9namw0.bgl", "the navaids of a region");
+    app::state.simulatorFolder = folder.string();
+    fakeShell.savePath = navaids;
+    EXPECT_FALSE(app::SaveAirportAs());
+    EXPECT_EQ(Content("Scenery/Namw/Scenery/NV9namw0.bgl"), "the navaids of a region");
+    EXPECT_EQ(fake.messages.size(), 1u);
+    fakeShell.savePath = In("Scenery/Namw/Scenery/TV2_KTST.bgl");
+    EXPECT_TRUE(app::SaveAirportAs()) << "beside them there is room";
 }
 
 TEST_F(SaveAirportTest, WithoutAnAirportNothingIsSaved) {

@@ -231,6 +231,29 @@ TEST_F(SelectionTest, AMissRepaintsOnlyWhenSomethingWasSelected) {
     EXPECT_EQ(fake.repaints, 2);
 }
 
+TEST_F(SelectionTest, AClickOnTheRingOfTheFaultMarkerHidesIt) {
+    faultMarker = { true, build::At({ 200, 200 }) };
+    Paint();
+    const Pixel middle = PixelOf({ 200, 200 });
+    for (const int beside : { 0, 12, 24 }) SelectAt(Beside(middle, beside), false);
+    EXPECT_TRUE(faultMarker.shown);
+    EXPECT_EQ(fake.repaints, 0);
+    SelectAt(Beside(middle, 16), true);
+    EXPECT_FALSE(faultMarker.shown);
+    EXPECT_EQ(fake.repaints, 1);
+    SelectAt(Beside(middle, 16), false);
+    EXPECT_EQ(fake.repaints, 1);
+}
+
+TEST_F(SelectionTest, AnObjectUnderTheRingIsSelectedAndTheFaultMarkerStays) {
+    faultMarker = { true, build::At({ -16, 0 }) };
+    SceneryObject* node = build::Node();
+    Paint();
+    SelectAt(PixelOf({ 0, 0 }), false);
+    EXPECT_TRUE(IsSelected(node));
+    EXPECT_TRUE(faultMarker.shown);
+}
+
 TEST_F(SelectionTest, DeselectingSaysWhetherAnythingWasSelected) {
     build::Node()->flags |= kSelected;
     EXPECT_TRUE(DeselectAll());

@@ -1,11 +1,16 @@
-// SettingsFilePosixTest.cpp - several instances that end at the same time, as processes of their own.
+// SettingsFilePosixTest.cpp - several instances that end at the same time, as processes of their own, and a file that
+// somebody else has locked.
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "app/AppState.h"
+#include "app/Program.h"
 #include "app/Settings.h"
 #include "app/SettingsFile.h"
+#include "fakes/FakePlatform.h"
 #include "fakes/FakeShell.h"
 #include "fakes/TestLibrary.h"
 
@@ -48,6 +53,44 @@ TEST(SettingsFilePosix, InstancesThatEndTogetherLeaveTheWholeSettingsOfOne) {
     size_t files = 0;
     for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(disk.root / "program")) ++files;
     EXPECT_EQ(files, 1u) << "a draft was left behind";
+    ResetProgram();
+}
+
+// While it lives every file can be seen and none be opened.
+struct NoFileOpens {
+    NoFileOpens() {
+        ::getrlimit(RLIMIT_NOFILE, &before);
+        const rlimit none = { 0, before.rlim_max };
+        ::setrlimit(RLIMIT_NOFILE, &none);
+    }
+    ~NoFileOpens() { ::setrlimit(RLIMIT_NOFILE, &before); }
+    NoFileOpens(const NoFileOpens&) = delete;
+    NoFileOpens& operator=(const NoFileOpens&) = delete;
+    rlimit before{};
+};
+
+TEST(SettingsFilePosix, WhatCouldNotBeReadAtTheStartIsNotReplacedByDefaults) {
+    ResetProgram();
+    const TestLibrary disk;
+    app::state.programFolder = disk.program;
+    const std::string text = "[General]\nNextUpdateNotice=9999\nMetric=1\n";
+    disk.PutCache("Tarvo2.ini", text);
+    {
+        const NoFileOpens locked;
+        app::LoadProgramFiles();
+    }
+    ASSERT_FALSE(app::settings.metric) << "it was read after all";
+    app::EndSession(false);
+    EXPECT_EQ(disk.ReadCache("Tarvo2.ini"), text);
+    EXPECT_TRUE(fake.messages.empty()) << "the user has changed nothing";
+    app::settings.showLatLongGrid = !app::settings.showLatLongGrid;
+    app::EndSession(false);
+    EXPECT_EQ(disk.ReadCache("Tarvo2.ini"), text);
+    ASSERT_EQ(fake.messages.size(), 1u);
+    EXPECT_EQ(fake.messages[0].text,
+              "The settings and the list of recent airports could not be kept:\n"
+              "Tarvo may not write Tarvo2.ini in its folder\n\n" +
+                  disk.program);
     ResetProgram();
 }
 

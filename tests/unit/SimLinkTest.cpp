@@ -1,7 +1,12 @@
 #include "app/SimLink.h"
 
+#include <filesystem>
+#include <random>
+
+#include "app/Airport.h"
 #include "app/AppState.h"
 #include "app/Commands.h"
+#include "bgl/AirportWriter.h"
 #include "fakes/FakeShell.h"
 #include "fakes/FakeSimLinkHost.h"
 #include "fakes/FakeTransport.h"
@@ -55,6 +60,14 @@ protected:
     }
     static double MetresFrom(model::LatLon position, build::Place place) {
         return model::DistanceBetween(position, build::At(place));
+    }
+    // The simulator answers, but the list of requests comes back without its types.
+    static void SpoilTypes() {
+        fakeTransport.answer = [](uint8_t* block) {
+            const simlink::Sent sent = ServeBlock(block);
+            std::memset(block, 0xEF, 4);
+            return sent;
+        };
     }
     static void Break() {
         fakeTransport.answer = [](uint8_t*) { return simlink::Sent{ true, 0, 0 }; };
@@ -261,11 +274,58 @@ TEST_F(SimLinkTest, KeptPressesAreNotForAnotherAirport) {
     fakeSimLinkHost.mapInFront = false;
     Press(1);
     Tick();
-    model::ClearModel();
+    app::CloseAirport();
     OpenAirport("C:\\two.bgl");
     fakeSimLinkHost.mapInFront = true;
+    Press(2);
     Tick();
     EXPECT_EQ(model::CountKind(model::kTaxiNode), 0u);
+    EXPECT_EQ(model::CountKind(model::kParkingSpot), 1u) << "this one is";
+}
+
+TEST_F(SimLinkTest, AnAirportThatOpensInPlaceOfAnotherGetsNoKeptPresses) {
+    const std::filesystem::path file =
+        std::filesystem::temp_directory_path() / ("tarvo-presses-" + std::to_string(std::random_device{}()) + ".bgl");
+    ASSERT_EQ(bgl::WriteAirportFile(file.string()), 1);
+    Tick();
+    fakeSimLinkHost.mapInFront = false;
+    Press(1);
+    Tick();
+    EXPECT_TRUE(app::OpenAirportFile(file.string(), ""));
+    fakeSimLinkHost.mapInFront = true;
+    Tick();
+    EXPECT_TRUE(model::state.loaded);
+    EXPECT_EQ(model::CountKind(model::kTaxiNode), 0u);
+    std::filesystem::remove(file);
+}
+
+TEST_F(SimLinkTest, APressUnderTheSaveDialogIsMadeThoughTheFileChanges) {
+    Tick();
+    fakeSimLinkHost.mapInFront = false;
+    Press(1);
+    Tick();
+    app::state.sourceFile = "C:\\TV2_KTST.bgl";
+    fakeSimLinkHost.mapInFront = true;
+    Tick();
+    EXPECT_EQ(model::CountKind(model::kTaxiNode), 1u);
+}
+
+TEST_F(SimLinkTest, APressThatCannotBeAcknowledgedBlocksOnlyOnce) {
+    Tick();
+    for (uint32_t slot : { 1u, 2u, 3u }) Press(slot);
+    fakeTransport.answer = [](uint8_t* block) { return block[0] == 2 ? TimesOut() : ServeBlock(block); };
+    const uint64_t start = fakeTransport.now;
+    Tick();
+    EXPECT_EQ(fakeTransport.now - start, app::kSimLinkPeriod + 9 * 2000 + 8 * 100);
+    EXPECT_EQ(model::CountKind(model::kTaxiNode), 1u);
+    EXPECT_EQ(model::CountKind(model::kParkingSpot), 1u);
+    EXPECT_EQ(model::CountKind(model::kReferenceMarker), 1u);
+    EXPECT_FALSE(app::IsSimulatorConnected());
+    Mend();
+    TickUntilNextAttempt();
+    Tick();
+    EXPECT_EQ(model::CountKind(model::kReferenceMarker), 1u) << "none counts twice";
+    EXPECT_EQ(model::CountKind(model::kParkingSpot), 1u);
 }
 
 TEST_F(SimLinkTest, APressCountsEvenWhenItsAcknowledgementFails) {
@@ -298,6 +358,16 @@ TEST_F(SimLinkTest, AnAnswerThatEndsEarlyRepeatsNoPress) {
     Fly({ 500, 500 }, 0);
     for (int i = 0; i < 5; ++i) Tick();
     EXPECT_EQ(model::CountKind(model::kTaxiNode), 1u);
+}
+
+TEST_F(SimLinkTest, AMovedAircraftIsWhereItWasMovedToThoughTheNextAnswerEndsEarly) {
+    Tick();
+    app::PlaceAircraft(build::At({ 700, 0 }), kPi / 2);
+    SpoilTypes();
+    for (int i = 0; i < 3; ++i) Tick();
+    EXPECT_TRUE(app::IsSimulatorConnected()) << "an unknown type is no failure";
+    EXPECT_LT(MetresFrom(map::simAircraft.position, { 700, 0 }), 0.01);
+    EXPECT_NEAR(map::simAircraft.heading, kPi / 2, 1e-8);
 }
 
 TEST_F(SimLinkTest, PlacingTheAircraftNeedsASimulator) {

@@ -12,7 +12,7 @@
 #include "bgl/NavaidRecords.h"
 #include "bgl/OpenAirport.h"
 #include "bgl/RecordIds.h"
-#include "bgl/SceneryFile.h"
+#include "bgl/SceneryStructure.h"
 #include "bgl/StockFiles.h"
 #include "fakes/BuildObjects.h"
 #include "fakes/FakePlatform.h"

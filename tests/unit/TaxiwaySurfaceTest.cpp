@@ -131,6 +131,24 @@ TEST_F(TaxiwaySurfaceTest, CornersAreCubicsWithThirdsTruncated) {
     EXPECT_EQ(points[3], (Pixel{ 20, 5 }));
 }
 
+// The edges of a taxiway turned off at 45 degrees cross 24 m out; the hold-short node stands at 30.
+TEST_F(TaxiwaySurfaceTest, AFilletMayReachAsFarAsANodeWhereTheTaxiwayRunsStraightOn) {
+    const auto paveExit = [&](double beyondDegrees) {
+        ClearModel();
+        Open();
+        SceneryObject *exit = build::Node(), *hold = build::Node({ -30, 0 });
+        const double angle = beyondDegrees * kRadiansPerDegree;
+        Taxiway(hold, build::Node({ -30 - 60 * std::cos(angle), -60 * std::sin(angle) }), 20);
+        Taxiway(hold, exit, 20);
+        Taxiway(exit, build::Node({ 80, 0 }), 20);
+        Taxiway(exit, build::Node(Around(-45, 80)), 20);
+        PaintPavement();
+        return IsPavedAt(build::Place{ -25.5, 10.6 });  // in the corner
+    };
+    EXPECT_TRUE(paveExit(0));
+    EXPECT_FALSE(paveExit(45));  // the corner there needs some of the room
+}
+
 TEST_F(TaxiwaySurfaceTest, RunwayLinksAndApronRoutesPaveNothing) {
     Open();
     Taxiway(build::Node({ -60, 0 }), build::Node({ 60, 0 }), 20, kRunwayLink);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "app/Keys.h"
 #include "app/ParkingSpecs.h"
 #include "app/Settings.h"
 #include "dialogs/ParkingCodes.h"
@@ -161,11 +162,9 @@ TEST_F(ToolCombosTest, TypingMakesADesignatorCurrentAndGivesItToTheSelectedLinks
     model::SceneryObject* alpha = build::Designator("A");
     model::SceneryObject* link = build::Link(build::Node(), build::Node({ 50, 0 }));
     link->flags |= model::kSelected;
-    EXPECT_FALSE(NeedsQuestion("a"));
     TypeDesignatorText("a");
     EXPECT_EQ(map::layers.highlightedDesignator, alpha);
     EXPECT_EQ(DesignatorOf(link), alpha);
-    EXPECT_TRUE(NeedsQuestion("b"));
     fake.answers = { Answer::No };
     TypeDesignatorText("b");
     EXPECT_EQ(CurrentDesignatorRow(), 0) << "No clears the current designator";
@@ -178,10 +177,90 @@ TEST_F(ToolCombosTest, TypingDoesNothingWithoutAnAirportOrDuringADrag) {
     TypeDesignatorText("A");
     OpenAnAirport();
     model::state.busy = true;
-    EXPECT_FALSE(NeedsQuestion("A"));
     TypeDesignatorText("A");
     EXPECT_EQ(model::CountKind(model::kTaxiDesignator), 0u);
     EXPECT_TRUE(fake.messages.empty());
+}
+
+TEST_F(ToolCombosTest, AQuestionComesOnlyWhereTypingMakesANewDesignator) {
+    OpenAnAirport();
+    build::Designator("A");
+    EXPECT_FALSE(NeedsQuestion("b")) << "nobody types";
+    StartTyping();
+    EXPECT_FALSE(NeedsQuestion("a"));
+    EXPECT_TRUE(NeedsQuestion("b"));
+    for (const char* none : { "", " b", "rwy 9" }) EXPECT_FALSE(NeedsQuestion(none)) << none;
+    model::state.busy = true;
+    EXPECT_FALSE(NeedsQuestion("b")) << "in a drag nothing is made";
+}
+
+TEST_F(ToolCombosTest, FinishingTheTypingAsksAndEndsItBeforeTheQuestion) {
+    OpenAnAirport();
+    EXPECT_FALSE(FinishTyping("b", false)) << "nobody types";
+    EXPECT_TRUE(fake.messages.empty());
+    StartTyping();
+    fake.answers = { Answer::Yes };
+    EXPECT_TRUE(FinishTyping("b", false));
+    EXPECT_EQ(fake.messages.size(), 1u);
+    EXPECT_EQ(DesignatorTexts(), (Names{ "", "Taxi B" }));
+    EXPECT_EQ(CurrentDesignatorRow(), 1);
+    EXPECT_FALSE(LeaveTyping("c", false)) << "the box is left for the question, and the typing is over by then";
+}
+
+TEST_F(ToolCombosTest, LeavingTheBoxTakesAKnownNameAndDropsANewOneWithoutAQuestion) {
+    OpenAnAirport();
+    model::SceneryObject* alpha = build::Designator("A");
+    StartTyping();
+    EXPECT_TRUE(LeaveTyping("a", false));
+    EXPECT_EQ(map::layers.highlightedDesignator, alpha);
+    StartTyping();
+    EXPECT_TRUE(LeaveTyping("b", false));
+    EXPECT_EQ(map::layers.highlightedDesignator, alpha) << "the current one stays";
+    EXPECT_EQ(model::CountKind(model::kTaxiDesignator), 1u);
+    EXPECT_TRUE(fake.messages.empty());
+    EXPECT_FALSE(toolCombos.typing);
+    StartTyping();
+    EXPECT_TRUE(LeaveTyping("", false));
+    EXPECT_EQ(map::layers.highlightedDesignator, nullptr) << "an emptied box stands for none";
+}
+
+TEST_F(ToolCombosTest, UnderADialogTypingEndsWithoutAnEffect) {
+    OpenAnAirport();
+    model::SceneryObject* alpha = build::Designator("A");
+    map::SetHighlight(alpha);
+    for (const char* typed : { "b", "" }) {
+        StartTyping();
+        EXPECT_TRUE(FinishTyping(typed, true));
+        StartTyping();
+        EXPECT_TRUE(LeaveTyping(typed, true));
+        EXPECT_FALSE(toolCombos.typing);
+    }
+    EXPECT_EQ(map::layers.highlightedDesignator, alpha);
+    EXPECT_TRUE(fake.messages.empty());
+}
+
+TEST_F(ToolCombosTest, WhatIsTypedGoesWithTheAirport) {
+    OpenAnAirport();
+    StartTyping();
+    RefreshDesignatorRows();
+    EXPECT_TRUE(toolCombos.typing) << "what is typed stays while the list changes";
+    model::state.loaded = false;
+    RefreshDesignatorRows();
+    EXPECT_FALSE(toolCombos.typing);
+}
+
+TEST(TypingKeys, EnterAndTabFinishAndEscapeTakesBackUnlessTheListIsOpen) {
+    EXPECT_EQ(TypingKeyOf(kEnter, false), TypingKey::Finish);
+    EXPECT_EQ(TypingKeyOf(kTab, false), TypingKey::Finish);
+    EXPECT_EQ(TypingKeyOf(kEscape, false), TypingKey::TakeBack);
+    for (const int key : { int{ kEnter }, int{ kTab }, int{ kEscape } }) {
+        EXPECT_EQ(TypingKeyOf(key, true), TypingKey::None);
+        EXPECT_TRUE(IsTypingKeyCharacter(key));
+    }
+    for (const int key : { int{ 'A' }, int{ kBackspace }, int{ kDelete }, int{ kDown } }) {
+        EXPECT_EQ(TypingKeyOf(key, false), TypingKey::None);
+        EXPECT_FALSE(IsTypingKeyCharacter(key));
+    }
 }
 
 // The box of parking specs

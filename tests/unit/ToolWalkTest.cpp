@@ -72,9 +72,9 @@ protected:
         if (OneIn(&random, 12)) layers.network = false;
         tools.lastParkingType = int(Any(12));
         Paint();
-        const uint32_t presses = tools.tool == Tool::Apron ? 2 + Any(4) : 1;
+        const uint32_t presses = tools.toolMode == Tool::Apron ? 2 + Any(4) : 1;
         for (uint32_t i = 0; i < presses; ++i) PressAndDrag();
-        if (tools.tool == Tool::Apron) Escape();
+        if (tools.toolMode == Tool::Apron) Escape();
     }
 
     // The wheel, the middle button, and keys that turn and move the map.
@@ -93,7 +93,7 @@ protected:
 
     // An outline may be closed only once in a gesture: it is an action of its own.
     void PressAndDrag() {
-        const bool draws = tools.tool == Tool::Apron;
+        const bool draws = tools.toolMode == Tool::Apron;
         if (!draws && OneIn(&random, 8))
             OnDoubleClick(Target(), AnyKeys());
         else
@@ -150,6 +150,7 @@ protected:
             if ((KindOf(end) == kParkingSpot) != (LinkTypeOf(link) == kParkingLink)) return "a link has the wrong type";
             if (!joined.insert(std::minmax(start, end)).second) return "two links join the same two objects";
             if (name && !live.contains(name)) return "a name is gone";
+            if (name && (KindOf(name) == kRunway) != (LinkTypeOf(link) == kRunwayLink)) return "a name does not fit";
         }
         for (const SceneryObject* o : AllOf(kGuideline)) {
             const auto& line = PayloadAs<GuidelinePayload>(o);

@@ -361,6 +361,15 @@ TEST_F(ToolsTest, TheStripToolSwitchesTheLightsOn) {
     EXPECT_GT(fake.repaints, 0);
 }
 
+TEST_F(ToolsTest, APressOfTheStripToolShowsLightsHiddenSince) {
+    SetTool(Tool::EdgeLights);
+    layers.lights = false;
+    const int before = fake.repaints;
+    Press({ 0, 0 });
+    EXPECT_TRUE(layers.lights);
+    EXPECT_GT(fake.repaints, before);
+}
+
 TEST_F(ToolsTest, ToolsOfTheNetworkShowIt) {
     for (const Tool tool : { Tool::Nodes, Tool::Links, Tool::Parking }) {
         layers.network = false;
@@ -464,7 +473,7 @@ TEST_F(ToolsTest, LoadingAnAirportReturnsToThePointer) {
     layers.highlightedDesignator = state.tail;
     ClearModel();
     ResetTools();
-    EXPECT_EQ(tools.tool, Tool::Pointer);
+    EXPECT_EQ(tools.toolMode, Tool::Pointer);
     EXPECT_FALSE(tools.panning || tools.pressed || tools.hasClick);
     EXPECT_EQ(layers.highlightedDesignator, nullptr);
 }

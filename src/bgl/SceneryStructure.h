@@ -1,4 +1,4 @@
-// SceneryFile.h - the outer structure of a scenery file: header, section table, subsections.
+// SceneryStructure.h - the outer structure of a scenery file: header, section table, subsections.
 #pragma once
 
 #include <cstdint>
@@ -58,23 +58,23 @@ static_assert(sizeof(SectionEntry) == kSectionEntrySize && sizeof(SubsectionEntr
 
 // The outer structure of one file. In a sound file no two stretches overlap; a damaged one may send a
 // walk over the same bytes again and again, so a walk ends when it has covered the file once.
-struct SceneryFile {
+struct SceneryStructure {
     ByteSource source;
     std::vector<SectionEntry> sections;
     uint64_t tableBytesLeft = 0, recordBytesLeft = 0;
 };
 
 // False when the source is no scenery file.
-bool ReadStructure(const ByteSource& source, SceneryFile* file);
+bool ReadStructure(const ByteSource& source, SceneryStructure* file);
 
 // The section's subsections, each cut to the end of the file and to what the walk may still cover.
-std::vector<SubsectionEntry> ReadSubsections(SceneryFile* file, const SectionEntry& section);
+std::vector<SubsectionEntry> ReadSubsections(SceneryStructure* file, const SectionEntry& section);
 
 // Takes the subsection from what the walk may still cover; false when that is too little. Ask before
 // reading its records.
-bool CoverRecords(SceneryFile* file, const SubsectionEntry& subsection);
+bool CoverRecords(SceneryStructure* file, const SubsectionEntry& subsection);
 
-bool FindAirport(SceneryFile* file, std::string_view ident, AirportPlace* place);
-std::vector<AirportPlace> FindAllAirports(SceneryFile* file);  // without their paths
+bool FindAirport(SceneryStructure* file, std::string_view ident, AirportPlace* place);
+std::vector<AirportPlace> FindAllAirports(SceneryStructure* file);  // without their paths
 
 }  // namespace bgl

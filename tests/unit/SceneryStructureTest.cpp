@@ -1,4 +1,4 @@
-#include "bgl/SceneryFile.h"
+#include "bgl/SceneryStructure.h"
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@ namespace {
 
 using namespace bgl;
 
-TEST(SceneryFile, StockNamesAreAp9AndFiveDigits) {
+TEST(SceneryStructure, StockNamesAreAp9AndFiveDigits) {
     for (const char* path : { "AP912345.bgl", "AP912345.BGL", "ap900000.Bgl",
                               "C:\\FS\\Scenery\\Namw\\scenery\\AP915150.bgl", "/sim/AP915150.bgl" }) {
         EXPECT_TRUE(IsStockFileName(path)) << path;
@@ -27,7 +27,7 @@ TEST(SceneryFile, StockNamesAreAp9AndFiveDigits) {
     }
 }
 
-TEST(SceneryFile, OwnNamesBeginWithTv2InAnyCase) {
+TEST(SceneryStructure, OwnNamesBeginWithTv2InAnyCase) {
     for (const char* path : { "TV2_KSEA.bgl", "tv2_ksea.bgl", "C:\\a\\tV2_x", "/a/Tv2_", "TV2_" })
         EXPECT_TRUE(IsOwnFileName(path)) << path;
     for (const char* path : { "", "TV2", "xTV2_KSEA.bgl", "TV2_folder\\a.bgl", "TV2-KSEA.bgl" })
@@ -53,7 +53,7 @@ struct Found {
 };
 
 Found Find(const ByteList& bytes, std::string_view ident) {
-    SceneryFile file;
+    SceneryStructure file;
     Found result;
     result.found = ReadStructure(SourceOfBytes(bytes), &file) && FindAirport(&file, ident, &result.place);
     return result;
@@ -63,7 +63,7 @@ std::string IdentAt(const ByteList& bytes, const AirportPlace& place) {
     return HexOf(std::span(bytes).subspan(static_cast<size_t>(place.offset) + 40, 4));
 }
 
-TEST(SceneryFile, AirportIsFoundByItsIdentifier) {
+TEST(SceneryStructure, AirportIsFoundByItsIdentifier) {
     const ByteList bytes = Assembled(ThreeAirports());
     for (const char* ident : { "S36", "s36" }) {
         const Found found = Find(bytes, ident);
@@ -76,7 +76,7 @@ TEST(SceneryFile, AirportIsFoundByItsIdentifier) {
     EXPECT_FALSE(Find(bytes, "KBFI").found);
 }
 
-TEST(SceneryFile, IdentifiersAreComparedOverFourCharactersButTheSameOneComesFirst) {
+TEST(SceneryStructure, IdentifiersAreComparedOverFourCharactersButTheSameOneComesFirst) {
     const auto fileWith = [](const std::vector<std::string>& idents) {
         ByteList records;
         for (const std::string& ident : idents) records = Join({ records, AirportRecordWith({}, ident) });
@@ -93,16 +93,16 @@ TEST(SceneryFile, IdentifiersAreComparedOverFourCharactersButTheSameOneComesFirs
     EXPECT_EQ(Find(both, "KSEA").place.offset + Find(both, "KSEA").place.size, both.size());
 }
 
-TEST(SceneryFile, WithoutIdentifierTheFirstAirportIsTaken) {
+TEST(SceneryStructure, WithoutIdentifierTheFirstAirportIsTaken) {
     const ByteList bytes = Assembled(ThreeAirports());
     const Found found = Find(bytes, "");
     ASSERT_TRUE(found.found);
     EXPECT_EQ(IdentAt(bytes, found.place), HexOf(U32(0x0262E681)));
 }
 
-TEST(SceneryFile, AllAirportsAreListedInTheOrderOfTheFile) {
+TEST(SceneryStructure, AllAirportsAreListedInTheOrderOfTheFile) {
     const ByteList bytes = Assembled(ThreeAirports());
-    SceneryFile file;
+    SceneryStructure file;
     ASSERT_TRUE(ReadStructure(SourceOfBytes(bytes), &file));
     const std::vector<AirportPlace> places = FindAllAirports(&file);
     ASSERT_EQ(places.size(), 3u);
@@ -114,7 +114,7 @@ TEST(SceneryFile, AllAirportsAreListedInTheOrderOfTheFile) {
     EXPECT_TRUE(AirportsInFile("/no/such/file.bgl").empty());
 }
 
-TEST(SceneryFile, OnlySectionsOfTypeThreeAndClassOneHoldAirports) {
+TEST(SceneryStructure, OnlySectionsOfTypeThreeAndClassOneHoldAirports) {
     for (const auto& [type, sectionClass] :
          std::vector<std::pair<uint32_t, uint32_t>>{ { 3, 2 }, { 3, 0x10001 }, { 4, 1 } }) {
         std::vector<SectionContent> sections = ThreeAirports();
@@ -124,7 +124,7 @@ TEST(SceneryFile, OnlySectionsOfTypeThreeAndClassOneHoldAirports) {
     }
 }
 
-TEST(SceneryFile, OtherMagicIsNoSceneryFile) {
+TEST(SceneryStructure, OtherMagicIsNoSceneryFile) {
     ByteList bytes = Assembled(ThreeAirports());
     bytes[0] ^= 1;
     EXPECT_FALSE(Find(bytes, "").found);
@@ -132,7 +132,7 @@ TEST(SceneryFile, OtherMagicIsNoSceneryFile) {
     EXPECT_FALSE(Find(ByteList(bytes.begin(), bytes.begin() + 55), "").found);
 }
 
-TEST(SceneryFile, RecordsBehindTheSubsectionDoNotCount) {
+TEST(SceneryStructure, RecordsBehindTheSubsectionDoNotCount) {
     std::vector<SectionContent> sections = ThreeAirports();
     ByteList bytes = Assembled(sections);
     const size_t sizeOfSecond = 56 + 20 + 16 + 12;
@@ -141,7 +141,7 @@ TEST(SceneryFile, RecordsBehindTheSubsectionDoNotCount) {
     EXPECT_FALSE(Find(bytes, "S36").found);
 }
 
-TEST(SceneryFile, RecordSizeBelowSixEndsTheWalk) {
+TEST(SceneryStructure, RecordSizeBelowSixEndsTheWalk) {
     for (uint32_t size = 0; size < 6; ++size) {
         const ByteList bytes =
             Assembled({ { kAirportSection,
@@ -151,7 +151,7 @@ TEST(SceneryFile, RecordSizeBelowSixEndsTheWalk) {
     }
 }
 
-TEST(SceneryFile, CutAnywhereWhatIsFoundIsThere) {
+TEST(SceneryStructure, CutAnywhereWhatIsFoundIsThere) {
     const ByteList whole = Assembled(ThreeAirports());
     for (size_t size = 0; size < whole.size(); ++size) {
         const ByteList cut(whole.begin(), whole.begin() + static_cast<ptrdiff_t>(size));
@@ -161,7 +161,7 @@ TEST(SceneryFile, CutAnywhereWhatIsFoundIsThere) {
     }
 }
 
-TEST(SceneryFile, DamageAtEveryByteIsSurvived) {
+TEST(SceneryStructure, DamageAtEveryByteIsSurvived) {
     const ByteList whole = Assembled(ThreeAirports());
     for (size_t at = 0; at < whole.size(); ++at) {
         for (int value : { 0x00, 0x01, 0x7F, 0xFF }) {
@@ -172,14 +172,14 @@ TEST(SceneryFile, DamageAtEveryByteIsSurvived) {
     }
 }
 
-TEST(SceneryFile, TablesThatOverlapAreWalkedOnce) {
+TEST(SceneryStructure, TablesThatOverlapAreWalkedOnce) {
     // 3,000 sections, each with the whole file as its subsection table.
     ByteList bytes = Assembled({});
     const uint32_t count = 3000;
     std::copy_n(U32(count).begin(), 4, bytes.begin() + 20);
     const ByteList entry = Join({ U32(3), U32(1), U32(0xFFFFFFFF), U32(56), U32(0xFFFFFFFF) });
     for (uint32_t i = 0; i < count; ++i) bytes.insert(bytes.end(), entry.begin(), entry.end());
-    SceneryFile file;
+    SceneryStructure file;
     ASSERT_TRUE(ReadStructure(SourceOfBytes(bytes), &file));
     ASSERT_EQ(file.sections.size(), count);
     size_t subsections = 0;
@@ -188,17 +188,17 @@ TEST(SceneryFile, TablesThatOverlapAreWalkedOnce) {
     EXPECT_FALSE(Find(bytes, "").found);
 }
 
-TEST(SceneryFile, SubsectionIsCutToTheFile) {
+TEST(SceneryStructure, SubsectionIsCutToTheFile) {
     ByteList bytes = Assembled(ThreeAirports());
     std::fill_n(bytes.begin() + 56 + 20 + 12, 4, uint8_t{ 0xFF });
-    SceneryFile file;
+    SceneryStructure file;
     ASSERT_TRUE(ReadStructure(SourceOfBytes(bytes), &file));
     const auto subsections = ReadSubsections(&file, file.sections[0]);
     ASSERT_EQ(subsections.size(), 2u);
     EXPECT_EQ(subsections[0].offset + subsections[0].size, bytes.size());
 }
 
-TEST(SceneryFile, AssembledFileLeavesEmptySectionsOutAndListsItsCells) {
+TEST(SceneryStructure, AssembledFileLeavesEmptySectionsOutAndListsItsCells) {
     std::vector<SectionContent> sections = ThreeAirports();
     sections.insert(sections.begin(), SectionContent{ kVorSection, kByCell, {} });
     sections.push_back({ kVorIndexSection, kIdentIndex, { Content(kIndexSubsectionId, Zeros(12)) } });
@@ -210,7 +210,7 @@ TEST(SceneryFile, AssembledFileLeavesEmptySectionsOutAndListsItsCells) {
     EXPECT_EQ(HexOf(std::span(bytes).subspan(24, 12)), HexOf(Hex("01 00 08 00 02 00 08 00 00 00 00 00")));
 }
 
-TEST(SceneryFile, SubsectionsStandInAscendingOrder) {
+TEST(SceneryStructure, SubsectionsStandInAscendingOrder) {
     SectionContent section;
     for (uint32_t id : { 5u, 1u, 9u, 5u }) ++SubsectionOf(&section, id)->recordCount;
     ASSERT_EQ(section.subsections.size(), 3u);
@@ -220,7 +220,7 @@ TEST(SceneryFile, SubsectionsStandInAscendingOrder) {
     EXPECT_EQ(section.subsections[2].id, 9u);
 }
 
-TEST(SceneryFile, FileOnTheDiskIsSearchedLikeOneInMemory) {
+TEST(SceneryStructure, FileOnTheDiskIsSearchedLikeOneInMemory) {
     const std::filesystem::path path =
         std::filesystem::temp_directory_path() / ("tarvo-scenery-" + std::to_string(std::random_device{}()) + ".bgl");
     const ByteList bytes = Assembled(ThreeAirports());
@@ -235,7 +235,7 @@ TEST(SceneryFile, FileOnTheDiskIsSearchedLikeOneInMemory) {
     EXPECT_FALSE(FindAirportInFile(path.string(), "S36", &place));
 }
 
-TEST(SceneryFile, AirportsAreFoundAmongManySmallRecordsAndBehindLargeOnes) {
+TEST(SceneryStructure, AirportsAreFoundAmongManySmallRecordsAndBehindLargeOnes) {
     const ByteList small = Record(9, {});
     for (size_t before = 0; before < 5000; before += 7) {  // the heads lie everywhere in what is read ahead
         ByteList records;
@@ -246,7 +246,7 @@ TEST(SceneryFile, AirportsAreFoundAmongManySmallRecordsAndBehindLargeOnes) {
         const Found found = Find(bytes, "S36");
         ASSERT_TRUE(found.found) << before;
         ASSERT_EQ(found.place.offset + 52, bytes.size()) << before;
-        SceneryFile file;
+        SceneryStructure file;
         ASSERT_TRUE(ReadStructure(SourceOfBytes(bytes), &file));
         ASSERT_EQ(FindAllAirports(&file).size(), 2u) << before;
         if (before > 700) before += 130;

@@ -1,5 +1,5 @@
-// SceneryFile.cpp - see SceneryFile.h.
-#include "bgl/SceneryFile.h"
+// SceneryStructure.cpp - see SceneryStructure.h.
+#include "bgl/SceneryStructure.h"
 
 #include <algorithm>
 #include <cstring>
@@ -98,7 +98,7 @@ bool FindInRecords(const ByteSource& source, uint64_t offset, uint64_t end, Sear
     return false;
 }
 
-bool FindWhole(SceneryFile* file, Search* search, AirportPlace* place) {
+bool FindWhole(SceneryStructure* file, Search* search, AirportPlace* place) {
     for (const SectionEntry& section : file->sections) {
         if (section.type != kAirportSection || section.sectionClass != kByCell) continue;
         for (const SubsectionEntry& subsection : ReadSubsections(file, section)) {
@@ -144,7 +144,7 @@ std::vector<uint8_t> ReadStretch(const ByteSource& source, uint64_t offset, uint
     return bytes;
 }
 
-bool ReadStructure(const ByteSource& source, SceneryFile* file) {
+bool ReadStructure(const ByteSource& source, SceneryStructure* file) {
     uint8_t header[kFileHeaderSize];
     if (ReadSource(source, 0, header, sizeof header) < sizeof header) return false;
     if (ValueAt<uint32_t>(header, 0) != kFileMagic) return false;
@@ -154,7 +154,7 @@ bool ReadStructure(const ByteSource& source, SceneryFile* file) {
     return true;
 }
 
-std::vector<SubsectionEntry> ReadSubsections(SceneryFile* file, const SectionEntry& section) {
+std::vector<SubsectionEntry> ReadSubsections(SceneryStructure* file, const SectionEntry& section) {
     const uint64_t most = file->tableBytesLeft / kSubsectionEntrySize;
     const uint64_t count = std::min<uint64_t>(section.subsectionCount, most);
     std::vector<SubsectionEntry> entries = ReadTable<SubsectionEntry>(file->source, section.tableOffset, count);
@@ -166,13 +166,13 @@ std::vector<SubsectionEntry> ReadSubsections(SceneryFile* file, const SectionEnt
     return entries;
 }
 
-bool CoverRecords(SceneryFile* file, const SubsectionEntry& subsection) {
+bool CoverRecords(SceneryStructure* file, const SubsectionEntry& subsection) {
     if (subsection.size > file->recordBytesLeft) return false;
     file->recordBytesLeft -= subsection.size;
     return true;
 }
 
-bool FindAirport(SceneryFile* file, std::string_view ident, AirportPlace* place) {
+bool FindAirport(SceneryStructure* file, std::string_view ident, AirportPlace* place) {
     Search search;
     search.ident = ident;
     if (FindWhole(file, &search, place)) return true;
@@ -180,7 +180,7 @@ bool FindAirport(SceneryFile* file, std::string_view ident, AirportPlace* place)
     return search.hasSimilar;
 }
 
-std::vector<AirportPlace> FindAllAirports(SceneryFile* file) {
+std::vector<AirportPlace> FindAllAirports(SceneryStructure* file) {
     std::vector<AirportPlace> places;
     Search search;
     for (const SectionEntry& section : file->sections) {
@@ -200,7 +200,7 @@ std::vector<AirportPlace> FindAllAirports(SceneryFile* file) {
 
 bool FindAirportInFile(const std::string& path, std::string_view ident, AirportPlace* place) {
     const platform::FileHandle handle = platform::OpenForReading(path);
-    SceneryFile file;
+    SceneryStructure file;
     if (!handle || !ReadStructure(SourceOfFile(handle.get()), &file)) return false;
     if (!FindAirport(&file, ident, place)) return false;
     place->path = path;
@@ -209,7 +209,7 @@ bool FindAirportInFile(const std::string& path, std::string_view ident, AirportP
 
 std::vector<AirportPlace> AirportsInFile(const std::string& path) {
     const platform::FileHandle handle = platform::OpenForReading(path);
-    SceneryFile file;
+    SceneryStructure file;
     if (!handle || !ReadStructure(SourceOfFile(handle.get()), &file)) return {};
     std::vector<AirportPlace> places = FindAllAirports(&file);
     for (AirportPlace& place : places) place.path = path;
