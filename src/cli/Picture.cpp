@@ -26,7 +26,9 @@ struct PictureOptions {
     int32_t width = 1280, height = 960;
     double span = map::kInitialSpan;  // metres
     double rotation = 0;              // radians, [0, 2 pi)
-    bool night = false, navaids = false;
+    bool night = false;
+    map::MapLayers layers;
+    bool grid = true;
     int labels = 0;  // as the setting
 };
 
@@ -62,6 +64,39 @@ bool ParseRotation(std::string_view text, PictureOptions* options) {
     return true;
 }
 
+// What a name in the list of layers turns on.
+struct LayerName {
+    std::string_view name;
+    bool map::MapLayers::*layer;
+};
+constexpr LayerName kLayerNames[] = {
+    { "network", &map::MapLayers::network },
+    { "starts", &map::MapLayers::starts },
+    { "navaids", &map::MapLayers::navaids },
+    { "holdshort", &map::MapLayers::holdShortLimits },
+};
+
+bool ShowLayer(std::string_view name, PictureOptions* options) {
+    if (name == "grid") return options->grid = true;
+    for (const LayerName& row : kLayerNames) {
+        if (row.name == name) return options->layers.*row.layer = true;
+    }
+    return false;
+}
+
+// Exactly the layers named; an empty list shows the ground only.
+bool ParseLayers(std::string_view text, PictureOptions* options) {
+    options->grid = false;
+    for (const LayerName& row : kLayerNames) options->layers.*row.layer = false;
+    for (bool more = !text.empty(); more;) {
+        const size_t comma = text.find(',');
+        if (!ShowLayer(text.substr(0, comma), options)) return false;
+        more = comma != std::string_view::npos;
+        if (more) text.remove_prefix(comma + 1);
+    }
+    return true;
+}
+
 bool ParseLabels(std::string_view text, PictureOptions* options) {
     options->labels = text == "types" ? 1 : text == "codes" ? 2 : 0;
     return options->labels != 0;
@@ -73,18 +108,16 @@ struct Reading {
     bool (*parse)(std::string_view text, PictureOptions* options);
 };
 constexpr Reading kReadings[] = {
-    { "--size", ParseSize },
-    { "--span", ParseSpan },
-    { "--rotation", ParseRotation },
-    { "--labels", ParseLabels },
+    { "--size", ParseSize },     { "--span", ParseSpan },     { "--rotate", ParseRotation },
+    { "--labels", ParseLabels }, { "--layers", ParseLayers },
 };
 
 void SetUpMap(const PictureOptions& options) {
     app::settings = {};
     app::settings.showLabels = options.labels;
-    map::layers = {};
+    app::settings.showLatLongGrid = options.grid;
+    map::layers = options.layers;
     map::layers.lights = options.night;
-    map::layers.navaids = options.navaids;
     map::ResetView(model::PositionOf(model::state.airport));
     map::view.span = options.span;
     map::view.rotation = options.rotation;
@@ -96,7 +129,6 @@ void SetUpMap(const PictureOptions& options) {
 ToolResult RunPicture(const Arguments& arguments) {
     PictureOptions options;
     options.night = HasOption(arguments, "--night");
-    options.navaids = HasOption(arguments, "--navaids");
     for (const Reading& reading : kReadings) {
         const std::string text = OptionOr(arguments, reading.name, "");
         if (HasOption(arguments, reading.name) && !reading.parse(text, &options))

@@ -43,10 +43,13 @@ constexpr Option kPictureOptions[] = {
     kIdentOption,
     { "--size", "WxH", "Width and height of the picture in pixels. Without this option 1280x960." },
     { "--span", "METRES", "Ground shown across the picture's height. Without this option 3704.4, two nautical miles." },
-    { "--rotation", "DEG", "Turn of the map in degrees; 0 is north up." },
+    { "--rotate", "DEG", "Turn of the map in degrees; 0 is north up." },
     { "--night", nullptr, "Night colours, with the lights on." },
-    { "--navaids", nullptr, "Draw the navaids that the file holds." },
     { "--labels", "KIND", "Parking labels: types or codes. Without this option there are none." },
+    { "--layers", "LIST",
+      "What is drawn over the ground, separated by commas: network (nodes, links, parking), starts, navaids (those "
+      "that "
+      "the file holds), holdshort (the limits of hold-short nodes), grid. Without this option network,grid." },
     kHelpOption,
 };
 

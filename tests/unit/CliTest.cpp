@@ -6,6 +6,7 @@
 #include <random>
 #include <sstream>
 
+#include "app/Settings.h"
 #include "bgl/AirportWriter.h"
 #include "cli/Arguments.h"
 #include "cli/Tool.h"
@@ -281,27 +282,43 @@ TEST_F(Cli, PictureDrawsTheAirport) {
 
 TEST_F(Cli, PictureOptionsSetTheView) {
     const std::string file = AirportFile("a.bgl", "KSEA"), out = In("a.svg");
-    ASSERT_EQ(Tool({ "picture", file, out, "--size=800x600", "--span", "1200", "--rotation", "-90" }).status, 0);
+    ASSERT_EQ(Tool({ "picture", file, out, "--size=800x600", "--span", "1200", "--rotate", "-90" }).status, 0);
     EXPECT_EQ(map::view.clientWidth, 800);
     EXPECT_EQ(map::view.clientHeight, 600);
     EXPECT_NEAR(map::view.pixelsPerMetre, 0.5, 1e-12);
     EXPECT_NEAR(map::view.rotation, 1.5 * model::kPi, 1e-12);
     EXPECT_FALSE(map::layers.lights);
     const Bytes day = Read(out);
-    ASSERT_EQ(Tool({ "picture", file, out, "--size=800x600", "--span", "1200", "--rotation", "-90", "--night" }).status,
+    ASSERT_EQ(Tool({ "picture", file, out, "--size=800x600", "--span", "1200", "--rotate", "-90", "--night" }).status,
               0);
     EXPECT_TRUE(map::layers.lights);
     EXPECT_NE(Read(out), day);
-    ASSERT_EQ(Tool({ "picture", file, out, "--size=800x600", "--span", "1200", "--rotation", "270" }).status, 0);
+    ASSERT_EQ(Tool({ "picture", file, out, "--size=800x600", "--span", "1200", "--rotate", "270" }).status, 0);
     EXPECT_EQ(Read(out), day);  // nothing is left of the options before
 }
 
+TEST_F(Cli, PictureShowsExactlyTheLayersOfTheList) {
+    const std::string file = AirportFile("a.bgl", "KSEA"), out = In("a.svg");
+    ASSERT_EQ(Tool({ "picture", file, out }).status, 0);
+    EXPECT_TRUE(map::layers.network && app::settings.showLatLongGrid);
+    EXPECT_FALSE(map::layers.starts || map::layers.navaids || map::layers.holdShortLimits);
+    ASSERT_EQ(Tool({ "picture", file, out, "--layers=starts,navaids,holdshort" }).status, 0);
+    EXPECT_TRUE(map::layers.starts && map::layers.navaids && map::layers.holdShortLimits);
+    EXPECT_FALSE(map::layers.network || app::settings.showLatLongGrid);
+    ASSERT_EQ(Tool({ "picture", file, out, "--layers", "network,grid" }).status, 0);
+    EXPECT_TRUE(map::layers.network && app::settings.showLatLongGrid);
+    ASSERT_EQ(Tool({ "picture", file, out, "--layers=" }).status, 0);
+    EXPECT_FALSE(map::layers.network || app::settings.showLatLongGrid);
+}
+
 TEST_F(Cli, PictureOptionsThatMakeNoSenseAreRefused) {
+    for (const char* layers : { "roads", "network,", "network;grid", ",grid", "Network" })
+        ExpectUsageError({ "picture", "a", "b", "--layers", layers }, "does not fit --layers");
     for (const char* size : { "0x10", "10x0", "10", "x", "10x", "10x10x10", "-5x5", "99999x10" })
         ExpectUsageError({ "picture", "a", "b", "--size", size }, "does not fit --size");
     for (const char* span : { "0", "-5", "x", "", "1e99" })
         ExpectUsageError({ "picture", "a", "b", "--span", span }, "does not fit --span");
-    ExpectUsageError({ "picture", "a", "b", "--rotation", "north" }, "does not fit --rotation");
+    ExpectUsageError({ "picture", "a", "b", "--rotate", "north" }, "does not fit --rotate");
     for (const char* labels : { "", "none", "Types" })
         ExpectUsageError({ "picture", "a", "b", "--labels", labels }, "does not fit --labels");
 }
