@@ -57,14 +57,22 @@ void Look(double span, int width, int height) {
 
 // The argument is the ground across the height of the window, in metres.
 void PaintNetwork(benchmark::State& state) {
-    MakeNetwork(kRows);
-    Look(static_cast<double>(state.range(0)), 1600, 1000);
+    const auto span = static_cast<double>(state.range(0));
     CallCounts counts;
-    for (auto _ : state) {
+    const auto paint = [&] {
         counts = {};
         platform::Canvas canvas = CountingCanvas(&counts);
         map::PaintMap(&canvas);
-    }
+    };
+    MakeNetwork(500 / kColumns);
+    Look(span, 1600, 1000);
+    const double small = BestSeconds(10, paint) / static_cast<double>(model::CountKind(model::kTaxiNode));
+    MakeNetwork(kRows);
+    Look(span, 1600, 1000);
+    for (auto _ : state) paint();
+    NoteRatio(&state, "times_500",
+              { "redraw per node at " + std::to_string(state.range(0)) + " m, 4000 nodes / 480 nodes",
+                BestSeconds(10, paint) / static_cast<double>(model::CountKind(model::kTaxiNode)) / small, 1.5 });
     state.counters["nodes"] = static_cast<double>(model::CountKind(model::kTaxiNode));
     state.counters["links"] = static_cast<double>(model::CountKind(model::kTaxiLink));
     state.counters["shapes"] = static_cast<double>(counts.shapes);

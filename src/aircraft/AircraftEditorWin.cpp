@@ -21,8 +21,6 @@ namespace aircraft {
 namespace {
 
 constexpr char kTopic[] = "#AircraftEditor";
-constexpr UINT kFitColumns = WM_APP;
-constexpr UINT kDpiChanged = 0x02E0;  // WM_DPICHANGED of Windows 8.1
 constexpr platform::Column kColumnTitles[kColumns] = {
     { "Manufacturer", 17 }, { "Type", 13 },          { "Variation (paint scheme)", 23 },
     { "Airline", 17 },      { "Parking types", 14 }, { "Code", 7 },
@@ -235,8 +233,8 @@ INT_PTR CALLBACK EditorProc(HWND handle, UINT message, WPARAM wParam, LPARAM lPa
     switch (message) {
     case WM_COMMAND: OnCommand(&editor, LOWORD(wParam), HIWORD(wParam)); return TRUE;
     case WM_NOTIFY: return OnNotify(&editor, reinterpret_cast<NMHDR*>(lParam));
-    case kDpiChanged: PostMessageW(handle, kFitColumns, 0, 0); return FALSE;
-    case kFitColumns: platform::FitColumns(editor.list, kColumnTitles); return TRUE;
+    case platform::kDpiChanged: PostMessageW(handle, platform::kFitColumns, 0, 0); return FALSE;
+    case platform::kFitColumns: platform::FitColumns(editor.list, kColumnTitles); return TRUE;
     default: return FALSE;
     }
 }

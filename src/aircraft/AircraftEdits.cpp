@@ -31,11 +31,7 @@ bool RefuseField(const std::string& text, AircraftField field, AircraftField* ba
     return Refuse(text);
 }
 
-std::string Trimmed(std::string_view text) {
-    constexpr std::string_view kBlanks = " \t";
-    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
-    return std::string(text.substr(0, text.find_last_not_of(kBlanks) + 1));
-}
+std::string Trimmed(std::string_view text) { return std::string(platform::Trimmed(text)); }
 
 // 0 for anything but a number of metres that a model may have.
 uint32_t RadiusFrom(const std::string& entered) {

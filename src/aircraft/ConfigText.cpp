@@ -58,17 +58,12 @@ bool WasQuoted(std::string_view text, std::string_view value) {
     return (quote == '"' || quote == '\'') && text[end] == quote;
 }
 
-std::string_view Unquoted(std::string_view value) {
-    const bool quoted =
-        value.size() >= 2 && value.front() == value.back() && (value.front() == '"' || value.front() == '\'');
-    return quoted ? value.substr(1, value.size() - 2) : value;
-}
-
 std::string_view WithoutComment(std::string_view text, std::string_view value) {
     if (WasQuoted(text, value)) return value;
     for (size_t i = 0; i < value.size(); ++i) {
         const bool begins = value[i] == ';' || value.substr(i, 2) == "//";
-        if (begins && (i == 0 || IsBlank(value[i - 1]))) return Unquoted(WithoutBlanksBehind(value.substr(0, i)));
+        if (begins && (i == 0 || IsBlank(value[i - 1])))
+            return platform::Unquoted(WithoutBlanksBehind(value.substr(0, i)));
     }
     return value;
 }

@@ -110,11 +110,15 @@ std::vector<Variation> VariationsOf(const std::string& folder, const ConfigText&
 }
 
 std::vector<Variation> ListVariations(const std::string& simulatorFolder) {
-    const std::string root = AircraftFolder(simulatorFolder);
+    std::string folder = AircraftFolder(simulatorFolder);
     std::vector<Variation> rows;
-    if (root.empty()) return rows;
-    for (const std::string& name : platform::ListFolders(root)) {
-        for (Variation& row : ReadFolder(root + "\\" + name)) rows.push_back(std::move(row));
+    if (folder.empty()) return rows;
+    const std::vector<std::string> names = platform::ListFolders(folder);
+    folder += '\\';
+    const size_t rootLength = folder.size();
+    for (const std::string& name : names) {
+        folder.replace(rootLength, std::string::npos, name);
+        for (Variation& row : ReadFolder(folder)) rows.push_back(std::move(row));
     }
     return rows;
 }

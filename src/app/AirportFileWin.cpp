@@ -10,7 +10,7 @@ namespace app {
 
 namespace {
 
-constexpr DWORD kPathLimit = 32768;
+using platform::kPathLimit;
 
 }  // namespace
 

@@ -110,9 +110,9 @@ bool NodesInUse() {
     return map::tools.toolMode == map::Tool::Nodes && map::tools.nodeKind == kind;
 }
 
-template <bool (*dialog)()>
+template <bool (*dialog)(), bool map::MapLayers::*layer = nullptr>
 void Insert() {
-    InsertWith(dialog);
+    InsertWith(dialog, layer);
 }
 
 template <dialogs::ListKind kind>
@@ -168,11 +168,11 @@ constexpr Command kCommands[] = {
     { IDM_INSERT_RUNWAY, Insert<dialogs::InsertRunwayDialog>, AirportAtRest },
     { IDM_INSERT_HELIPAD, Insert<dialogs::InsertHelipadDialog>, AirportAtRest },
     { IDM_INSERT_TOWER, Insert<dialogs::InsertTowerDialog>, AirportAtRest },
-    { IDM_INSERT_START, Insert<dialogs::InsertStartDialog>, AirportAtRest },
-    { IDM_INSERT_ILS, Insert<dialogs::InsertIlsDialog>, AirportAtRest },
-    { IDM_INSERT_MARKER_BEACON, Insert<dialogs::InsertMarkersDialog>, AirportAtRest },
-    { IDM_INSERT_NDB, Insert<dialogs::InsertNdbDialog>, AirportAtRest },
-    { IDM_INSERT_VOR, Insert<dialogs::InsertVorDialog>, AirportAtRest },
+    { IDM_INSERT_START, Insert<dialogs::InsertStartDialog, &map::MapLayers::starts>, AirportAtRest },
+    { IDM_INSERT_ILS, Insert<dialogs::InsertIlsDialog, &map::MapLayers::navaids>, AirportAtRest },
+    { IDM_INSERT_MARKER_BEACON, Insert<dialogs::InsertMarkersDialog, &map::MapLayers::navaids>, AirportAtRest },
+    { IDM_INSERT_NDB, Insert<dialogs::InsertNdbDialog, &map::MapLayers::navaids>, AirportAtRest },
+    { IDM_INSERT_VOR, Insert<dialogs::InsertVorDialog, &map::MapLayers::navaids>, AirportAtRest },
     { IDM_LIST_PARKING, List<dialogs::ListKind::Parking>, AirportAtRest },
     { IDM_LIST_DESIGNATORS, List<dialogs::ListKind::Designators>, AirportAtRest },
     { IDM_LIST_RUNWAYS, List<dialogs::ListKind::Runways>, AirportAtRest },
@@ -182,7 +182,7 @@ constexpr Command kCommands[] = {
     { IDM_FAULT_FINDER, faults::OpenFaultFinder, AirportAtRest },
     { IDM_AIRCRAFT_EDITOR, [] { aircraft::ShowAircraftEditor(state.simulatorFolder); }, Always },
     { IDM_OPTIONS, ShowOptionsDialog, Always },
-    { IDM_HELP, [] { OpenDocument(HelpFile(state.programFolder)); }, Always },
+    { IDM_HELP, [] { OpenDocument(HelpFile(state.programFolder)); }, Always, Never, "", { Any(kF1) } },
     { IDM_KEYBOARD, ShowKeyboardFunctions, Always },
     { IDM_ABOUT, ShowAbout, Always },
 

@@ -6,6 +6,7 @@
 
 #include "app/AppHost.h"
 #include "app/CommandTable.h"
+#include "app/ToolHint.h"
 #include "dialogs/OverMap.h"
 #include "Resource.h"
 
@@ -42,6 +43,7 @@ bool RunCommand(int id) {
     if (!command || !MayRun(*command)) return false;
     command->run();
     ShowCommandStates();
+    ShowToolHint();
     return true;
 }
 
@@ -58,12 +60,6 @@ bool IsCommandChecked(int id) {
 const char* CommandToolTip(int id) {
     const Command* command = FindCommand(id);
     return command && *command->tooltip ? command->tooltip : nullptr;
-}
-
-std::vector<int> CommandIds() {
-    std::vector<int> ids;
-    for (const Command& command : CommandTable()) ids.push_back(command.id);
-    return ids;
 }
 
 }  // namespace app

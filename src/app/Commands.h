@@ -4,8 +4,6 @@
 // command table is always greyed.
 #pragma once
 
-#include <vector>
-
 namespace app {
 
 // Runs the command when it is enabled; tells whether it was.
@@ -16,7 +14,5 @@ bool IsCommandChecked(int id);
 
 // The tooltip of the command's button; null when it has none.
 const char* CommandToolTip(int id);
-
-std::vector<int> CommandIds();  // of all rows
 
 }  // namespace app

@@ -51,8 +51,13 @@ bool CanEditAtMenuPoint() {
     return object && dialogs::HasEditor(object);
 }
 
-void InsertWith(bool (*dialog)()) {
-    dialog();
+void InsertWith(bool (*dialog)(), bool map::MapLayers::*layer) {
+    const bool wasHidden = layer && !(map::layers.*layer);
+    if (wasHidden) {
+        map::layers.*layer = true;  // nothing is placed unseen
+        platform::RequestRepaint();
+    }
+    if (!dialog() && wasHidden) map::layers.*layer = false;
     ShowEdited();
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dialogs/ListRows.h"
+#include "map/MapView.h"
 #include "model/SceneryObject.h"
 
 namespace app {
@@ -18,7 +19,8 @@ void EditProperties(model::SceneryObject* object);
 void EditAtMenuPoint();
 bool CanEditAtMenuPoint();
 
-// An Insert command: runs the dialog that makes the object.
-void InsertWith(bool (*dialog)());
+// An Insert command: runs the dialog that makes the object, with the layer shown on which it will lie (null: one that
+// is always shown). When the dialog is cancelled a layer that was hidden is hidden again.
+void InsertWith(bool (*dialog)(), bool map::MapLayers::*layer);
 
 }  // namespace app

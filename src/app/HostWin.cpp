@@ -16,7 +16,7 @@ namespace app {
 
 namespace {
 
-constexpr DWORD kPathLimit = 32768;  // the longest path that Windows knows
+using platform::kPathLimit;
 
 }  // namespace
 

@@ -21,6 +21,7 @@ enum Key : int {
     kNumpad5 = 101,
     kNumpadAdd = 107,
     kNumpadSubtract = 109,
+    kF1 = 112,
     kPlus = 187,
     kMinus = 189,
 };

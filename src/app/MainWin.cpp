@@ -18,7 +18,7 @@ namespace app {
 
 namespace {
 
-constexpr DWORD kPathLimit = 32768;
+using platform::kPathLimit;
 
 std::wstring FullPath(const std::wstring& path) {
     std::wstring full(kPathLimit, L'\0');

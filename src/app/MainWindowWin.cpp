@@ -29,6 +29,7 @@
 #include "map/Tools.h"
 #include "model/ObjectList.h"
 #include "platform/CanvasGdiWin.h"
+#include "platform/DialogWin.h"
 #include "platform/PlatformWin.h"
 #include "platform/WideTextWin.h"
 #include "Resource.h"
@@ -38,7 +39,6 @@ namespace app {
 namespace {
 
 constexpr wchar_t kName[] = L"Tarvo";
-constexpr UINT kDpiChanged = 0x02E0;  // WM_DPICHANGED of Windows 8.1
 
 struct Window {
     HWND handle = nullptr, rebar = nullptr, statusBar = nullptr;
@@ -89,13 +89,14 @@ void OnPaint() {
     dialogs::RefreshLists();
 }
 
-void OnDpiChanged(int dpi, const RECT& proposed) {
+void OnDpiChanged(int dpi, const RECT* proposed) {
     window.dpi = dpi;
     platform::FreeGdiFonts();
     ScaleToolbars(dpi);
     ScaleStatusBar(dpi);
-    SetWindowPos(window.handle, nullptr, proposed.left, proposed.top, proposed.right - proposed.left,
-                 proposed.bottom - proposed.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    if (proposed)
+        SetWindowPos(window.handle, nullptr, proposed->left, proposed->top, proposed->right - proposed->left,
+                     proposed->bottom - proposed->top, SWP_NOZORDER | SWP_NOACTIVATE);
     LayOut();
 }
 
@@ -172,7 +173,7 @@ LRESULT CALLBACK MainWindowProc(HWND handle, UINT message, WPARAM wParam, LPARAM
         SendMessageW(window.rebar, message, wParam, lParam);
         SendMessageW(window.statusBar, message, wParam, lParam);
         return 0;
-    case kDpiChanged: OnDpiChanged(LOWORD(wParam), *reinterpret_cast<const RECT*>(lParam)); return 0;
+    case platform::kDpiChanged: OnDpiChanged(LOWORD(wParam), reinterpret_cast<const RECT*>(lParam)); return 0;
     case WM_CONTEXTMENU:
         if (OnContextMenu(reinterpret_cast<HWND>(wParam), lParam)) return 0;
         break;

@@ -13,7 +13,7 @@ namespace app {
 
 namespace {
 
-constexpr DWORD kPathLimit = 32768;
+using platform::kPathLimit;
 constexpr wchar_t kDescription[] = L"Tarvo\0Map of an airport\0";  // program and picture
 
 // The form that the file dialogs take: label and pattern in turn, each with its zero.

@@ -12,12 +12,14 @@ void SetNotice(Notice notice, const std::string& text) {
 }
 
 std::string NoticeText() {
+    constexpr int kHint = static_cast<int>(Notice::Hint);
     std::string all;
-    for (const std::string& text : state.notices) {
+    for (int i = 0; i < kHint; ++i) {
+        const std::string& text = state.notices[i];
         if (!text.empty() && !all.empty()) all += "   ";
         all += text;
     }
-    return all;
+    return all.empty() ? state.notices[kHint] : all;
 }
 
 }  // namespace app

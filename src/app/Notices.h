@@ -5,13 +5,13 @@
 
 namespace app {
 
-enum class Notice : int { Pointer, Remark, Backup, Recovered };
-constexpr int kNotices = 4;
+enum class Notice : int { Pointer, Remark, Backup, Recovered, Hint };
+constexpr int kNotices = 5;
 
 // Replaces the text of that kind; "" takes it away.
 void SetNotice(Notice notice, const std::string& text);
 
-// All of them on one line.
+// All of them on one line. The hint stands there only when there is nothing else to tell.
 std::string NoticeText();
 
 }  // namespace app

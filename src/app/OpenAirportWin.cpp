@@ -25,8 +25,6 @@ namespace {
 
 constexpr UINT_PTR kCollectTimer = 1;
 constexpr UINT kCollectDelay = 60;  // milliseconds; the dialog is seen before the work begins
-constexpr UINT kFitColumns = WM_APP;
-constexpr UINT kDpiChanged = 0x02E0;  // WM_DPICHANGED of Windows 8.1
 constexpr platform::Column kColumns[] = { { "ID", 14 }, { "Type", 15 }, { "Layer", 16 }, { "Name", 55 } };
 
 struct OpenDialog {
@@ -284,8 +282,8 @@ INT_PTR CALLBACK DialogProc(HWND handle, UINT message, WPARAM wParam, LPARAM lPa
     case WM_TIMER: return wParam == kCollectTimer && OnTimer(&dialog);
     case WM_NOTIFY: return OnNotify(&dialog, reinterpret_cast<NMHDR*>(lParam));
     case WM_COMMAND: OnCommand(&dialog, LOWORD(wParam), HIWORD(wParam)); return TRUE;
-    case kDpiChanged: PostMessageW(handle, kFitColumns, 0, 0); return FALSE;
-    case kFitColumns: platform::FitColumns(dialog.airports, kColumns); return TRUE;
+    case platform::kDpiChanged: PostMessageW(handle, platform::kFitColumns, 0, 0); return FALSE;
+    case platform::kFitColumns: platform::FitColumns(dialog.airports, kColumns); return TRUE;
     default: return FALSE;
     }
 }

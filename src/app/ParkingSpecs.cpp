@@ -32,19 +32,13 @@ void Complain(std::string_view line, const std::string& what) {
     platform::ShowMessage(text, platform::Buttons::Ok, platform::Icon::Exclamation);
 }
 
-std::string_view Trimmed(std::string_view text) {
-    constexpr std::string_view kBlanks = " \t";
-    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
-    return text.substr(0, text.find_last_not_of(kBlanks) + 1);
-}
-
 // The fields of a line, trimmed.
 std::vector<std::string_view> FieldsOf(std::string_view line) {
     line = line.substr(0, line.find(';'));
     std::vector<std::string_view> fields;
     for (;;) {
         const size_t comma = line.find(',');
-        fields.push_back(Trimmed(line.substr(0, comma)));
+        fields.push_back(platform::Trimmed(line.substr(0, comma)));
         if (comma == std::string_view::npos) return fields;
         line.remove_prefix(comma + 1);
     }
@@ -77,7 +71,7 @@ bool ReadColour(const std::vector<std::string_view>& fields, ParkingSpec* spec) 
 }
 
 void ReadLine(std::string_view line) {
-    const std::string_view text = Trimmed(line);
+    const std::string_view text = platform::Trimmed(line);
     if (text.empty() || text.front() == ';') return;
     const std::vector<std::string_view> fields = FieldsOf(text);
     if (fields[0].empty()) {

@@ -25,8 +25,6 @@ using model::SceneryObject;
 
 namespace {
 
-constexpr uint8_t kHasVor = 0x01;  // of a VOR/DME's flags
-
 std::string NodeText(const SceneryObject* node) {
     switch (PayloadAs<model::TaxiNodeRecord>(node).type) {
     case model::kHoldShortNode: return "Hold-short node";
@@ -64,7 +62,7 @@ std::string ApronText(const SceneryObject* apron) {
 
 std::string StartText(const SceneryObject* start) {
     const auto& record = PayloadAs<model::StartLocationRecord>(start);
-    return "Start location " + model::RunwayEndName(record.number, record.designatorAndType & 0xFu);
+    return "Start location " + model::RunwayEndName(record.number, model::StartSuffix(record));
 }
 
 std::string IdentText(const char* kind, uint32_t ident) {
@@ -85,7 +83,7 @@ std::string HelipadText(const SceneryObject* pad) {
 
 std::string VorText(const SceneryObject* object) {
     const auto& vor = PayloadAs<model::VorDmePayload>(object).body;
-    const bool isDmeOnly = (vor.flags & model::kHasDme) != 0 && (vor.flags & kHasVor) == 0;
+    const bool isDmeOnly = (vor.flags & model::kHasDme) != 0 && (vor.flags & model::kHasVor) == 0;
     return IdentText(isDmeOnly ? "DME " : "VOR ", vor.ident);
 }
 

@@ -14,6 +14,7 @@
 #include "app/SimLink.h"
 #include "app/SimLinkHost.h"
 #include "app/SimulatorFolder.h"
+#include "app/ToolHint.h"
 #include "app/UpdateReminder.h"
 #include "dialogs/Subject.h"
 #include "map/MapView.h"
@@ -80,13 +81,16 @@ void LoadProgramFiles() {
 void BeginSession(const std::string& file, const std::string& ident) {
     RemindOfUpdates();
     const bool recovered = ClaimAutoBackup() && RecoverAirport();
+    ShowToolHint();
     if (file.empty()) return;
     if (recovered) SayWhatWasRecovered(file);
     OpenBroughtFile(file, ident);
 }
 
 bool OpenBroughtFile(const std::string& file, const std::string& ident) {
-    return IsAirportAtRest() && SavePrompt() && OpenAndRemember(file, ident);
+    const bool opened = IsAirportAtRest() && SavePrompt() && OpenAndRemember(file, ident);
+    ShowToolHint();
+    return opened;
 }
 
 bool MayEnd() {

@@ -5,8 +5,8 @@
 
 namespace app {
 
-// Reads every setting; what is missing or makes no sense has its default. A missing file is no error. False when there is
-// a file that cannot be read just now: the defaults that were taken instead must not replace what it holds.
+// Reads every setting; what is missing or makes no sense has its default. A missing file is no error. False when there
+// is a file that cannot be read just now: the defaults that were taken instead must not replace what it holds.
 bool LoadSettings(const std::string& programFolder);
 
 // Writes every setting back but the simulator folder override, which only the user sets; what else the file holds

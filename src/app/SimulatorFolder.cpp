@@ -57,8 +57,8 @@ void OfferRegistryEntry(const std::vector<std::string>& registered, const std::s
 }  // namespace
 
 int FindSimulatorFolder() {
-    state.simulatorFolder = settings.overrideFsFolder;
-    if (!state.simulatorFolder.empty()) return 1;
+    state.simulatorFolder = WithoutLastSlash(settings.overrideFsFolder);
+    if (!settings.overrideFsFolder.empty()) return 1;
     std::vector<std::string> registered = RegisteredSimulatorFolders();
     std::erase_if(registered, [](const std::string& entry) { return WithoutLastSlash(entry).empty(); });
     for (const std::string& entry : registered) {

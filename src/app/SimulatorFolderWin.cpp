@@ -15,7 +15,7 @@ namespace {
 constexpr wchar_t kKey[] = L"SOFTWARE\\Microsoft\\Microsoft Games\\Flight Simulator\\9.0";
 constexpr wchar_t kValue[] = L"EXE Path";
 constexpr wchar_t kBrowserTitle[] = L"Tarvo -- Please locate the Flight Simulator 2004 folder";
-constexpr DWORD kPathLimit = 32768;  // the longest path that Windows knows
+using platform::kPathLimit;
 
 // The title as the caption too: the text above the tree is easily overlooked.
 int CALLBACK OnBrowser(HWND browser, UINT message, LPARAM, LPARAM) {

@@ -167,7 +167,7 @@ Next ReadTaxiLinks(Reading* reading, const RecordHead&) {
     return ReadList(reading, model::kTaxiLinkFileSize, [](Bytes entry) {
         const auto start = ValueAt<uint16_t>(entry, offsetof(model::TaxiLinkPayload, startIndex));
         const auto end = ValueAt<uint16_t>(entry, offsetof(model::TaxiLinkPayload, endField)) & 0x0FFF;
-        const auto type = ValueAt<uint8_t>(entry, offsetof(model::TaxiLinkPayload, flagsWord)) & 0x0F;
+        const auto type = ValueAt<uint8_t>(entry, offsetof(model::TaxiLinkPayload, flagsWord)) & model::kLinkTypeMask;
         const bool selfLoop = type != model::kParkingLink && start == end;
         if (!selfLoop) AppendWith(model::kTaxiLink, sizeof(model::TaxiLinkPayload), entry);
     });
@@ -179,7 +179,7 @@ Next ReadParkingSpots(Reading* reading, const RecordHead&) {
     for (int i = 0; i < count; ++i) {
         Bytes fixed, codes;
         if (!TakeBody(reading, sizeof(model::ParkingSpotRecord), &fixed)) return Next::End;
-        const size_t codesSize = 4 * size_t{ fixed[3] };  // the packed word's top byte counts the codes
+        const size_t codesSize = model::kParkingCodeSize * fixed[3];  // the packed word's top byte counts the codes
         if (!TakeBody(reading, codesSize, &codes)) return Next::End;
         SceneryObject* spot = AppendWith(model::kParkingSpot, fixed.size() + codesSize, fixed);
         std::copy(codes.begin(), codes.end(), spot->payload + fixed.size());

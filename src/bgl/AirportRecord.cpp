@@ -114,8 +114,9 @@ void WriteParkingSpots(const std::vector<SceneryObject*>& spots, ByteWriter* out
     const size_t start = BeginRecord(out, kParkingRecord);
     Put(out, static_cast<uint16_t>(spots.size()));
     for (const SceneryObject* spot : spots) {
-        assert(spot->payloadSize == sizeof(model::ParkingSpotRecord) +
-                                        4 * ParkingCodeCount(model::PayloadAs<model::ParkingSpotRecord>(spot)));
+        assert(spot->payloadSize ==
+               sizeof(model::ParkingSpotRecord) +
+                   model::kParkingCodeSize * ParkingCodeCount(model::PayloadAs<model::ParkingSpotRecord>(spot)));
         PutBytes(out, spot->payload, spot->payloadSize);
     }
     EndRecord(out, start);

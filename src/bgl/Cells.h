@@ -15,6 +15,9 @@ namespace bgl {
 constexpr int64_t kTurn = 0x30000000;        // one turn of the encoded longitude
 constexpr int64_t kPoleToPole = 0x20000000;  // encoded latitude of the south pole
 
+// The simulator's own files hold a block of the world each: 96 columns and 64 rows.
+constexpr int kBlockShift = 23;
+
 // Column and row at level 9, ten bits of the code each. A longitude of exactly 180 degrees has a column of its
 // own behind the last, and a latitude of exactly -90 such a row; the indices of navaids tell the same numbers.
 uint32_t CellColumn(uint32_t longitude);

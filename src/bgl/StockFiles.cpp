@@ -22,7 +22,6 @@ namespace {
 constexpr const char* kRegions[] = { "Afri", "Asia", "Aust", "Eure", "Eurw", "Namc", "Name", "Namw", "Ocen", "Same" };
 constexpr const char* kFileKinds[] = { "AP9", "UT9", "ST9", "RR9", "RD9", "PK9", "OB9",
                                        "NV9", "HP9", "HL9", "FL9", "BR9", "AT9", "AB9" };
-constexpr int kBlockShift = 23;  // 96 columns and 64 rows
 constexpr size_t kAllBlocks = 96 * 64;
 constexpr uint32_t kColumnWeight = 100;
 

@@ -107,25 +107,6 @@ std::vector<Pair> PossiblePairs(const std::vector<SceneryObject*>& own, const st
 
 }  // namespace
 
-void WalkNavaids(SceneryStructure* file, std::initializer_list<uint32_t> sectionTypes,
-                 const std::function<bool(uint32_t)>& wanted, const std::function<void(const NavaidRecord&)>& visit) {
-    NavaidRecord record;
-    for (const SectionEntry& section : file->sections) {
-        if (std::find(sectionTypes.begin(), sectionTypes.end(), section.type) == sectionTypes.end()) continue;
-        for (const SubsectionEntry& subsection : ReadSubsections(file, section)) {
-            if (!wanted(subsection.id)) continue;
-            if (!CoverRecords(file, subsection)) return;
-            const std::vector<uint8_t> bytes = ReadStretch(file->source, subsection.offset, subsection.size);
-            WalkRecords(bytes, [&](const RecordHead& head, Bytes body) {
-                record.head = head;
-                record.body = body;
-                visit(record);
-            });
-            ++record.subsection;
-        }
-    }
-}
-
 void AppendStockNavaids(SceneryStructure* file) {
     if (model::state.airport) AppendFromFile(file, AreaAround(model::state.airport));
 }

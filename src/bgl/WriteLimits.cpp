@@ -7,13 +7,18 @@
 #include "bgl/AirportRecord.h"
 #include "bgl/Cells.h"
 #include "bgl/NavaidRecords.h"
+#include "model/Limits.h"
 #include "model/ObjectList.h"
 
 namespace bgl {
 
 namespace {
 
+using model::kMostCounted;
+using model::kMostEdgeLights;
 using model::SceneryObject;
+
+constexpr size_t kMostCells = 8;  // of one section
 
 std::string TooMany(const char* what, size_t count, size_t most) {
     char text[200];
@@ -33,10 +38,10 @@ constexpr KindLimit kKindLimits[] = {
     { model::kStartLocation, kMostCounted, "start locations" },
     { model::kHelipad, kMostCounted, "helipads" },
     { model::kApron, kMostCounted, "aprons" },
-    { model::kTaxiNode, kMostNodes, "taxi nodes" },
-    { model::kParkingSpot, kMostSpots, "parking spots" },
-    { model::kTaxiLink, kMostLinks, "taxi links" },
-    { model::kTaxiDesignator, kMostDesignators, "taxiway designators" },
+    { model::kTaxiNode, model::kMostNodes, "taxi nodes" },
+    { model::kParkingSpot, model::kMostSpots, "parking spots" },
+    { model::kTaxiLink, model::kMostLinks, "taxi links" },
+    { model::kTaxiDesignator, model::kMostDesignators, "taxiway designators" },
 };
 
 // Navaids by the section that holds them.

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "cli/Dump.h"
+#include "cli/DumpValues.h"
 #include "model/Ident.h"
 #include "model/Names.h"
 #include "model/Positions.h"
@@ -19,76 +20,6 @@ namespace {
 
 using model::PayloadAs;
 using model::SceneryObject;
-
-constexpr int kDegreeDecimals = 8;  // a millimetre; an encoded unit is four centimetres
-constexpr double kMetresPerUnit = 0.001;
-
-void Integer(JsonWriter* json, const char* key, int64_t value) {
-    Key(json, key);
-    WriteInteger(json, value);
-}
-void Float(JsonWriter* json, const char* key, float value) {
-    Key(json, key);
-    WriteFloat(json, value);
-}
-void Boolean(JsonWriter* json, const char* key, bool value) {
-    Key(json, key);
-    WriteBoolean(json, value);
-}
-void Text(JsonWriter* json, const char* key, std::string_view utf8) {
-    Key(json, key);
-    WriteText(json, utf8);
-}
-
-// Up to `size` Windows-1252 characters, fewer when a zero ends them.
-void Name(JsonWriter* json, const char* key, const char* begin, size_t size) {
-    Text(json, key, platform::Utf8FromWindows1252({ begin, std::find(begin, begin + size, '\0') }));
-}
-
-void Elevation(JsonWriter* json, const char* key, int32_t millimetres) {
-    Key(json, key);
-    WriteFixed(json, millimetres * kMetresPerUnit, 3);
-}
-
-void Degrees(JsonWriter* json, double radians) {
-    WriteFixed(json, radians * model::kDegreesPerRadian, kDegreeDecimals);
-}
-
-void Position(JsonWriter* json, model::LatLon position) {
-    Key(json, "north");
-    Degrees(json, position.lat);
-    Key(json, "east");
-    Degrees(json, 0 - position.lon);
-}
-
-void Position(JsonWriter* json, uint32_t longitude, uint32_t latitude) {
-    Position(json, model::BglToLatLon({ latitude, longitude }));
-}
-
-// [north, east]
-void PositionPair(JsonWriter* json, uint32_t longitude, uint32_t latitude) {
-    const model::LatLon position = model::BglToLatLon({ latitude, longitude });
-    OpenArray(json);
-    Degrees(json, position.lat);
-    Degrees(json, 0 - position.lon);
-    CloseArray(json);
-}
-
-void Surface(JsonWriter* json, uint32_t code) {
-    Integer(json, "surfaceCode", code);
-    if (code < model::kSurfaceCount) Text(json, "surface", model::SurfaceName(code));
-}
-
-void Reference(JsonWriter* json, const char* key, const SceneryObject* object, const ListPositions& positions) {
-    Key(json, key);
-    const auto found = positions.find(object);
-    if (found == positions.end())
-        WriteNull(json);
-    else
-        WriteInteger(json, found->second);
-}
-
-std::string ShiftedIdent(uint32_t field) { return model::UnpackIdent(field >> model::kIdentShift); }
 
 void AirportFields(JsonWriter* json, const model::AirportRecord& airport) {
     Text(json, "ident", ShiftedIdent(airport.ident));
@@ -184,8 +115,8 @@ void CommFields(JsonWriter* json, const model::CommFrequencyRecord& comm) {
 }
 
 void StartFields(JsonWriter* json, const model::StartLocationRecord& start) {
-    Text(json, "name", model::RunwayEndName(start.number, start.designatorAndType & 0xF));
-    Integer(json, "type", start.designatorAndType >> 4);
+    Text(json, "name", model::RunwayEndName(start.number, model::StartSuffix(start)));
+    Integer(json, "type", model::StartTypeOf(start));
     Position(json, start.longitude, start.latitude);
     Elevation(json, "elevation", start.altitude);
     Float(json, "heading", start.heading);
@@ -228,9 +159,8 @@ void SpotFields(JsonWriter* json, const SceneryObject* object) {
     Float(json, "radius", spot.radius);
     Key(json, "codes");
     OpenArray(json);
-    constexpr size_t kCodeSize = 4;
-    for (size_t at = sizeof spot; at + kCodeSize <= object->payloadSize; at += kCodeSize) {
-        const std::string_view code(reinterpret_cast<const char*>(object->payload) + at, kCodeSize);
+    for (size_t at = sizeof spot; at + model::kParkingCodeSize <= object->payloadSize; at += model::kParkingCodeSize) {
+        const std::string_view code(reinterpret_cast<const char*>(object->payload) + at, model::kParkingCodeSize);
         WriteText(json, platform::Utf8FromWindows1252(code.substr(0, code.find('\0'))));
     }
     CloseArray(json);

@@ -14,7 +14,6 @@ namespace dialogs {
 namespace {
 
 constexpr uint32_t kNumberCount = 45;
-constexpr uint32_t kFirstLettered = 37;
 
 }  // namespace
 
@@ -28,12 +27,12 @@ int SurfaceIndex(uint32_t code) { return code < model::kSurfaceCount ? static_ca
 
 std::vector<std::string> RunwayNumberChoices() {
     std::vector<std::string> names;
-    for (uint32_t number = 0; number < kFirstLettered; ++number) {
+    for (uint32_t number = 0; number < model::kFirstLetteredNumber; ++number) {
         char text[12];
         std::snprintf(text, sizeof text, "%02u", static_cast<unsigned>(number));
         names.emplace_back(text);
     }
-    for (uint32_t number = kFirstLettered; number < kNumberCount; ++number) {
+    for (uint32_t number = model::kFirstLetteredNumber; number < kNumberCount; ++number) {
         names.push_back(model::RunwayEndName(number, 0));
     }
     return names;

@@ -8,6 +8,7 @@
 #include "dialogs/Edits.h"
 #include "dialogs/LinkDialog.h"
 #include "dialogs/NumberField.h"
+#include "model/Limits.h"
 #include "model/ObjectList.h"
 #include "model/Records.h"
 #include "platform/Platform.h"
@@ -18,7 +19,6 @@ namespace dialogs {
 namespace {
 
 constexpr std::string_view kTaxiWord = "TAXI", kRunwayWord = "RWY";
-constexpr uint32_t kMostDesignators = 256;  // a link names its designator in one byte
 
 // The name in Windows-1252; empty when the text names no designator.
 std::string NameFrom(const std::string& typed) {
@@ -42,7 +42,7 @@ SceneryObject* FindDesignator(const std::string& utf8) {
 }
 
 bool UserWantsNew(const std::string& utf8) {
-    if (model::CountKind(model::kTaxiDesignator) >= kMostDesignators) {
+    if (model::CountKind(model::kTaxiDesignator) >= model::kMostDesignators) {
         ShowError("An airport can have at most 256 taxiway designators");
         return false;
     }
@@ -52,12 +52,10 @@ bool UserWantsNew(const std::string& utf8) {
            platform::Answer::Yes;
 }
 
-// No designator is the blank one.
 void DesignateSelected(SceneryObject* designator, Edits* edits) {
     for (SceneryObject* link = model::FirstOfKind(model::state.head, model::kTaxiLink); link;
          link = model::NextOfKind(link, model::kTaxiLink)) {
-        if (model::IsSelected(link))
-            DesignateLink(DraftOf(edits, link), designator ? designator : BlankDesignatorIn(edits));
+        if (model::IsSelected(link)) DesignateLink(DraftOf(edits, link), designator);
     }
 }
 
@@ -83,12 +81,6 @@ SceneryObject* TypeDesignator(const std::string& typed, SceneryObject* current) 
     Commit(&edits);
     platform::RequestRepaint();
     return designator;
-}
-
-bool DesignateSelectedLinks(SceneryObject* designator) {
-    Edits edits;
-    DesignateSelected(designator, &edits);
-    return Commit(&edits);
 }
 
 }  // namespace dialogs

@@ -20,7 +20,4 @@ bool NamesNewDesignator(const std::string& typed);
 // selected links get it, in the action that made it.
 SceneryObject* TypeDesignator(const std::string& typed, SceneryObject* current);
 
-// The selected links get the designator, as one action. Whether any link changed.
-bool DesignateSelectedLinks(SceneryObject* designator);
-
 }  // namespace dialogs

@@ -18,7 +18,6 @@ constexpr Quantity kWidth = { "helipad width", Unit::Length, 0.1, 1000 };
 constexpr float kUsualSize = 15.24F;  // metres
 
 // The type byte.
-constexpr uint8_t kTypeMask = 0x0F, kTransparent = 0x10, kClosed = 0x20;
 constexpr uint8_t kTypeH = 1;
 
 constexpr NumberRow<HelipadFields> kRows[] = {
@@ -38,10 +37,10 @@ HelipadFields LoadHelipadFields(const SceneryObject* helipad) {
     fields.position = ShowPoint(PointOf(helipad));
     LoadNumbers<HelipadFields>(kRows, helipad, &fields);
     fields.surface = SurfaceIndex(record.surface);
-    const size_t type = record.type & kTypeMask;
+    const size_t type = record.type & model::kPadTypeMask;
     fields.type = type < kHelipadTypes.size() ? static_cast<int>(type) : -1;
-    fields.transparent = (record.type & kTransparent) != 0;
-    fields.closed = (record.type & kClosed) != 0;
+    fields.transparent = (record.type & model::kPadTransparent) != 0;
+    fields.closed = (record.type & model::kPadClosed) != 0;
     return fields;
 }
 
@@ -56,9 +55,10 @@ bool StoreHelipadFields(const HelipadFields& shown, const HelipadFields& entered
     if (entered.surface >= 0 && entered.surface != shown.surface)
         record.surface = static_cast<uint8_t>(entered.surface);
     if (entered.type >= 0 && entered.type != shown.type)
-        record.type = static_cast<uint8_t>((record.type & ~kTypeMask) | entered.type);
-    if (entered.transparent != shown.transparent) record.type = WithBit(record.type, kTransparent, entered.transparent);
-    if (entered.closed != shown.closed) record.type = WithBit(record.type, kClosed, entered.closed);
+        record.type = static_cast<uint8_t>((record.type & ~model::kPadTypeMask) | entered.type);
+    if (entered.transparent != shown.transparent)
+        record.type = WithBit(record.type, model::kPadTransparent, entered.transparent);
+    if (entered.closed != shown.closed) record.type = WithBit(record.type, model::kPadClosed, entered.closed);
     Commit(&edits);
     return true;
 }

@@ -32,7 +32,6 @@ constexpr size_t kLocalizerAt = offsetof(IlsPayload, localizer), kSlopeAt = offs
 constexpr Quantity kBeamWidth = { "beam width", Unit::Degrees, 0.1, 45, 2 };
 constexpr Quantity kPitch = { "glide slope angle", Unit::Degrees, 0.1, 20, 2 };
 constexpr Quantity kSlopeRange = { "glide slope range", Unit::Range, 100, 1e6 };
-constexpr Quantity kDmeRange = { "DME range", Unit::Range, 100, 1e6 };
 constexpr Quantity kMagneticCourse = { "magnetic course", Unit::Degrees, 0, 360, 1 };
 
 constexpr NumberRow<IlsFields> kLocalizerRows[] = {

@@ -27,8 +27,6 @@ constexpr uint32_t kLinkTypes[] = { model::kRunwayLink, model::kTaxiwayLink, mod
                                     model::kClosedLink };
 
 // Places in the flags word.
-constexpr uint32_t kTypeMask = 0xF;
-constexpr uint32_t kDrawFlags = 0x60;  // draw surface, draw detail: compiled apron routes lack them
 constexpr int kCentreLine = 16, kCentreLights = 17, kLeftEdge = 18, kLeftLights = 20, kRightEdge = 21,
               kRightLights = 23, kSurface = 24;
 constexpr uint32_t kEdgeMask = 3, kBit = 1;
@@ -75,9 +73,9 @@ struct LinkChange {
 void SetType(TaxiLinkPayload* link, uint32_t type) {
     const uint32_t old = model::LinkTypeOf(*link);
     if (type == old) return;
-    SetBits(link, 0, kTypeMask, type);
-    if (type == model::kApronRouteLink) link->flagsWord &= ~kDrawFlags;
-    if (old == model::kApronRouteLink) link->flagsWord |= kDrawFlags;
+    SetBits(link, 0, model::kLinkTypeMask, type);
+    if (type == model::kApronRouteLink) link->flagsWord &= ~model::kLinkDrawFlags;
+    if (old == model::kApronRouteLink) link->flagsWord |= model::kLinkDrawFlags;
 }
 
 // The couplings for links that do not end at a spot.

@@ -30,8 +30,6 @@ namespace {
 
 // How the parking list is sorted besides by a column.
 constexpr int kOriginalOrder = -1, kRandomOrder = -2;
-constexpr UINT kFitColumns = WM_APP;
-constexpr UINT kDpiChanged = 0x02E0;  // WM_DPICHANGED of Windows 8.1
 constexpr DWORD kTypingPause = 1000;  // milliseconds; whoever pauses longer begins a new word
 
 struct Window {
@@ -273,8 +271,10 @@ INT_PTR CALLBACK ListProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lPara
     case WM_COMMAND: OnCommand(window, LOWORD(wParam), HIWORD(wParam)); return TRUE;
     case WM_NOTIFY: OnNotify(window, reinterpret_cast<NMHDR*>(lParam)); return FALSE;
     case WM_DRAWITEM: DrawListHeader(window->list, *reinterpret_cast<DRAWITEMSTRUCT*>(lParam)); return TRUE;
-    case kDpiChanged: PostMessageW(dialog, kFitColumns, 0, 0); return FALSE;  // the dialog gets its new size first
-    case kFitColumns: FitList(&window->list, window->rows); return TRUE;
+    case platform::kDpiChanged:
+        PostMessageW(dialog, platform::kFitColumns, 0, 0);
+        return FALSE;  // the dialog gets its new size first
+    case platform::kFitColumns: FitList(&window->list, window->rows); return TRUE;
     case WM_DESTROY: OnDestroy(window); return FALSE;
     default: return FALSE;
     }

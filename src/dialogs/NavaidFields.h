@@ -25,6 +25,8 @@ bool ReadNavFrequency(FrequencyKind kind, const std::string& shown, const std::s
 std::string DmeChannel(uint32_t hertz);
 std::string DmeChannelOf(const std::string& megahertz);  // of what is typed
 
+constexpr Quantity kDmeRange = { "DME range", Unit::Range, 100, 1e6 };  // of an ILS and of a VOR
+
 float AirportVariation();  // degrees, west positive
 
 }  // namespace dialogs

@@ -7,13 +7,12 @@
 
 #include "dialogs/EditorWin.h"
 #include "dialogs/NumberField.h"
+#include "dialogs/TextField.h"
 #include "model/Records.h"
 #include "NavaidIds.h"
 #include "platform/DialogWin.h"
 
 namespace dialogs {
-
-inline constexpr size_t kIdentLimit = 5;  // characters
 
 // "Elevation (ft ASL)", "Range (nm)" and such, with the unit of the settings between the two parts.
 inline void LabelUnit(HWND dialog, int control, const char* before, Unit unit, const char* after) {

@@ -6,6 +6,7 @@
 
 #include "dialogs/NumberField.h"
 #include "dialogs/TextField.h"
+#include "model/Limits.h"
 #include "model/Records.h"
 #include "platform/Text.h"
 
@@ -13,23 +14,19 @@ namespace dialogs {
 
 namespace {
 
+using model::kParkingCodeSize;
+using model::kParkingCountShift;
 using model::ParkingSpotRecord;
 
-constexpr int kCountShift = 24;
-constexpr uint32_t kCountMask = 0xFFu << kCountShift;
-
-std::string_view Trimmed(std::string_view text) {
-    constexpr std::string_view kBlanks = " \t\r\n";
-    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
-    return text.substr(0, text.find_last_not_of(kBlanks) + 1);
-}
+constexpr uint32_t kCountMask = 0xFFu << kParkingCountShift;
+constexpr std::string_view kBlanks = " \t\r\n";
 
 // The codes between the commas, trimmed, without the empty ones.
 std::vector<std::string> SplitCodes(std::string_view text) {
     std::vector<std::string> codes;
     for (size_t start = 0; start <= text.size();) {
         const size_t comma = std::min(text.find(',', start), text.size());
-        const std::string_view code = Trimmed(text.substr(start, comma - start));
+        const std::string_view code = platform::Trimmed(text.substr(start, comma - start), kBlanks);
         if (!code.empty()) codes.emplace_back(code);
         start = comma + 1;
     }
@@ -51,8 +48,8 @@ std::string Joined(const std::vector<std::string>& codes) {
 
 std::vector<std::string> CodesOf(const model::SceneryObject* spot) {
     std::vector<std::string> codes;
-    for (size_t at = sizeof(ParkingSpotRecord); at + kCodeLimit <= spot->payloadSize; at += kCodeLimit) {
-        codes.push_back(ShowText(reinterpret_cast<const char*>(spot->payload + at), kCodeLimit));
+    for (size_t at = sizeof(ParkingSpotRecord); at + kParkingCodeSize <= spot->payloadSize; at += kParkingCodeSize) {
+        codes.push_back(ShowText(reinterpret_cast<const char*>(spot->payload + at), kParkingCodeSize));
     }
     return codes;
 }
@@ -68,13 +65,13 @@ bool ReadCodes(const std::string& text, std::vector<std::string>* codes) {
             ShowError("The Parking Codes box contains a character that scenery files cannot hold");
             return false;
         }
-        if (encoded.size() > kCodeLimit) {
+        if (encoded.size() > kParkingCodeSize) {
             ShowError("The Parking Codes box contains a code longer than the maximum four characters");
             return false;
         }
         read.push_back(std::move(encoded));
     }
-    if (read.size() > kMostCodes) {
+    if (read.size() > model::kMostParkingCodes) {
         ShowError("The Parking Codes box contains more than the maximum 255 codes");
         return false;
     }
@@ -85,13 +82,13 @@ bool ReadCodes(const std::string& text, std::vector<std::string>* codes) {
 void SetCodes(model::SceneryObject* draft, const std::vector<std::string>& codes) {
     // The old codes go first: a resized payload keeps its common start.
     model::ResizePayload(draft, sizeof(ParkingSpotRecord));
-    model::ResizePayload(draft, static_cast<uint32_t>(sizeof(ParkingSpotRecord) + kCodeLimit * codes.size()));
+    model::ResizePayload(draft, static_cast<uint32_t>(sizeof(ParkingSpotRecord) + kParkingCodeSize * codes.size()));
     auto& record = model::PayloadAs<ParkingSpotRecord>(draft);
-    record.packed = (record.packed & ~kCountMask) | static_cast<uint32_t>(codes.size()) << kCountShift;
+    record.packed = (record.packed & ~kCountMask) | static_cast<uint32_t>(codes.size()) << kParkingCountShift;
     uint8_t* out = draft->payload + sizeof(ParkingSpotRecord);
     for (const std::string& code : codes) {
-        std::copy_n(code.data(), std::min(code.size(), kCodeLimit), out);
-        out += kCodeLimit;
+        std::copy_n(code.data(), std::min(code.size(), kParkingCodeSize), out);
+        out += kParkingCodeSize;
     }
 }
 
@@ -104,8 +101,8 @@ void InsertSpecCodes(const app::ParkingSpec& spec, std::string* text, size_t* cu
     }
     if (missing.empty()) return;
     const size_t at = std::min(text->find(',', std::min(*cursor, text->size())), text->size());
-    const std::string_view before = Trimmed(std::string_view(*text).substr(0, at));
-    const std::string_view after = Trimmed(std::string_view(*text).substr(at));
+    const std::string_view before = platform::Trimmed(std::string_view(*text).substr(0, at), kBlanks);
+    const std::string_view after = platform::Trimmed(std::string_view(*text).substr(at), kBlanks);
     std::string joined(before);
     if (!before.empty() && before.back() != ',') joined += ',';
     joined += Joined(missing);

@@ -10,9 +10,6 @@
 
 namespace dialogs {
 
-constexpr size_t kCodeLimit = 4;    // characters of a code
-constexpr size_t kMostCodes = 255;  // of a spot: the count is one byte
-
 std::vector<std::string> CodesOf(const model::SceneryObject* spot);  // UTF-8, as stored
 std::string CodesText(const model::SceneryObject* spot);
 

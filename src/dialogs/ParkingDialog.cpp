@@ -25,7 +25,6 @@ using model::ParkingSpotRecord;
 
 constexpr uint32_t kAreaCount = 37, kTypeCount = 11;  // the codes from 1 on
 constexpr uint32_t kAreaMask = 0x3F, kTypeMask = 0xF00, kNumberMask = 0xFFF000;
-constexpr int kTypeShift = 8, kNumberShift = 12;
 
 constexpr double kSameRadius = 0.005;  // metres: a default that was typed in feet is this close
 
@@ -52,7 +51,7 @@ bool HasDefaultRadius(const ParkingSpotRecord& record) {
 }
 
 void SetTypeBits(ParkingSpotRecord* record, uint32_t typeCode) {
-    record->packed = (record->packed & ~kTypeMask) | (typeCode << kTypeShift & kTypeMask);
+    record->packed = (record->packed & ~kTypeMask) | (typeCode << model::kParkingTypeShift & kTypeMask);
 }
 
 ParkingFields LoadOne(const SceneryObject* spot) {
@@ -117,7 +116,8 @@ void Apply(const ParkingChange& change, const ParkingFields& shown, const Parkin
     auto& record = model::PayloadAs<ParkingSpotRecord>(draft);
     if (entered.heading != shown.heading) record.heading = static_cast<float>(change.heading);
     if (entered.number != shown.number)
-        record.packed = (record.packed & ~kNumberMask) | static_cast<uint32_t>(change.number) << kNumberShift;
+        record.packed = (record.packed & ~kNumberMask) | static_cast<uint32_t>(change.number)
+                                                             << model::kParkingNumberShift;
     if (entered.area >= 0 && entered.area != shown.area)
         record.packed = (record.packed & ~kAreaMask) | (static_cast<uint32_t>(entered.area) + 1);
     if (entered.type >= 0 && entered.type != shown.type) ChangeType(shown, entered, &record);

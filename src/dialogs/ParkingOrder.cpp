@@ -53,18 +53,18 @@ float RadiusOf(const ListRow& row) {
 // Negative, 0 or positive, without regard to the case of letters.
 int CompareCode(const uint8_t* a, const uint8_t* b) {
     const auto upper = [](uint8_t c) { return c >= 'a' && c <= 'z' ? c - 'a' + 'A' : c; };
-    for (size_t i = 0; i < kCodeLimit; ++i) {
+    for (size_t i = 0; i < model::kParkingCodeSize; ++i) {
         if (upper(a[i]) != upper(b[i])) return upper(a[i]) - upper(b[i]);
     }
     return 0;
 }
 
 bool CodesBefore(const ListRow& a, const ListRow& b) {
-    const size_t countA = (a.object->payloadSize - sizeof(ParkingSpotRecord)) / kCodeLimit;
-    const size_t countB = (b.object->payloadSize - sizeof(ParkingSpotRecord)) / kCodeLimit;
+    const size_t countA = (a.object->payloadSize - sizeof(ParkingSpotRecord)) / model::kParkingCodeSize;
+    const size_t countB = (b.object->payloadSize - sizeof(ParkingSpotRecord)) / model::kParkingCodeSize;
     if ((countA == 0) != (countB == 0)) return countA > 0;
     for (size_t i = 0; i < std::min(countA, countB); ++i) {
-        const size_t at = sizeof(ParkingSpotRecord) + i * kCodeLimit;
+        const size_t at = sizeof(ParkingSpotRecord) + i * model::kParkingCodeSize;
         const int order = CompareCode(a.object->payload + at, b.object->payload + at);
         if (order != 0) return order < 0;
     }

@@ -7,6 +7,7 @@
 #include "dialogs/NumberField.h"
 #include "dialogs/RunwayParts.h"
 #include "model/Ident.h"
+#include "model/RunwayBits.h"
 #include "platform/Platform.h"
 
 namespace dialogs {
@@ -41,12 +42,12 @@ constexpr NumberRow<RunwayFields> kLastRows[] = {
 
 // Bits of the pattern byte, by end.
 constexpr BitRow<RunwayEndFields> kPatternBits[2][3] = {
-    { { &RunwayEndFields::noTakeoff, 0x01 },
-      { &RunwayEndFields::noLanding, 0x02 },
-      { &RunwayEndFields::rightPattern, 0x04 } },
-    { { &RunwayEndFields::noTakeoff, 0x08 },
-      { &RunwayEndFields::noLanding, 0x10 },
-      { &RunwayEndFields::rightPattern, 0x20 } },
+    { { &RunwayEndFields::noTakeoff, model::kPrimaryNoTakeoff },
+      { &RunwayEndFields::noLanding, model::kPrimaryNoLanding },
+      { &RunwayEndFields::rightPattern, model::kPrimaryRightPattern } },
+    { { &RunwayEndFields::noTakeoff, model::kSecondaryNoTakeoff },
+      { &RunwayEndFields::noLanding, model::kSecondaryNoLanding },
+      { &RunwayEndFields::rightPattern, model::kSecondaryRightPattern } },
 };
 
 constexpr uint8_t kFirstRefusedBase = 41;  // "S": the base end is one of N, E, NW, SW

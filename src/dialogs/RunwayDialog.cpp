@@ -11,6 +11,7 @@
 #include "dialogs/Subject.h"
 #include "model/Names.h"
 #include "model/ObjectList.h"
+#include "model/RunwayBits.h"
 
 namespace dialogs {
 
@@ -22,8 +23,8 @@ using model::RunwayRecord;
 constexpr uint16_t kAsphalt = 4;
 constexpr uint8_t kNorth = 36, kSouth = 18;
 constexpr float kUsualWidth = 46, kUsualPatternAltitude = 304.8F;  // metres; 1000 ft above the field
-constexpr uint16_t kVisualMarkings = 0x0030;                       // centre line, designation numbers
-constexpr uint8_t kVisualLights = 2;                               // edge lights of medium strength
+constexpr uint16_t kVisualMarkings = model::kCentreLine | model::kDesignation;
+constexpr uint8_t kVisualLights = 2;  // edge lights of medium strength
 constexpr Quantity kMagneticHeading = { "magnetic heading", Unit::Degrees, 0, 360, 1 };
 
 }  // namespace

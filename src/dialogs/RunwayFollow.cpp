@@ -30,9 +30,6 @@ using model::RunwayPayload;
 using model::RunwayRecord;
 using model::StartLocationRecord;
 
-constexpr uint8_t kDesignatorMask = 0x0F;
-constexpr uint32_t kHelipadStart = 3;
-
 struct EndDesignator {
     uint8_t number = 0, designator = 0;
     bool operator==(const EndDesignator&) const = default;
@@ -44,8 +41,8 @@ EndDesignator DesignatorOf(const SceneryObject* runway, int end) {
 
 bool StartsAt(const SceneryObject* start, EndDesignator end) {
     const auto& record = model::PayloadAs<StartLocationRecord>(start);
-    return record.designatorAndType >> 4 != kHelipadStart && record.number == end.number &&
-           (record.designatorAndType & kDesignatorMask) == end.designator;
+    return StartTypeOf(record) != model::kHelipadStart && record.number == end.number &&
+           StartSuffix(record) == end.designator;
 }
 
 void MovePoint(const RunwayPlane& from, const RunwayPlane& to, SceneryObject* draft, size_t offset) {
@@ -162,8 +159,7 @@ void RenameWithRunway(const SceneryObject* runway, const SceneryObject* draft, E
         for (SceneryObject* start : before[end].starts) {
             auto& record = model::PayloadAs<StartLocationRecord>(DraftOf(edits, start));
             record.number = to.number;
-            record.designatorAndType =
-                static_cast<uint8_t>((record.designatorAndType & ~kDesignatorMask) | (to.designator & kDesignatorMask));
+            record.designatorAndType = model::StartNibbles(StartTypeOf(record), to.designator);
         }
         for (SceneryObject* ils : before[end].ils) RenameIls(DraftOf(edits, ils), from, to);
     }

@@ -5,22 +5,20 @@
 
 #include "dialogs/NumberField.h"
 #include "dialogs/RunwayParts.h"
+#include "model/RunwayBits.h"
 
 namespace dialogs {
 
 namespace {
 
-constexpr uint32_t kSystemMask = 0x1F, kStrobesMask = 0x1F;
-constexpr int kStrobesShift = 8;
-constexpr uint32_t kLevelMask = 3, kRedEnd = 0x10;
-constexpr int kCentreLevelShift = 2;
+constexpr uint32_t kSystemMask = model::kApproachSystemMask, kLevelMask = model::kEdgeLightsMask;
 
 constexpr BitRow<RunwayEndFields> kApproachBits[] = {
-    { &RunwayEndFields::endLights, 0x20 },
-    { &RunwayEndFields::reil, 0x40 },
-    { &RunwayEndFields::touchdownLights, 0x80 },
+    { &RunwayEndFields::endLights, model::kEndLights },
+    { &RunwayEndFields::reil, model::kReil },
+    { &RunwayEndFields::touchdownLights, model::kTouchdownLights },
 };
-constexpr BitRow<RunwayFields> kLightBits[] = { { &RunwayFields::redEndLights, kRedEnd } };
+constexpr BitRow<RunwayFields> kLightBits[] = { { &RunwayFields::redEndLights, model::kRedLights } };
 
 uint16_t WordAt(const SceneryObject* runway, size_t end) {
     uint16_t word;
@@ -42,7 +40,7 @@ bool ReadStrobes(std::string_view text, uint32_t* strobes) {
     uint32_t value = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), value, base);
     if (result.ec != std::errc() || result.ptr != text.data() + text.size()) return false;
-    *strobes = value & kStrobesMask;
+    *strobes = value & model::kStrobesMask;
     return true;
 }
 
@@ -58,7 +56,7 @@ bool StoreApproach(const RunwayEndFields& shown, const RunwayEndFields& entered,
     if (entered.strobes != shown.strobes) {
         uint32_t strobes = 0;
         if (!ReadStrobes(entered.strobes, &strobes)) return false;
-        word = (word & ~(kStrobesMask << kStrobesShift)) | strobes << kStrobesShift;
+        word = (word & ~(model::kStrobesMask << model::kStrobesShift)) | strobes << model::kStrobesShift;
     }
     *stored = static_cast<uint16_t>(StoreBits(kApproachBits, shown, entered, word));
     return true;
@@ -71,12 +69,12 @@ void LoadLightsPage(const SceneryObject* runway, RunwayFields* fields) {
         const uint32_t word = WordAt(runway, end), system = word & kSystemMask;
         RunwayEndFields& to = fields->ends[end];
         to.approachSystem = system < kApproachSystems.size() ? static_cast<int>(system) : -1;
-        to.strobes = std::to_string(word >> kStrobesShift & kStrobesMask);
+        to.strobes = std::to_string(word >> model::kStrobesShift & model::kStrobesMask);
         LoadBits(kApproachBits, word, &to);
     }
     const uint32_t lights = model::PayloadAs<model::RunwayPayload>(runway).body.lights;
     fields->edgeLights = static_cast<int>(lights & kLevelMask);
-    fields->centreLights = static_cast<int>(lights >> kCentreLevelShift & kLevelMask);
+    fields->centreLights = static_cast<int>(lights >> model::kCentreLightsShift & kLevelMask);
     LoadBits(kLightBits, lights, fields);
 }
 
@@ -92,7 +90,7 @@ bool StoreLightsPage(const RunwayFields& shown, const RunwayFields& entered, Sce
     }
     auto& body = model::PayloadAs<model::RunwayPayload>(draft).body;
     uint32_t lights = WithLevel(body.lights, 0, shown.edgeLights, entered.edgeLights);
-    lights = WithLevel(lights, kCentreLevelShift, shown.centreLights, entered.centreLights);
+    lights = WithLevel(lights, model::kCentreLightsShift, shown.centreLights, entered.centreLights);
     body.lights = static_cast<uint8_t>(StoreBits(kLightBits, shown, entered, lights));
     return true;
 }

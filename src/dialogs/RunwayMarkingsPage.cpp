@@ -1,20 +1,22 @@
 // RunwayMarkingsPage.cpp - the markings page of the runway editor: every box is one bit of one word.
 #include "dialogs/RunwayParts.h"
+#include "model/RunwayBits.h"
 
 namespace dialogs {
 
 namespace {
 
 constexpr BitRow<RunwayFields> kWholeBits[] = {
-    { &RunwayFields::edgeLines, 0x0001 },   { &RunwayFields::threshold, 0x0002 },
-    { &RunwayFields::aimingPoint, 0x0004 }, { &RunwayFields::touchdownZone, 0x0008 },
-    { &RunwayFields::centreLine, 0x0010 },  { &RunwayFields::numbers, 0x0020 },
-    { &RunwayFields::precision, 0x0040 },   { &RunwayFields::edgePavement, 0x0080 },
-    { &RunwayFields::noMarkings, 0x0100 },
+    { &RunwayFields::edgeLines, model::kEdgeLines },      { &RunwayFields::threshold, model::kThresholdStripes },
+    { &RunwayFields::aimingPoint, model::kAimingPoints }, { &RunwayFields::touchdownZone, model::kTouchdownMarks },
+    { &RunwayFields::centreLine, model::kCentreLine },    { &RunwayFields::numbers, model::kDesignation },
+    { &RunwayFields::precision, model::kPrecision },      { &RunwayFields::edgePavement, model::kEdgePavement },
+    { &RunwayFields::noMarkings, model::kSingleEnd },
 };
 constexpr BitRow<RunwayEndFields> kEndBits[2][2] = {
-    { { &RunwayEndFields::closedMark, 0x0200 }, { &RunwayEndFields::stolMark, 0x0800 } },
-    { { &RunwayEndFields::closedMark, 0x0400 }, { &RunwayEndFields::stolMark, 0x1000 } },
+    { { &RunwayEndFields::closedMark, model::kPrimaryClosed }, { &RunwayEndFields::stolMark, model::kPrimaryStol } },
+    { { &RunwayEndFields::closedMark, model::kSecondaryClosed },
+      { &RunwayEndFields::stolMark, model::kSecondaryStol } },
 };
 
 }  // namespace

@@ -18,32 +18,28 @@ namespace {
 
 using model::StartLocationRecord;
 
-constexpr uint8_t kTypeShift = 4, kNibble = 0x0F;
-constexpr uint8_t kRunwayType = 1, kHelipadType = 3;
-constexpr uint8_t kTypes[] = { kRunwayType, kHelipadType };
+constexpr model::StartType kTypes[] = { model::kRunwayStart, model::kHelipadStart };
 
 constexpr NumberRow<StartFields> kRows[] = {
     { Field::Elevation, &StartFields::elevation, offsetof(StartLocationRecord, altitude), &kElevation },
     { Field::Heading, &StartFields::heading, offsetof(StartLocationRecord, heading), &kHeading },
 };
 
-uint8_t TypeOf(const StartLocationRecord& record) { return record.designatorAndType >> kTypeShift; }
-
-int TypeIndex(uint8_t type) { return type == kRunwayType ? 0 : type == kHelipadType ? 1 : -1; }
+int TypeIndex(uint32_t type) { return type == model::kRunwayStart ? 0 : type == model::kHelipadStart ? 1 : -1; }
 
 void StoreChoices(const StartFields& shown, const StartFields& entered, StartLocationRecord* record) {
-    uint32_t suffix = record->designatorAndType & kNibble, type = TypeOf(*record);
+    uint32_t suffix = StartSuffix(*record), type = StartTypeOf(*record);
     if (entered.number >= 0 && entered.number != shown.number) record->number = static_cast<uint8_t>(entered.number);
     if (entered.suffix >= 0 && entered.suffix != shown.suffix) suffix = static_cast<uint32_t>(entered.suffix);
     if (entered.type >= 0 && entered.type != shown.type) type = kTypes[entered.type];
-    record->designatorAndType = static_cast<uint8_t>(type << kTypeShift | suffix);
+    record->designatorAndType = model::StartNibbles(type, suffix);
 }
 
 // Number, suffix and heading of the end.
 void NameAfter(const RunwayEndRef& ref, StartLocationRecord* record) {
     record->number = ref.runway->payload[kEndPlaces[ref.end].number];
-    const uint32_t suffix = ref.runway->payload[kEndPlaces[ref.end].designator] & kNibble;
-    record->designatorAndType = static_cast<uint8_t>(kRunwayType << kTypeShift | suffix);
+    record->designatorAndType =
+        model::StartNibbles(model::kRunwayStart, ref.runway->payload[kEndPlaces[ref.end].designator]);
     record->heading = EndHeading(ref);
 }
 
@@ -51,8 +47,8 @@ void NameAfter(const RunwayEndRef& ref, StartLocationRecord* record) {
 
 std::string StartName(const SceneryObject* start) {
     const auto& record = model::PayloadAs<StartLocationRecord>(start);
-    if (TypeOf(record) == kHelipadType) return "Helipad " + std::to_string(record.number);
-    return "Rwy " + model::RunwayEndName(record.number, record.designatorAndType & kNibble);
+    if (StartTypeOf(record) == model::kHelipadStart) return "Helipad " + std::to_string(record.number);
+    return "Rwy " + model::RunwayEndName(record.number, StartSuffix(record));
 }
 
 StartFields LoadStartFields(const SceneryObject* start) {
@@ -61,8 +57,8 @@ StartFields LoadStartFields(const SceneryObject* start) {
     fields.position = ShowPoint(PointOf(start));
     LoadNumbers<StartFields>(kRows, start, &fields);
     fields.number = RunwayNumberIndex(record.number);
-    fields.suffix = SuffixIndex(record.designatorAndType & kNibble);
-    fields.type = TypeIndex(TypeOf(record));
+    fields.suffix = SuffixIndex(StartSuffix(record));
+    fields.type = TypeIndex(StartTypeOf(record));
     return fields;
 }
 
@@ -87,7 +83,7 @@ SceneryObject* InsertStart() {
     if (!lacking && !ends.empty()) lacking = &ends[0];
     SceneryObject* start = MakeProvisional(model::kStartLocation, sizeof(StartLocationRecord));
     auto& record = model::PayloadAs<StartLocationRecord>(start);
-    record.designatorAndType = kRunwayType << kTypeShift;
+    record.designatorAndType = model::StartNibbles(model::kRunwayStart, 0);
     record.altitude = AirportAltitude();
     SetPoint(start, kPlaceholder);
     if (lacking) NameAfter(*lacking, &record);

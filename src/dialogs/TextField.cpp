@@ -12,8 +12,6 @@ namespace dialogs {
 
 namespace {
 
-constexpr size_t kIdentLimit = 5;
-
 bool IsLetterOrDigit(char c) { return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
 
 bool RefuseIdent(size_t least) {

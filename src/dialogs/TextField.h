@@ -10,6 +10,8 @@
 
 namespace dialogs {
 
+constexpr size_t kIdentLimit = 5;  // characters
+
 // The text of a zero-padded buffer as dialogs show it.
 std::string ShowText(const char* text, size_t size);
 

@@ -21,11 +21,10 @@ using model::VorRecord;
 constexpr uint8_t kClassCodes[] = { 1, 2, 3, 5 };
 static_assert(std::size(kClassCodes) == kVorClasses.size());
 constexpr uint8_t kLowClass = 2;
-constexpr uint8_t kHasVor = 0x01, kNewFlags = 0x31;  // VOR, DME and a bit that such navaids usually have
-constexpr uint32_t kVorIdentKind = 2;                // low bits of a VOR's ident word
+constexpr uint8_t kNewFlags = 0x31;    // VOR, DME and a bit that such navaids usually have
+constexpr uint32_t kVorIdentKind = 2;  // low bits of a VOR's ident word
 constexpr int kVorOnly = 0, kBoth = 1, kDmeOnly = 2;
 constexpr float kUsualRange = static_cast<float>(40 * model::kMetresPerNauticalMile);
-constexpr Quantity kDmeRange = { "DME range", Unit::Range, 100, 1e6 };
 
 constexpr NumberRow<VorFields> kRows[] = {
     { Field::Elevation, &VorFields::elevation, offsetof(VorRecord, altitude), &kElevation },
@@ -46,7 +45,7 @@ int ClassIndex(uint8_t code) {
 void StoreParts(int parts, VorDmePayload* payload) {
     uint8_t& flags = payload->body.flags;
     const bool hadDme = (flags & model::kHasDme) != 0;
-    flags = static_cast<uint8_t>(parts == kDmeOnly ? flags & ~kHasVor : flags | kHasVor);
+    flags = static_cast<uint8_t>(parts == kDmeOnly ? flags & ~model::kHasVor : flags | model::kHasVor);
     flags = static_cast<uint8_t>(parts == kVorOnly ? flags & ~model::kHasDme : flags | model::kHasDme);
     if (hadDme || parts == kVorOnly) return;
     payload->dme.longitude = payload->body.longitude;
@@ -60,7 +59,7 @@ void StoreParts(int parts, VorDmePayload* payload) {
 int VorPartsOf(const SceneryObject* vor) {
     const uint8_t flags = model::PayloadAs<VorDmePayload>(vor).body.flags;
     if ((flags & model::kHasDme) == 0) return kVorOnly;
-    return flags & kHasVor ? kBoth : kDmeOnly;
+    return flags & model::kHasVor ? kBoth : kDmeOnly;
 }
 
 bool HasVorPart(int parts) { return parts != kDmeOnly; }

@@ -17,8 +17,7 @@
 namespace faults {
 
 // Chosen in feet.
-constexpr double kHoldShortLimit = 225.0 / model::kFeetPerMetre;  // AI stops for good farther from the runway
-constexpr double kWideRunway = 450.0;                             // feet: its middle is beyond that limit
+constexpr double kWideRunway = 450.0;  // feet: its middle is beyond the limit of hold-short nodes
 constexpr double kNodeGapLimit = 70.0 / model::kFeetPerMetre;
 constexpr double kLinkGapLimit = 50.0 / model::kFeetPerMetre;
 constexpr double kOverlapLimit = 15.0 / model::kFeetPerMetre;

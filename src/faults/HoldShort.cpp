@@ -19,7 +19,7 @@ double DistanceToSides(const model::RunwayArea& area, Point place) {
 }
 
 bool IsAcceptable(const model::RunwayArea& area, LatLon node) {
-    if (DistanceToSides(area, model::PlaceOnRunway(area, node)) <= kHoldShortLimit) return true;
+    if (DistanceToSides(area, model::PlaceOnRunway(area, node)) <= model::kHoldShortLimit) return true;
     // Inside a narrower runway an edge is always near.
     return area.width * model::kFeetPerMetre >= kWideRunway && model::Contains(area, node);
 }

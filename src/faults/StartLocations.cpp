@@ -7,22 +7,19 @@
 #include "faults/Messages.h"
 #include "model/Names.h"
 #include "model/Records.h"
+#include "model/RunwayBits.h"
 
 namespace faults {
 
 namespace {
-
-// Bits of the pattern flags.
-constexpr uint8_t kBaseClosedForTakeoff = 0x01, kReciprocalClosedForTakeoff = 0x08;
-constexpr uint8_t kHelipadStart = 3;
 
 // Runway ends that a start location serves; a helipad's is named "Helipad" and serves none.
 std::set<std::string> ServedEnds(const Network& network) {
     std::set<std::string> names;
     for (const SceneryObject* start : network.startLocations) {
         const auto& record = model::PayloadAs<model::StartLocationRecord>(start);
-        if (record.designatorAndType >> 4 == kHelipadStart) continue;
-        names.insert(model::RunwayEndName(record.number, record.designatorAndType & 0xF));
+        if (model::StartTypeOf(record) == model::kHelipadStart) continue;
+        names.insert(model::RunwayEndName(record.number, model::StartSuffix(record)));
     }
     return names;
 }
@@ -35,7 +32,7 @@ void PrepareStartLocations(PassData* data) {
     for (const model::RunwayArea& area : data->network.runways) {
         const model::RunwayRecord& body = model::PayloadAs<model::RunwayPayload>(area.runway).body;
         const auto examine = [&](bool reciprocal, const std::string& name) {
-            const bool closed = body.pattern & (reciprocal ? kReciprocalClosedForTakeoff : kBaseClosedForTakeoff);
+            const bool closed = body.pattern & (reciprocal ? model::kSecondaryNoTakeoff : model::kPrimaryNoTakeoff);
             if (!closed && !served.contains(name)) data->missingStarts.push_back({ area.runway, reciprocal, name });
         };
         examine(false, model::RunwayEndName(body.primaryNumber, body.primaryDesignator));

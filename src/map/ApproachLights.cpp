@@ -63,7 +63,8 @@ constexpr double kPairGap = 1.5, kCrossGap = 2.7;  // metres
 
 constexpr ApproachRow Cross(double station) {
     const double width = 30 * (station + 300) / 600;
-    const int lamps = static_cast<int>(width / kCrossGap + 0.5) + 1;
+    const int gaps = static_cast<int>(2 * width / kCrossGap + 1) / 2;  // rounded
+    const int lamps = gaps + 1;
     return { station, station, 30, 0, width / (lamps - 1), lamps, Ink::LightWhite };
 }
 constexpr ApproachRow Coded(double first, double last, int lamps) {
@@ -160,8 +161,8 @@ void PaintPair(const Lamps& lamps, const GroundFrame& frame, double beside) {
 const ApproachSystem& ApproachSystemOf(uint32_t code) { return kSystems[code < kApproachSystems ? code : 0]; }
 
 void PaintApproachLights(Canvas* canvas, const RunwayShape& runway, const RunwayEnd& end) {
-    const ApproachSystem& system = ApproachSystemOf(end.approachLights & kApproachSystemMask);
-    const int strobes = (end.approachLights & kApproachStrobesMask) >> kApproachStrobesShift;
+    const ApproachSystem& system = ApproachSystemOf(end.approachLights & model::kApproachSystemMask);
+    const int strobes = end.approachLights >> model::kStrobesShift & model::kStrobesMask;
     const Lamps lamps = LampsOf(canvas, kLampRadius);
     const double half = runway.width / 2, wide = half + kThresholdReach + Feet(60);
     if (!Meets(BoundsOf(Rectangle(end.frame, -wide, wide, end.displaced - Feet(3200), end.displaced)), lamps.clip))
@@ -171,7 +172,7 @@ void PaintApproachLights(Canvas* canvas, const RunwayShape& runway, const Runway
     for (const ApproachRow& row : system.rows) PaintRow(lamps, threshold, row);
     PaintFlashes(lamps, threshold, system, strobes > 0 ? strobes : system.flashes);
     if (system.flashesBeside) PaintPair(lamps, threshold, half + kBesideThreshold);
-    if (end.approachLights & kEndStrobes) PaintPair(lamps, threshold, half + kBesideThreshold);
+    if (end.approachLights & model::kReil) PaintPair(lamps, threshold, half + kBesideThreshold);
     if (!system.thresholdBar) return;
     const double reach = half + kThresholdReach;
     PaintLampBar(lamps, threshold, -reach, reach, -Feet(8), static_cast<int>(std::lround(2 * reach / kWingGap)) + 1,

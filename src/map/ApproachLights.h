@@ -27,10 +27,6 @@ struct ApproachSystem {
     bool thresholdBar = false;            // green, from 45 feet beside the runway to 45 feet beside it
 };
 
-constexpr uint16_t kApproachSystemMask = 0x1F, kGreenEndRow = 0x20, kEndStrobes = 0x40, kTouchdownLights = 0x80;
-constexpr uint16_t kApproachStrobesMask = 0x1F00;
-constexpr int kApproachStrobesShift = 8;
-
 constexpr uint32_t kApproachSystems = 16;
 const ApproachSystem& ApproachSystemOf(uint32_t code);  // of 16 or more: none
 

@@ -26,7 +26,6 @@ using model::EncodedPoint;
 namespace {
 
 constexpr size_t kFewestCorners = 3, kMostCorners = 65535;
-constexpr uint8_t kDrawSurfaceAndDetail = 3;
 
 bool Same(EncodedPoint a, EncodedPoint b) { return a.longitude == b.longitude && a.latitude == b.latitude; }
 
@@ -89,7 +88,7 @@ void CloseOutline() {
     bare->flags |= model::kSelected | model::kWholeSelected;
     auto& head = model::PayloadAs<model::ApronHead>(bare);
     head.outlineSurface = head.surface = kNewApronSurface;
-    head.drawFlags = kDrawSurfaceAndDetail;
+    head.drawFlags = model::kDrawApron;
     SceneryObject* apron = model::CopyWithOutline(bare, EncodedOutline());
     model::FreeObject(bare);
     DeselectAll();

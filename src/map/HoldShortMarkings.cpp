@@ -7,7 +7,7 @@
 #include <cmath>
 #include <vector>
 
-#include "map/HoldShort.h"
+#include "map/HoldShortMarkings.h"
 #include "map/HoldShortRule.h"
 #include "map/MapView.h"
 #include "map/RunwayShape.h"

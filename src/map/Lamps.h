@@ -12,8 +12,6 @@
 
 namespace map {
 
-constexpr double Feet(double feet) { return feet * model::kMetresPerFoot; }
-
 struct Lamps {
     Canvas* canvas;
     Box clip;

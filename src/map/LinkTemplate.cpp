@@ -9,8 +9,6 @@ using model::TaxiLinkPayload;
 
 namespace {
 
-constexpr uint32_t kTypeMask = 0xF;
-constexpr uint32_t kDrawFlags = 0x60;
 constexpr uint32_t kIndexByte = 0xFF00;
 constexpr uint32_t kLinesAndLights = 0xFF0000, kCentreLine = 0x10000;
 constexpr uint32_t kAsphalt = 4;
@@ -20,7 +18,7 @@ bool IsOnApron(uint32_t type) { return type == model::kApronRouteLink || type ==
 
 TaxiLinkPayload FirstPattern(uint32_t type) {
     TaxiLinkPayload link{};
-    link.flagsWord = type | kDrawFlags | kCentreLine | kAsphalt << 24;
+    link.flagsWord = type | model::kLinkDrawFlags | kCentreLine | kAsphalt << 24;
     link.width = kWidth;
     return link;
 }
@@ -55,9 +53,9 @@ TaxiLinkPayload LinkFromTemplate(uint32_t type) {
 void SetLinkType(TaxiLinkPayload* link, uint32_t type) {
     const uint32_t old = model::LinkTypeOf(*link);
     if (type == old) return;
-    link->flagsWord = (link->flagsWord & ~kTypeMask) | type;
-    if (type == model::kApronRouteLink) link->flagsWord &= ~kDrawFlags;
-    if (old == model::kApronRouteLink) link->flagsWord |= kDrawFlags;
+    link->flagsWord = (link->flagsWord & ~model::kLinkTypeMask) | type;
+    if (type == model::kApronRouteLink) link->flagsWord &= ~model::kLinkDrawFlags;
+    if (old == model::kApronRouteLink) link->flagsWord |= model::kLinkDrawFlags;
 }
 
 void FitTypeToEnd(TaxiLinkPayload* link) {

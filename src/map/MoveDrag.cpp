@@ -194,6 +194,4 @@ void CancelMove() {
 
 void ForgetMove() { move = {}; }
 
-bool IsMoving() { return move.moving; }
-
 }  // namespace map

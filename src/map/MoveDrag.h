@@ -17,6 +17,5 @@ void FollowMove(model::Pixel pointer);
 void FinishMove();  // the button was released
 void CancelMove();  // everything back where it was
 void ForgetMove();  // the objects are gone
-bool IsMoving();
 
 }  // namespace map

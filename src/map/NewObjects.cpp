@@ -15,6 +15,7 @@
 #include "map/MapView.h"
 #include "map/Tools.h"
 #include "model/EditHistory.h"
+#include "model/Limits.h"
 #include "model/Links.h"
 #include "model/ObjectList.h"
 #include "model/Positions.h"
@@ -31,22 +32,21 @@ using model::TaxiLinkPayload;
 namespace {
 
 struct KindLimit {
-    uint32_t kind, most;
+    uint32_t kind;
+    size_t most;
     const char* remark;
 };
 constexpr KindLimit kLimits[] = {
-    { model::kTaxiNode, 4096, "A scenery file can hold no more than 4096 taxi nodes" },
-    { model::kParkingSpot, 4096, "A scenery file can hold no more than 4096 parking spots" },
-    { model::kTaxiLink, 65535, "A scenery file can hold no more than 65535 taxi links" },
-    { model::kApron, 255, "A scenery file can hold no more than 255 aprons" },
+    { model::kTaxiNode, model::kMostNodes, "A scenery file can hold no more than 4096 taxi nodes" },
+    { model::kParkingSpot, model::kMostSpots, "A scenery file can hold no more than 4096 parking spots" },
+    { model::kTaxiLink, model::kMostLinks, "A scenery file can hold no more than 65535 taxi links" },
+    { model::kApron, model::kMostCounted, "A scenery file can hold no more than 255 aprons" },
 };
 
 constexpr double kRadius[] = { 20, 20, 10, 14, 18, 50, 44, 26, 31, 38, 54, 20 };  // metres, by type code
 constexpr uint32_t kUnknownType = 1, kFirstGate = 8, kLastGate = 10;
 constexpr uint32_t kParkingName = 1, kGateName = 10, kPushBothWays = 0xC0;
 constexpr uint32_t kMostNumber = 4095;
-constexpr size_t kMostCodes = 255, kCodeSize = 4;
-constexpr int kTypeShift = 8, kNumberShift = 12, kCountShift = 24;
 
 SceneryObject* Make(uint32_t kind, size_t payloadSize, uint32_t marks) {
     SceneryObject* object = model::CreateObject(kind, static_cast<uint32_t>(payloadSize));
@@ -77,15 +77,15 @@ uint32_t NumberFor(uint32_t name) {
 uint32_t PackedWord(uint32_t type, uint32_t codes) {
     const bool gate = type >= kFirstGate && type <= kLastGate;
     const uint32_t name = gate ? kGateName : kParkingName;
-    return name | (gate ? kPushBothWays : 0) | type << kTypeShift | NumberFor(name) << kNumberShift |
-           codes << kCountShift;
+    return name | (gate ? kPushBothWays : 0) | type << model::kParkingTypeShift |
+           NumberFor(name) << model::kParkingNumberShift | codes << model::kParkingCountShift;
 }
 
 void PutCodes(SceneryObject* spot, size_t count) {
     uint8_t* out = spot->payload + sizeof(model::ParkingSpotRecord);
-    for (size_t i = 0; i < count; ++i, out += kCodeSize) {
+    for (size_t i = 0; i < count; ++i, out += model::kParkingCodeSize) {
         const std::string& code = tools.parkingCodes[i];  // zero padded, not terminated
-        std::copy_n(code.begin(), std::min(code.size(), kCodeSize), out);
+        std::copy_n(code.begin(), std::min(code.size(), model::kParkingCodeSize), out);
     }
 }
 
@@ -134,9 +134,9 @@ SceneryObject* AddNode(model::LatLon position, uint8_t type, const SceneryObject
 
 SceneryObject* AddSpot(model::LatLon position, double heading) {
     const auto type = static_cast<uint32_t>(tools.lastParkingType) & 0xF;
-    const size_t codes = std::min(tools.parkingCodes.size(), kMostCodes);
+    const size_t codes = std::min(tools.parkingCodes.size(), model::kMostParkingCodes);
     SceneryObject* spot =
-        Make(model::kParkingSpot, sizeof(model::ParkingSpotRecord) + kCodeSize * codes, model::kNewNode);
+        Make(model::kParkingSpot, sizeof(model::ParkingSpotRecord) + model::kParkingCodeSize * codes, model::kNewNode);
     auto& record = PayloadAs<model::ParkingSpotRecord>(spot);
     record.packed = PackedWord(type, static_cast<uint32_t>(codes));
     record.radius = static_cast<float>(DefaultSpotRadius(type));

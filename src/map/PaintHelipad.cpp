@@ -12,7 +12,6 @@ namespace map {
 namespace {
 
 enum PadType : uint8_t { kPlainPad = 0, kLetterPad = 1, kSquarePad = 2, kCirclePad = 3, kMedicalPad = 4 };
-constexpr uint8_t kTypeMask = 0x0F, kTransparent = 0x10, kClosed = 0x20;
 
 constexpr double kMostMetres = 5'000;                  // a damaged record
 constexpr double kStroke = 0.04;                       // of the pad's smaller side, also the distance from its border
@@ -75,7 +74,7 @@ void PaintClosedMark(const Painter& painter, const Pad& pad) {
 }
 
 void PaintMark(const Painter& painter, const Pad& pad, uint8_t type) {
-    switch (type & kTypeMask) {
+    switch (type & model::kPadTypeMask) {
     case kLetterPad:
         PaintBorder(painter, pad, Ink::HelipadMarking);
         PaintLetter(painter, pad, Ink::HelipadMarking, kLetterHeight);
@@ -91,7 +90,7 @@ void PaintMark(const Painter& painter, const Pad& pad, uint8_t type) {
         break;
     default: break;
     }
-    if (type & kClosed) PaintClosedMark(painter, pad);
+    if (type & model::kPadClosed) PaintClosedMark(painter, pad);
 }
 
 void PaintHelipad(const Painter& painter, SceneryObject* object) {
@@ -105,7 +104,7 @@ void PaintHelipad(const Painter& painter, SceneryObject* object) {
     const Colour surface = RunwayColour(record.surface);
     if (model::IsSelected(object))
         Fill(painter, InkOf(Ink::SelectedFill), InkOf(Ink::SelectedOutline));
-    else if (record.type & kTransparent)
+    else if (record.type & model::kPadTransparent)
         Stroke(painter, 1, surface);
     else
         Fill(painter, surface, surface);

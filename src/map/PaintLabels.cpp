@@ -21,8 +21,7 @@ namespace map {
 namespace {
 
 enum LabelMode { kNoLabels = 0, kTypeLabels = 1, kCodeLabels = 2 };  // the setting
-constexpr size_t kCodeSize = 4;
-constexpr int kLabelHeight = 14, kLabelGap = 3;        // pixels
+constexpr int kLabelHeight = 14, kLabelGap = 3;                      // pixels
 constexpr double kCharacterWidth = 7, kCellSize = 64;  // pixels; the width is near enough to keep labels apart
 constexpr double kFarOff = 100'000;                    // pixels beside the page: no label there matters
 constexpr double kCircleShare = 0.8, kRoomyCircle = 30,
@@ -39,10 +38,10 @@ std::string NameLabel(const model::ParkingSpotRecord& spot) {
 std::string CodeLabel(const SceneryObject* object) {
     constexpr size_t kFixed = sizeof(model::ParkingSpotRecord);
     const auto& spot = model::PayloadAs<model::ParkingSpotRecord>(object);
-    if (model::ParkingCodeCount(spot) == 0 || object->payloadSize < kFixed + kCodeSize) return {};
-    char code[kCodeSize];
-    std::memcpy(code, object->payload + kFixed, kCodeSize);
-    char text[kCodeSize + 1];
+    if (model::ParkingCodeCount(spot) == 0 || object->payloadSize < kFixed + model::kParkingCodeSize) return {};
+    char code[model::kParkingCodeSize];
+    std::memcpy(code, object->payload + kFixed, model::kParkingCodeSize);
+    char text[model::kParkingCodeSize + 1];
     std::snprintf(text, sizeof text, "%.4s", code);
     return platform::Utf8FromWindows1252(text);
 }

@@ -7,6 +7,7 @@
 #include "map/MapView.h"
 #include "map/Painter.h"
 #include "model/ObjectList.h"
+#include "platform/Platform.h"
 
 namespace map {
 
@@ -49,6 +50,16 @@ void PaintPlaces(Painter* painter) {
     if (layers.starts) PaintStartLocations(painter);
     if (layers.navaids) PaintNavaids(painter);
     if (app::settings.showLabels != 0 && layers.network) PaintParkingLabels(painter);
+}
+
+platform::Path PageOutline() {
+    platform::Path path;
+    platform::MoveTo(&path, { 0, 0 });
+    platform::LineTo(&path, { view.clientWidth, 0 });
+    platform::LineTo(&path, { view.clientWidth, view.clientHeight });
+    platform::LineTo(&path, { 0, view.clientHeight });
+    platform::ClosePath(&path);
+    return path;
 }
 
 void PaintCrossHair(Canvas* canvas) {
@@ -104,6 +115,16 @@ void PaintMap(Canvas* canvas) {
     PaintGuidelines(&painter);
     PaintFaultMarker(&painter);
     if (view.lockedToSim && simAircraft.active) PaintCrossHair(canvas);
+}
+
+void PaintPageMap(Canvas* canvas, int thinnestPen, const MapView& onScreen) {
+    canvas->thinnestPen = thinnestPen;
+    platform::PushClip(canvas, PageOutline());
+    PaintMap(canvas);
+    platform::PopClip(canvas);
+    canvas->thinnestPen = 1;
+    view = onScreen;
+    platform::RequestRepaint();
 }
 
 void PaintFeedback(Canvas* canvas) {

@@ -28,8 +28,6 @@ constexpr double kNdbRadius = 40, kVorRadius = 45;
 constexpr int kLeastSymbol = 9;                  // pixels
 constexpr int kLabelHeight = 13, kLabelGap = 3;  // pixels
 
-constexpr uint8_t kNotDmeOnly = 0x01;
-
 double SymbolReach(double metres) {
     return std::max(double(ScaledPixels(metres)), std::floor(FromScreen(kLeastSymbol)));
 }
@@ -228,7 +226,7 @@ void PaintVor(const Painter& painter, SceneryObject* object) {
                                     at + Point{ -half, half } };
         FillPolygon(painter.canvas, square);
     }
-    if (vor.flags & kNotDmeOnly) {
+    if (vor.flags & model::kHasVor) {
         std::array<Point, 6> hexagon;
         for (int i = 0; i < 6; ++i) {
             const double angle = model::kTwoPi * i / 6;

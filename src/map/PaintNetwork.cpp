@@ -7,14 +7,14 @@
 #include "map/SpotColours.h"
 #include "model/Positions.h"
 #include "model/Records.h"
+#include "model/RunwayArea.h"
 
 namespace map {
 
 namespace {
 
-constexpr double kHoldShortLimit = 68.58;    // 225 feet: AI stops for good when it holds farther out
-constexpr double kLinkWidth = 0.4572;        // 1.5 feet
-constexpr double kClosedCrossReach = 15.24;  // 50 feet
+constexpr double kLinkWidth = 0.4572;                                             // 1.5 feet
+constexpr double kClosedCrossReach = 15.24;                                       // 50 feet
 constexpr double kPointerBack = 0.66, kPointerAhead = 0.35, kPointerSide = 0.57;  // of the spot's radius
 constexpr double kPointerNotch = 0.4;                                             // behind the centre
 
@@ -45,7 +45,7 @@ void PaintNode(const Painter& painter, SceneryObject* node, Point at) {
         FillCircle(painter.canvas, at, radius);
     }
     if (!layers.holdShortLimits || type != model::kHoldShortNode) return;
-    const int limit = ScaledPixels(kHoldShortLimit);
+    const int limit = ScaledPixels(model::kHoldShortLimit);
     if (!Meets(BoundsOf(at, limit), ClientBox())) return;
     Stroke(painter, 1, colour);
     FillCircle(painter.canvas, at, limit);

@@ -11,7 +11,6 @@
 #include "map/PaintMap.h"
 #include "model/Ident.h"
 #include "model/ObjectList.h"
-#include "platform/Platform.h"
 #include "platform/Text.h"
 
 namespace map {
@@ -64,7 +63,7 @@ double WithinScales(double scale) {
 
 int32_t Whole(double value, int32_t most) {
     if (!(value > 0)) return 0;
-    return static_cast<int32_t>(std::min(value, double(most)) + 0.5);
+    return static_cast<int32_t>(std::lround(std::min(value, double(most))));
 }
 
 // The view's extent in the middle of the margins, as far as they and the printer reach.
@@ -85,15 +84,6 @@ int32_t HeightOf(const PrintPage& page) { return page.box.bottom - page.box.top;
 
 std::array<platform::Pixel, 4> CornersOf(int32_t right, int32_t bottom) {
     return { platform::Pixel{ 0, 0 }, { right, 0 }, { right, bottom }, { 0, bottom } };
-}
-
-platform::Path Outline(const PrintPage& page) {
-    platform::Path path;
-    const auto corners = CornersOf(WidthOf(page), HeightOf(page));
-    platform::MoveTo(&path, corners[0]);
-    for (size_t i = 1; i < corners.size(); ++i) platform::LineTo(&path, corners[i]);
-    platform::ClosePath(&path);
-    return path;
 }
 
 void ViewPage(const PrintPage& page) {
@@ -179,13 +169,7 @@ void PaintPage(platform::Canvas* canvas, const PrintPage& page) {
     if (IsEmpty(page)) return;
     const MapView onScreen = view;
     ViewPage(page);
-    canvas->thinnestPen = page.penWidth;
-    platform::PushClip(canvas, Outline(page));
-    PaintMap(canvas);
-    platform::PopClip(canvas);
-    canvas->thinnestPen = 1;
-    view = onScreen;
-    platform::RequestRepaint();  // the objects now know their places on the page, and the hit tests read them
+    PaintPageMap(canvas, page.penWidth, onScreen);
 }
 
 void PaintPageFrame(platform::Canvas* canvas, const PrintPage& page, const PrintSettings& settings) {
@@ -204,7 +188,7 @@ std::string ScaleLabel(const Paper& paper) {
 
 std::string ScaleText(const PrintSettings& settings) {
     char text[16];
-    std::snprintf(text, sizeof text, "%u", static_cast<unsigned>(WithinScales(settings.printScale) + 0.5));
+    std::snprintf(text, sizeof text, "%u", static_cast<unsigned>(std::lround(WithinScales(settings.printScale))));
     return text;
 }
 

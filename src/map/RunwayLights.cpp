@@ -27,7 +27,6 @@ constexpr double kZoneLength = Feet(3000), kZoneStep = Feet(100), kZoneInner = F
 constexpr int kZoneLamps = 3;
 constexpr double kFullWidth = Feet(150);  // of a runway whose touchdown zone lights stand where they should
 constexpr double kLampRadius = 0.5;       // metres
-constexpr uint8_t kEdgeLights = 0x03, kCentreLights = 0x0C, kCentreRed = 0x10;
 
 void EdgeLights(const Lamps& lamps, const RunwayShape& runway) {
     const bool caution = (runway.marks & kPrecision) != 0 && runway.length > 2 * kCautionZone;
@@ -44,7 +43,7 @@ void EdgeLights(const Lamps& lamps, const RunwayShape& runway) {
 
 bool IsCentreRed(const RunwayShape& runway, double along, int number) {
     const double left = std::min(along, runway.length - along);
-    return (runway.lights & kCentreRed) && (left < kRedZone || (left < kMixedZone && number % 2 == 0));
+    return (runway.lights & model::kRedLights) && (left < kRedZone || (left < kMixedZone && number % 2 == 0));
 }
 
 void CentreLights(const Lamps& lamps, const RunwayShape& runway) {
@@ -69,13 +68,13 @@ void Row(const Lamps& lamps, const RunwayShape& runway, const GroundFrame& frame
 
 // The approach lights' own bar takes the place of the runway's green lights.
 bool HasThresholdBar(const RunwayEnd& end) {
-    return ApproachSystemOf(end.approachLights & kApproachSystemMask).thresholdBar;
+    return ApproachSystemOf(end.approachLights & model::kApproachSystemMask).thresholdBar;
 }
 
 // Red lights end the runway; green ones, outside them, mark the threshold for those who arrive. Aircraft roll over
 // a displaced threshold: its green lights stand beside the runway.
 void EndLights(const Lamps& lamps, const RunwayShape& runway, const RunwayEnd& end) {
-    const int group = end.approachLights & kApproachSystemMask ? kPrecisionEndGroup : kEndGroup;
+    const int group = end.approachLights & model::kApproachSystemMask ? kPrecisionEndGroup : kEndGroup;
     Row(lamps, runway, end.frame, -kEndOffset, group, Ink::LightRed);
     if (HasThresholdBar(end)) return;
     if (end.displaced > 0)
@@ -100,12 +99,12 @@ void TouchdownZone(const Lamps& lamps, const RunwayShape& runway, const RunwayEn
 void PaintLightsOf(Canvas* canvas, const RunwayShape& runway) {
     if (runway.length <= 0 || runway.width <= 0) return;
     const Lamps lamps = LampsOf(canvas, kLampRadius);
-    if (runway.lights & kEdgeLights) EdgeLights(lamps, runway);
-    if (runway.lights & kCentreLights) CentreLights(lamps, runway);
+    if (runway.lights & model::kEdgeLightsMask) EdgeLights(lamps, runway);
+    if (runway.lights & model::kCentreLightsMask) CentreLights(lamps, runway);
     for (const RunwayEnd& end : runway.ends) {
-        if (end.approachLights & kTouchdownLights) TouchdownZone(lamps, runway, end);
-        if (runway.lights & kEdgeLights) EndLights(lamps, runway, end);
-        if ((end.approachLights & kGreenEndRow) && !HasThresholdBar(end))
+        if (end.approachLights & model::kTouchdownLights) TouchdownZone(lamps, runway, end);
+        if (runway.lights & model::kEdgeLightsMask) EndLights(lamps, runway, end);
+        if ((end.approachLights & model::kEndLights) && !HasThresholdBar(end))
             Row(lamps, runway, end.frame, end.displaced - kThresholdOffset, 0, Ink::LightGreen);
     }
 }

@@ -16,8 +16,6 @@ namespace map {
 
 namespace {
 
-constexpr double Feet(double feet) { return feet * model::kMetresPerFoot; }
-
 constexpr double kFullWidth = Feet(150);   // of a runway with markings of full size
 constexpr double kStripeStart = Feet(20);  // threshold stripes, from the landing threshold
 constexpr double kStripeLength = Feet(150);

@@ -6,25 +6,11 @@
 #include "map/Palette.h"
 #include "map/RunwayGlyphs.h"
 #include "model/Records.h"
+#include "model/RunwayBits.h"
 
 namespace map {
 
-// Bits of a runway's marking flags.
-enum RunwayMarks : uint16_t {
-    kEdgeLines = 0x0001,
-    kThresholdStripes = 0x0002,
-    kAimingPoints = 0x0004,
-    kTouchdownMarks = 0x0008,
-    kCentreLine = 0x0010,
-    kDesignation = 0x0020,
-    kPrecision = 0x0040,
-    kEdgePavement = 0x0080,
-    kSingleEnd = 0x0100,  // no markings at the secondary end
-    kPrimaryClosed = 0x0200,
-    kSecondaryClosed = 0x0400,
-    kPrimaryStol = 0x0800,
-    kSecondaryStol = 0x1000,
-};
+using enum model::RunwayMarks;
 
 // Seen by a pilot landing on this end: the frame's origin is the middle of the end, ahead is inward.
 struct RunwayEnd {

@@ -7,6 +7,7 @@
 #include <span>
 #include <vector>
 
+#include "model/Geodesy.h"
 #include "model/Geometry.h"
 #include "platform/Canvas.h"
 
@@ -15,6 +16,8 @@ namespace map {
 using model::Pixel;
 using model::Point;
 using platform::Canvas;
+
+constexpr double Feet(double feet) { return feet * model::kMetresPerFoot; }  // in metres
 
 constexpr double kSafeReach = 1 << 24;  // no coordinate handed to a canvas is farther from 0, either way
 

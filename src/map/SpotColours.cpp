@@ -11,17 +11,17 @@ namespace map {
 
 namespace {
 
-constexpr size_t kCodeSize = 4;
+using model::kParkingCodeSize;
 
 // The code of a spot, zero padded there, as ParkingSpecs.txt spells it.
 std::string CodeOf(const model::SceneryObject* spot, uint32_t number) {
-    char code[kCodeSize + 1] = {};
-    std::memcpy(code, spot->payload + sizeof(model::ParkingSpotRecord) + number * kCodeSize, kCodeSize);
+    char code[kParkingCodeSize + 1] = {};
+    std::memcpy(code, spot->payload + sizeof(model::ParkingSpotRecord) + number * kParkingCodeSize, kParkingCodeSize);
     return platform::Utf8FromWindows1252(code);
 }
 
 uint32_t CodeCount(const model::SceneryObject* spot) {
-    const size_t room = (spot->payloadSize - sizeof(model::ParkingSpotRecord)) / kCodeSize;
+    const size_t room = (spot->payloadSize - sizeof(model::ParkingSpotRecord)) / kParkingCodeSize;
     const uint32_t count = model::ParkingCodeCount(model::PayloadAs<model::ParkingSpotRecord>(spot));
     return count < room ? count : static_cast<uint32_t>(room);
 }

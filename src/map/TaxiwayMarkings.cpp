@@ -7,7 +7,7 @@
 #include <array>
 #include <cmath>
 
-#include "map/HoldShort.h"
+#include "map/HoldShortMarkings.h"
 #include "map/Lamps.h"
 #include "map/MapView.h"
 #include "map/Painter.h"

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "model/Geometry.h"
+
 namespace model {
 
 namespace {
@@ -19,8 +21,6 @@ double ClampedAcos(double cosine) {
     const double angle = std::acos(cosine);
     return std::isnan(angle) ? 0 : angle;
 }
-
-double Square(double x) { return x * x; }
 
 // What is no number is 0.
 uint32_t Code(double units, double most) { return units > 0 ? static_cast<uint32_t>(std::min(units, most)) : 0; }

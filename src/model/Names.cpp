@@ -32,7 +32,6 @@ constexpr const char* kParkingNames[] = {
 };
 static_assert(std::size(kParkingNames) == 38);
 
-constexpr uint32_t kFirstLettered = 37;
 constexpr const char* kLetteredNumbers[] = { "N", "E", "NW", "SW", "S", "W", "SE", "NE" };
 constexpr const char* kSuffixes[] = { "", "L", "R", "C", "W" };
 
@@ -45,8 +44,8 @@ const char* ParkingTypeName(uint32_t code) { return kParkingTypeNames[code < std
 const char* ParkingNameText(uint32_t code) { return kParkingNames[code < std::size(kParkingNames) ? code : 0]; }
 
 std::string RunwayEndName(uint32_t number, uint32_t designator) {
-    const bool lettered = number >= kFirstLettered && number - kFirstLettered < std::size(kLetteredNumbers);
-    std::string name = lettered ? kLetteredNumbers[number - kFirstLettered] : std::to_string(number);
+    const bool lettered = number >= kFirstLetteredNumber && number - kFirstLetteredNumber < std::size(kLetteredNumbers);
+    std::string name = lettered ? kLetteredNumbers[number - kFirstLetteredNumber] : std::to_string(number);
     if (designator < std::size(kSuffixes)) name += kSuffixes[designator];
     return name;
 }

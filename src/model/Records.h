@@ -169,6 +169,7 @@ struct VorRecord {  // body of record 0x0013: an ILS, VOR or DME
     uint32_t region;  // bits 0-10 region; bits 11-31 the airport's packed ident
 };
 constexpr uint8_t kIlsType = 4;
+constexpr uint8_t kHasVor = 0x01;  // else, of a VOR/DME, a lone DME
 constexpr uint8_t kHasGlideSlope = 0x08;
 constexpr uint8_t kHasDme = 0x10;
 
@@ -273,16 +274,27 @@ static_assert(offsetof(NdbPayload, ident) == 26 && offsetof(NdbPayload, name) ==
 // Fields of the packed words.
 enum NodeType : uint8_t { kNormalNode = 1, kHoldShortNode = 2, kIlsHoldShortNode = 4 };
 enum LinkType : uint32_t { kTaxiwayLink = 1, kRunwayLink = 2, kParkingLink = 3, kApronRouteLink = 4, kClosedLink = 5 };
+constexpr uint32_t kLinkTypeMask = 0xF;
+constexpr uint32_t kLinkDrawFlags = 0x60;  // draw surface, draw detail: compiled apron routes lack them
+enum StartType : uint8_t { kRunwayStart = 1, kWaterStart = 2, kHelipadStart = 3 };
+constexpr uint8_t kPadTypeMask = 0x0F, kPadTransparent = 0x10, kPadClosed = 0x20;
+constexpr uint8_t kDrawApron = 3;       // surface and detail
+constexpr size_t kParkingCodeSize = 4;  // bytes of an airline code, zero padded
+constexpr int kParkingTypeShift = 8, kParkingNumberShift = 12, kParkingCountShift = 24;
 constexpr uint32_t kPlaceholderLongitude = 0x18000000;  // 0 degrees north, 0 degrees east: where a new
 constexpr uint32_t kPlaceholderLatitude = 0x10000000;   // airport and its tower stand until placed
 
-inline uint32_t LinkTypeOf(const TaxiLinkPayload& link) { return link.flagsWord & 0xF; }
+inline uint32_t LinkTypeOf(const TaxiLinkPayload& link) { return link.flagsWord & kLinkTypeMask; }
 inline uint32_t LinkIndexByte(const TaxiLinkPayload& link) { return (link.flagsWord >> 8) & 0xFF; }
 inline uint32_t LinkSurface(const TaxiLinkPayload& link) { return link.flagsWord >> 24; }
 
+inline uint32_t StartTypeOf(const StartLocationRecord& start) { return start.designatorAndType >> 4; }
+inline uint32_t StartSuffix(const StartLocationRecord& start) { return start.designatorAndType & 0xF; }
+inline uint8_t StartNibbles(uint32_t type, uint32_t suffix) { return static_cast<uint8_t>(type << 4 | (suffix & 0xF)); }
+
 inline uint32_t ParkingNameCode(const ParkingSpotRecord& spot) { return spot.packed & 0x3F; }
-inline uint32_t ParkingTypeCode(const ParkingSpotRecord& spot) { return (spot.packed >> 8) & 0xF; }
-inline uint32_t ParkingNumber(const ParkingSpotRecord& spot) { return (spot.packed >> 12) & 0xFFF; }
-inline uint32_t ParkingCodeCount(const ParkingSpotRecord& spot) { return spot.packed >> 24; }
+inline uint32_t ParkingTypeCode(const ParkingSpotRecord& spot) { return (spot.packed >> kParkingTypeShift) & 0xF; }
+inline uint32_t ParkingNumber(const ParkingSpotRecord& spot) { return (spot.packed >> kParkingNumberShift) & 0xFFF; }
+inline uint32_t ParkingCodeCount(const ParkingSpotRecord& spot) { return spot.packed >> kParkingCountShift; }
 
 }  // namespace model

@@ -13,6 +13,9 @@
 
 namespace model {
 
+// Metres from a runway's edge to the last hold-short node: AI aircraft that hold farther out stop for good.
+constexpr double kHoldShortLimit = 225 / kFeetPerMetre;
+
 struct RunwayArea {
     SceneryObject* runway = nullptr;
     LatLon centre;

@@ -67,6 +67,4 @@ void DrawText(Canvas* canvas, const TextRun& run) {
     if (!run.text.empty()) canvas->calls->text(canvas->target, run);
 }
 
-Pixel TextSize(Canvas* canvas, const TextRun& run) { return canvas->calls->textSize(canvas->target, run); }
-
 }  // namespace platform

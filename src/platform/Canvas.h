@@ -55,8 +55,7 @@ struct CanvasCalls {
     void (*path)(void* target, const Path& path);                  // brush (winding fill) and pen
     void (*pushClip)(void* target, const Path& path);              // intersects with the clip in force
     void (*popClip)(void* target);
-    void (*text)(void* target, const TextRun& run);       // transparent background
-    Pixel (*textSize)(void* target, const TextRun& run);  // width and height, angle ignored
+    void (*text)(void* target, const TextRun& run);  // transparent background
 };
 
 struct Canvas {
@@ -82,6 +81,5 @@ void DrawPath(Canvas* canvas, const Path& path);
 void PushClip(Canvas* canvas, const Path& path);
 void PopClip(Canvas* canvas);
 void DrawText(Canvas* canvas, const TextRun& run);
-Pixel TextSize(Canvas* canvas, const TextRun& run);
 
 }  // namespace platform

@@ -178,11 +178,6 @@ SIZE MeasureText(const GdiTarget& gdi, const TextRun& run, const std::wstring& t
     return size;
 }
 
-Pixel TextSizeOf(void* target, const TextRun& run) {
-    const SIZE size = MeasureText(TargetOf(target), run, WideFromUtf8(run.text));
-    return { size.cx, size.cy };
-}
-
 // How much of an extent lies left of, or above, the anchor.
 double ShareBefore(AlignX align) { return align == AlignX::Left ? 0 : align == AlignX::Centre ? 0.5 : 1; }
 double ShareBefore(AlignY align) { return align == AlignY::Top ? 0 : align == AlignY::Middle ? 0.5 : 1; }
@@ -216,7 +211,6 @@ constexpr CanvasCalls kGdiCalls = {
     .pushClip = PushClipOf,
     .popClip = PopClipOf,
     .text = DrawTextOf,
-    .textSize = TextSizeOf,
 };
 
 }  // namespace

@@ -1,4 +1,4 @@
-// CanvasGdiWin.h - a canvas on a GDI device context: the off-screen bitmap, the window, later the printer.
+// CanvasGdiWin.h - a canvas on a GDI device context: the off-screen bitmap, the window, the printer.
 #pragma once
 
 #include <windows.h>

@@ -14,8 +14,6 @@ namespace platform {
 
 namespace {
 
-constexpr double kGlyphWidth = 0.55;  // of the font height: a mean for sans-serif faces
-constexpr double kBoldGlyphWidth = 0.6;
 constexpr double kAscent = 0.8;  // of the font height: from the top of the line to the baseline
 constexpr double kDegrees = 57.29577951308232;
 
@@ -125,13 +123,6 @@ void PushSvgClip(void* target, const Path& path) {
 
 void PopSvgClip(void* target) { Svg(target)->body += "</g>\n"; }
 
-Pixel SvgTextSize(void*, const TextRun& run) {
-    int32_t characters = 0;
-    for (const char c : run.text) characters += (c & 0xC0) != 0x80;  // continuation bytes add none
-    const double width = (run.bold ? kBoldGlyphWidth : kGlyphWidth) * run.height * characters;
-    return { static_cast<int32_t>(std::lround(width)), run.height };
-}
-
 void SvgText(void* target, const TextRun& run) {
     constexpr const char* kAnchors[] = { "start", "middle", "end" };
     constexpr double kBaselines[] = { kAscent, kAscent - 0.5, kAscent - 1 };  // below `at`, in font heights
@@ -148,8 +139,7 @@ void SvgText(void* target, const TextRun& run) {
 }
 
 constexpr CanvasCalls kSvgCalls = {
-    SelectPen,   SelectBrush, Line,       Polyline, Polygon,     Ellipse,
-    DrawSvgPath, PushSvgClip, PopSvgClip, SvgText,  SvgTextSize,
+    SelectPen, SelectBrush, Line, Polyline, Polygon, Ellipse, DrawSvgPath, PushSvgClip, PopSvgClip, SvgText,
 };
 
 }  // namespace

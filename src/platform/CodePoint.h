@@ -1,8 +1,9 @@
-// CodePoint.h - reading UTF-8 one code point at a time.
+// CodePoint.h - reading and writing UTF-8 one code point at a time.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace platform {
@@ -23,6 +24,18 @@ inline int32_t TakeCodePoint(std::string_view* text) {
     good = good && code >= kFirstOfLength[length] && code <= 0x10FFFF;
     text->remove_prefix(good ? length : 1);
     return good ? static_cast<int32_t>(code) : -1;
+}
+
+// A half of a surrogate pair is written like any other code point.
+inline void AppendUtf8(uint32_t code, std::string* text) {
+    if (code < 0x80) {
+        text->push_back(static_cast<char>(code));
+        return;
+    }
+    const int tail = code < 0x800 ? 1 : code < 0x10000 ? 2 : 3;
+    constexpr uint32_t kLead[4] = { 0, 0xC0, 0xE0, 0xF0 };
+    text->push_back(static_cast<char>(kLead[tail] | code >> (6 * tail)));
+    for (int i = tail - 1; i >= 0; --i) text->push_back(static_cast<char>(0x80 | (code >> (6 * i) & 0x3F)));
 }
 
 }  // namespace platform

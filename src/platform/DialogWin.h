@@ -13,6 +13,11 @@
 
 namespace platform {
 
+constexpr UINT kDpiChanged = 0x02E0;  // WM_DPICHANGED of Windows 8.1
+
+// What a dialog with columns posts to itself when that comes, for it gets its new size only then.
+constexpr UINT kFitColumns = WM_APP;
+
 // Runs the dialog of that resource modally over the main window, or over the dialog that is active, and returns what
 // it was ended with; 0 or less when it could not be made.
 INT_PTR RunDialog(int resource, DLGPROC procedure, void* data);

@@ -1,6 +1,7 @@
 // Files.h - file access. Paths are UTF-8 and may hold any character; "\" and "/" both separate.
 //
-// FilesWin.cpp serves Windows builds (long paths included), FilesPosix.cpp the native ones.
+// FilesWin.cpp serves Windows builds (long paths included), FilesPosix.cpp the native ones; Files.cpp holds what both do
+// alike.
 #pragma once
 
 #include <cstddef>
@@ -22,7 +23,10 @@ using FileHandle = std::unique_ptr<OpenFile, FileCloser>;
 // Opens for reading, letting others read, write and rename meanwhile. Empty when that fails.
 FileHandle OpenForReading(const std::string& path);
 
-// The size of the file in bytes at this moment; 0 when it cannot be told.
+// The size of the file in bytes at this moment. False when it cannot be told: that must not look like an empty file.
+bool TakeFileSize(OpenFile* file, uint64_t* size);
+
+// The same; 0 when it cannot be told.
 uint64_t FileSize(OpenFile* file);
 
 // Reads up to `size` bytes at `offset` and returns how many were read: fewer at the end of the file

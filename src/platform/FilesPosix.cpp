@@ -44,18 +44,6 @@ bool WriteAll(int descriptor, std::span<const uint8_t> bytes) {
     return true;
 }
 
-// False when the size cannot be told: that must not look like an empty file.
-bool TakeSize(OpenFile* file, uint64_t* size) {
-    struct stat info;
-    if (::fstat(file->descriptor, &info) != 0) return false;
-    *size = static_cast<uint64_t>(info.st_size);
-    return true;
-}
-
-bool EndsWithNoCase(std::string_view text, std::string_view end) {
-    return text.size() >= end.size() && EqualNoCase(text.substr(text.size() - end.size()), end);
-}
-
 void SortNames(std::vector<std::string>* names) {
     std::sort(names->begin(), names->end(),
               [](const std::string& a, const std::string& b) { return UpperCased(a) < UpperCased(b); });
@@ -101,10 +89,11 @@ FileHandle OpenForReading(const std::string& path) {
     return FileHandle(new OpenFile{ descriptor });
 }
 
-uint64_t FileSize(OpenFile* file) {
-    uint64_t size = 0;
-    TakeSize(file, &size);
-    return size;
+bool TakeFileSize(OpenFile* file, uint64_t* size) {
+    struct stat info;
+    if (::fstat(file->descriptor, &info) != 0) return false;
+    *size = static_cast<uint64_t>(info.st_size);
+    return true;
 }
 
 size_t ReadAt(OpenFile* file, uint64_t offset, void* buffer, size_t size) {
@@ -117,17 +106,6 @@ size_t ReadAt(OpenFile* file, uint64_t offset, void* buffer, size_t size) {
         total += static_cast<size_t>(got);
     }
     return total;
-}
-
-bool ReadWholeFile(const std::string& path, uint64_t limit, std::vector<uint8_t>* bytes) {
-    bytes->clear();
-    const FileHandle file = OpenForReading(path);
-    uint64_t size = 0;
-    if (!file || !TakeSize(file.get(), &size) || size > limit) return false;
-    bytes->resize(static_cast<size_t>(size));
-    if (ReadAt(file.get(), 0, bytes->data(), bytes->size()) == bytes->size()) return true;
-    bytes->clear();
-    return false;
 }
 
 bool WriteFileWhole(const std::string& path, std::span<const uint8_t> bytes) {

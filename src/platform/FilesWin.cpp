@@ -118,18 +118,6 @@ HANDLE CreateSibling(const std::wstring& target, std::wstring* sibling) {
     return INVALID_HANDLE_VALUE;
 }
 
-// False when the size cannot be told: that must not look like an empty file.
-bool TakeSize(OpenFile* file, uint64_t* size) {
-    LARGE_INTEGER told;
-    if (!GetFileSizeEx(file->handle, &told)) return false;
-    *size = static_cast<uint64_t>(told.QuadPart);
-    return true;
-}
-
-bool EndsWithNoCase(std::string_view text, std::string_view end) {
-    return text.size() >= end.size() && EqualNoCase(text.substr(text.size() - end.size()), end);
-}
-
 }  // namespace
 
 void FileCloser::operator()(OpenFile* file) const {
@@ -149,10 +137,11 @@ FileHandle OpenForReading(const std::string& path) {
     return FileHandle(new OpenFile{ handle });
 }
 
-uint64_t FileSize(OpenFile* file) {
-    uint64_t size = 0;
-    TakeSize(file, &size);
-    return size;
+bool TakeFileSize(OpenFile* file, uint64_t* size) {
+    LARGE_INTEGER told;
+    if (!GetFileSizeEx(file->handle, &told)) return false;
+    *size = static_cast<uint64_t>(told.QuadPart);
+    return true;
 }
 
 size_t ReadAt(OpenFile* file, uint64_t offset, void* buffer, size_t size) {
@@ -168,17 +157,6 @@ size_t ReadAt(OpenFile* file, uint64_t offset, void* buffer, size_t size) {
         total += got;
     }
     return total;
-}
-
-bool ReadWholeFile(const std::string& path, uint64_t limit, std::vector<uint8_t>* bytes) {
-    bytes->clear();
-    const FileHandle file = OpenForReading(path);
-    uint64_t size = 0;
-    if (!file || !TakeSize(file.get(), &size) || size > limit) return false;
-    bytes->resize(static_cast<size_t>(size));
-    if (ReadAt(file.get(), 0, bytes->data(), bytes->size()) == bytes->size()) return true;
-    bytes->clear();
-    return false;
 }
 
 bool WriteFileWhole(const std::string& path, std::span<const uint8_t> bytes) {

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <unordered_set>
 
+#include "platform/CodePoint.h"
 #include "platform/Files.h"
 #include "platform/Profile.h"
 #include "platform/Text.h"
@@ -15,36 +16,15 @@ namespace {
 
 constexpr uint64_t kLargestFile = 64u << 20;  // bytes; the largest known libraries stay below one megabyte
 
-bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\v' || c == '\f' || c == '\x1A' || c == '\0'; }
+constexpr std::string_view kBlanks = { " \t\v\f\x1A\0", 6 };
 
-std::string_view Trimmed(std::string_view text) {
-    while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
-    while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
-    return text;
-}
-
-std::string_view Unquoted(std::string_view text) {
-    const bool quoted =
-        text.size() >= 2 && text.front() == text.back() && (text.front() == '"' || text.front() == '\'');
-    return quoted ? text.substr(1, text.size() - 2) : text;
-}
+std::string_view Bare(std::string_view text) { return Trimmed(text, kBlanks); }
 
 std::string_view TakeLine(std::string_view* text) {
     const size_t end = std::min(text->find_first_of("\r\n"), text->size());
     const std::string_view line = text->substr(0, end);
     text->remove_prefix(std::min(end + 1, text->size()));
     return line;
-}
-
-void AppendUtf8(uint32_t code, std::string* text) {
-    if (code < 0x80) {
-        text->push_back(static_cast<char>(code));
-        return;
-    }
-    const int tail = code < 0x800 ? 1 : code < 0x10000 ? 2 : 3;
-    constexpr uint32_t kLead[4] = { 0, 0xC0, 0xE0, 0xF0 };
-    text->push_back(static_cast<char>(kLead[tail] | code >> (6 * tail)));
-    for (int i = tail - 1; i >= 0; --i) text->push_back(static_cast<char>(0x80 | (code >> (6 * i) & 0x3F)));
 }
 
 // Half of a surrogate pair stays a code point of its own: file names may hold one.
@@ -64,25 +44,30 @@ std::string FromUtf16(std::span<const uint8_t> bytes, size_t low, size_t high) {
 
 }  // namespace
 
+std::string_view Unquoted(std::string_view text) {
+    const bool quoted =
+        text.size() >= 2 && text.front() == text.back() && (text.front() == '"' || text.front() == '\'');
+    return quoted ? text.substr(1, text.size() - 2) : text;
+}
+
 std::vector<IniSection> ParseIni(std::string_view text) {
     std::vector<IniSection> sections;
     std::unordered_set<std::string> seen;
     bool counts = false;  // the lines belong to the last section of the list
     while (!text.empty()) {
-        const std::string_view line = Trimmed(TakeLine(&text));
+        const std::string_view line = Bare(TakeLine(&text));
         if (line.empty() || line.front() == ';') continue;
         if (line.front() == '[') {
             const size_t end = line.rfind(']');
             if (end == std::string_view::npos) continue;
-            const std::string_view name = Trimmed(line.substr(1, end - 1));
+            const std::string_view name = Bare(line.substr(1, end - 1));
             counts = seen.insert(UpperCased(name)).second;
             if (counts) sections.push_back({ name, {} });
             continue;
         }
         const size_t equals = line.find('=');
         if (!counts || equals == std::string_view::npos) continue;
-        sections.back().values.emplace_back(Trimmed(line.substr(0, equals)),
-                                            Unquoted(Trimmed(line.substr(equals + 1))));
+        sections.back().values.emplace_back(Bare(line.substr(0, equals)), Unquoted(Bare(line.substr(equals + 1))));
     }
     return sections;
 }

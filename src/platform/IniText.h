@@ -24,6 +24,8 @@ struct IniSection {
 // value are not part of them.
 std::vector<IniSection> ParseIni(std::string_view text);
 
+std::string_view Unquoted(std::string_view value);  // without such a pair
+
 // The value of the first such key, without regard to case; empty when there is none.
 std::string_view IniValue(const IniSection& section, std::string_view key);
 

@@ -65,8 +65,8 @@ bool WriteAsUtf16(const std::string& file, const std::string& text) {
 
 // A new file, empty but for the mark. One that is there stays as it is, even when it cannot be read just now.
 bool MakeUtf16File(const std::string& file) {
-    const HANDLE made = CreateFileW(WideFromUtf8(file).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE made =
+        CreateFileW(WideFromUtf8(file).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (made == INVALID_HANDLE_VALUE) return GetLastError() == ERROR_FILE_EXISTS;
     constexpr wchar_t kMark = 0xFEFF;
     DWORD written = 0;

@@ -19,19 +19,6 @@ constexpr uint16_t kUpperControls[32] = {
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
 };
 
-void AppendUtf8(uint32_t code, std::string* text) {
-    if (code < 0x80) {
-        text->push_back(static_cast<char>(code));
-    } else if (code < 0x800) {
-        text->push_back(static_cast<char>(0xC0 | code >> 6));
-        text->push_back(static_cast<char>(0x80 | (code & 0x3F)));
-    } else {
-        text->push_back(static_cast<char>(0xE0 | code >> 12));
-        text->push_back(static_cast<char>(0x80 | (code >> 6 & 0x3F)));
-        text->push_back(static_cast<char>(0x80 | (code & 0x3F)));
-    }
-}
-
 int Windows1252Byte(uint32_t code) {
     if (code < 0x80 || (code >= 0xA0 && code < 0x100)) return static_cast<int>(code);
     const auto* found = std::find(std::begin(kUpperControls), std::end(kUpperControls), code);
@@ -77,6 +64,11 @@ std::string_view FirstCharacters(std::string_view text, size_t count) {
     return text;
 }
 
+std::string_view Trimmed(std::string_view text, std::string_view blanks) {
+    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
+    return text.substr(0, text.find_last_not_of(blanks) + 1);
+}
+
 std::string UpperCased(std::string_view text) {
     std::string upper(text);
     std::transform(upper.begin(), upper.end(), upper.begin(), UpperCase);
@@ -86,6 +78,10 @@ std::string UpperCased(std::string_view text) {
 bool EqualNoCase(std::string_view a, std::string_view b) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                       [](char x, char y) { return UpperCase(x) == UpperCase(y); });
+}
+
+bool EndsWithNoCase(std::string_view text, std::string_view end) {
+    return text.size() >= end.size() && EqualNoCase(text.substr(text.size() - end.size()), end);
 }
 
 }  // namespace platform

@@ -17,8 +17,12 @@ std::string Windows1252FromUtf8(std::string_view text, bool* lossless = nullptr)
 size_t CharacterCount(std::string_view text);
 std::string_view FirstCharacters(std::string_view text, size_t count);
 
+// Without the blanks at both ends.
+std::string_view Trimmed(std::string_view text, std::string_view blanks = " \t");
+
 // ASCII letters only; all other bytes stay.
 std::string UpperCased(std::string_view text);
 bool EqualNoCase(std::string_view a, std::string_view b);  // ASCII case folding
+bool EndsWithNoCase(std::string_view text, std::string_view end);
 
 }  // namespace platform

@@ -14,6 +14,8 @@
 
 namespace platform {
 
+constexpr DWORD kPathLimit = 32768;  // characters: the longest path that Windows knows
+
 inline std::wstring WideFromUtf8(std::string_view text) {
     std::wstring wide;
     wide.reserve(text.size());
@@ -39,14 +41,7 @@ inline std::string Utf8FromWide(std::wstring_view wide) {
         uint32_t code = wide[i];
         if (isHigh(code) && i + 1 < wide.size() && isLow(wide[i + 1]))
             code = 0x10000 + ((code - 0xD800) << 10) + (wide[++i] - 0xDC00u);
-        if (code < 0x80) {
-            text.push_back(static_cast<char>(code));
-            continue;
-        }
-        const int tail = code < 0x800 ? 1 : code < 0x10000 ? 2 : 3;
-        constexpr uint32_t kLead[4] = { 0, 0xC0, 0xE0, 0xF0 };
-        text.push_back(static_cast<char>(kLead[tail] | code >> (6 * tail)));
-        for (int k = tail - 1; k >= 0; --k) text.push_back(static_cast<char>(0x80 | (code >> (6 * k) & 0x3F)));
+        AppendUtf8(code, &text);
     }
     return text;
 }

@@ -25,7 +25,6 @@ constexpr uint32_t kAirportLowBits = 1;                   // kind of object in t
 constexpr float kLightSpacing = 60.96f;                   // metres: 200 feet
 constexpr uint32_t kBlueLights = 0xFF0000FF;              // ARGB
 constexpr float kLightBrightness = 1, kLightLimit = 800;  // as the simulator's own strips
-constexpr uint8_t kDrawSurfaceAndDetail = 3;
 
 uint32_t FuelWord(const AirportPlan& plan) {
     constexpr uint32_t kAvgas = 1u << 30 | 3u << 4, kJet = 1u << 31 | 3u << 14;  // with 100 octane and Jet A
@@ -79,13 +78,12 @@ void AppendHelipads(const AirportPlan& plan) {
 }
 
 void AppendHelipadStarts(const AirportPlan& plan) {
-    constexpr uint8_t kHelipadStart = 3 << 4;
     uint8_t number = 0;
     for (const HelipadPlan& pad : plan.helipads) {
         SceneryObject* object = model::CreateObject(model::kStartLocation, sizeof(model::StartLocationRecord));
         const model::EncodedPoint at = Encoded(plan, pad.at);
         PayloadAs<model::StartLocationRecord>(object) = { ++number,
-                                                          kHelipadStart,
+                                                          model::StartNibbles(model::kHelipadStart, 0),
                                                           at.longitude,
                                                           at.latitude,
                                                           Millimetres(plan.elevation),
@@ -128,11 +126,10 @@ std::vector<std::string> SplitCodes(std::string_view codes) {
 }
 
 SceneryObject* MakeSpot(const AirportPlan& plan, const SpotPlan& spot) {
-    constexpr size_t kCodeSize = 4;
     const std::vector<std::string> codes = SplitCodes(spot.codes);
     const auto count = static_cast<uint32_t>(codes.size());
     SceneryObject* object = model::CreateObject(
-        model::kParkingSpot, static_cast<uint32_t>(sizeof(model::ParkingSpotRecord) + kCodeSize * count));
+        model::kParkingSpot, static_cast<uint32_t>(sizeof(model::ParkingSpotRecord) + model::kParkingCodeSize * count));
     const model::EncodedPoint at = Encoded(plan, spot.at);
     const uint32_t packed = spot.name | static_cast<uint32_t>(spot.pushback) << 6 |
                             static_cast<uint32_t>(spot.type) << 8 | static_cast<uint32_t>(spot.number & 0xFFF) << 12 |
@@ -142,8 +139,8 @@ SceneryObject* MakeSpot(const AirportPlan& plan, const SpotPlan& spot) {
                                                     at.latitude };
     uint8_t* place = object->payload + sizeof(model::ParkingSpotRecord);
     for (const std::string& code : codes) {
-        std::copy_n(code.begin(), std::min(code.size(), kCodeSize), place);
-        place += kCodeSize;
+        std::copy_n(code.begin(), std::min(code.size(), model::kParkingCodeSize), place);
+        place += model::kParkingCodeSize;
     }
     return object;
 }
@@ -227,7 +224,7 @@ void AppendAprons(const AirportPlan& plan) {
         SceneryObject* empty = model::CreateObject(model::kApron, sizeof(model::ApronHead));
         auto& head = PayloadAs<model::ApronHead>(empty);
         head.outlineSurface = head.surface = apron.surface;
-        head.drawFlags = kDrawSurfaceAndDetail;
+        head.drawFlags = model::kDrawApron;
         model::AppendObject(model::CopyWithOutline(empty, outline));
         model::FreeObject(empty);
     }

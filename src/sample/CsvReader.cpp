@@ -4,18 +4,15 @@
 #include <charconv>
 #include <cmath>
 
+#include "platform/Text.h"
+
 namespace sample {
 
 namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-std::string_view Trimmed(std::string_view text) {
-    constexpr std::string_view kBlanks = " \t\r";
-    const size_t first = text.find_first_not_of(kBlanks);
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
+constexpr std::string_view kBlanks = " \t\r";
 
 // Reads a quoted field from behind its opening quote to behind its closing one.
 size_t ReadQuoted(std::string_view text, size_t at, std::string* field) {
@@ -70,14 +67,14 @@ bool NextRow(CsvTable* table) { return NextCsvRow(&table->rest, &table->row); }
 
 int ColumnOf(const CsvTable& table, std::string_view name) {
     for (size_t i = 0; i < table.columns.size(); ++i) {
-        if (Trimmed(table.columns[i]) == name) return static_cast<int>(i);
+        if (platform::Trimmed(table.columns[i], kBlanks) == name) return static_cast<int>(i);
     }
     return -1;
 }
 
 std::string_view Field(const CsvTable& table, int column) {
     if (column < 0 || static_cast<size_t>(column) >= table.row.size()) return {};
-    return Trimmed(table.row[static_cast<size_t>(column)]);
+    return platform::Trimmed(table.row[static_cast<size_t>(column)], kBlanks);
 }
 
 bool NumberIn(std::string_view field, double* value) {

@@ -3,11 +3,13 @@
 
 #include <cstdio>
 
+#include "bgl/Cells.h"
+
 namespace sample {
 
 namespace {
 
-constexpr int kBlockShift = 23;
+using bgl::kBlockShift;
 constexpr double kBlockWidth = 3.75, kBlockHeight = 2.8125;  // degrees
 constexpr uint32_t kLastColumn = 95, kLastRow = 63;
 

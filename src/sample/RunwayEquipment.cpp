@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "model/RunwayBits.h"
 #include "sample/RunwayPlans.h"
 #include "sample/TableWords.h"
 
@@ -9,12 +10,10 @@ namespace sample {
 
 namespace {
 
-// Marking flags of a runway record.
-constexpr uint16_t kEdges = 0x01, kThreshold = 0x02, kAimingPoint = 0x04, kTouchdown = 0x08;
-constexpr uint16_t kCentreLine = 0x10, kNumbers = 0x20, kPrecision = 0x40;
-constexpr uint16_t kVisualMarkings = kCentreLine | kNumbers;
-constexpr uint16_t kInstrumentMarkings = kVisualMarkings | kThreshold | kAimingPoint;
-constexpr uint16_t kPrecisionMarkings = kInstrumentMarkings | kEdges | kTouchdown | kPrecision;
+constexpr uint16_t kVisualMarkings = model::kCentreLine | model::kDesignation;
+constexpr uint16_t kInstrumentMarkings = kVisualMarkings | model::kThresholdStripes | model::kAimingPoints;
+constexpr uint16_t kPrecisionMarkings =
+    kInstrumentMarkings | model::kEdgeLines | model::kTouchdownMarks | model::kPrecision;
 
 constexpr double kInstrumentLength = 1200, kPrecisionLength = 2100, kHeavyLength = 2700;  // metres
 constexpr uint8_t kLow = 1, kMedium = 2, kHigh = 3;

@@ -5,6 +5,7 @@
 #include "model/Ident.h"
 #include "model/Names.h"
 #include "model/Records.h"
+#include "model/RunwayBits.h"
 #include "sample/AirportModel.h"
 #include "sample/PlanGeometry.h"
 
@@ -40,12 +41,11 @@ model::RunwayAreaPart AreaPart(const RunwayPlan& runway, double length) {
 }
 
 uint16_t ApproachWord(const RunwayEndPlan& end) {
-    constexpr uint32_t kEndLights = 0x20, kReil = 0x40, kTouchdown = 0x80;
     uint32_t word = end.approach;
-    if (end.endLights) word |= kEndLights;
-    if (end.reil) word |= kReil;
-    if (end.touchdownLights) word |= kTouchdown;
-    return static_cast<uint16_t>(word | static_cast<uint32_t>(end.strobes) << 8);
+    if (end.endLights) word |= model::kEndLights;
+    if (end.reil) word |= model::kReil;
+    if (end.touchdownLights) word |= model::kTouchdownLights;
+    return static_cast<uint16_t>(word | static_cast<uint32_t>(end.strobes) << model::kStrobesShift);
 }
 
 // A PAPI or VASI 305 m from the threshold; the record measures back from the runway's centre.
@@ -60,7 +60,6 @@ model::VasiPart Vasi(const RunwayPlan& runway, const RunwayEndPlan& end, bool ri
 uint32_t UnshiftedIls(const RunwayEndPlan& end) { return end.ils.ident.empty() ? 0 : model::PackIdent(end.ils.ident); }
 
 model::RunwayRecord RunwayBody(const AirportPlan& plan, const RunwayPlan& runway) {
-    constexpr uint8_t kPrimaryRight = 0x04, kSecondaryRight = 0x20;
     const RunwayEndPlan &primary = runway.ends[0], &secondary = runway.ends[1];
     const model::EncodedPoint at = Encoded(plan, runway.centre);
     model::RunwayRecord body{};
@@ -79,9 +78,10 @@ model::RunwayRecord RunwayBody(const AirportPlan& plan, const RunwayPlan& runway
     body.heading = static_cast<float>(runway.heading);
     body.patternAltitude = static_cast<float>(kPatternAltitude);
     body.markings = runway.markings;
-    body.lights = static_cast<uint8_t>(runway.edgeLights | runway.centreLights << 2 | (runway.redEndLights ? 0x10 : 0));
-    body.pattern = static_cast<uint8_t>((primary.rightPattern ? kPrimaryRight : 0) |
-                                        (secondary.rightPattern ? kSecondaryRight : 0));
+    body.lights = static_cast<uint8_t>(runway.edgeLights | runway.centreLights << model::kCentreLightsShift |
+                                       (runway.redEndLights ? model::kRedLights : 0));
+    body.pattern = static_cast<uint8_t>((primary.rightPattern ? model::kPrimaryRightPattern : 0) |
+                                        (secondary.rightPattern ? model::kSecondaryRightPattern : 0));
     return body;
 }
 
@@ -114,15 +114,14 @@ SceneryObject* MakeRunway(const AirportPlan& plan, const RunwayPlan& runway) {
 
 SceneryObject* MakeStart(const AirportPlan& plan, const RunwayPlan& runway, int end) {
     constexpr double kInward = 30;  // metres from the end of the pavement
-    constexpr uint32_t kRunwayStart = 1, kWaterStart = 2;
     const double heading = EndHeading(runway, end);
     const Local place = runway.centre + Ahead(heading) * (kInward - runway.length / 2);
     const model::EncodedPoint at = Encoded(plan, place);
     const RunwayEndPlan& served = runway.ends[end];
-    const uint32_t type = runway.surface == kWater ? kWaterStart : kRunwayStart;
+    const uint32_t type = runway.surface == kWater ? model::kWaterStart : model::kRunwayStart;
     SceneryObject* object = model::CreateObject(model::kStartLocation, sizeof(model::StartLocationRecord));
     PayloadAs<model::StartLocationRecord>(object) = { served.number,
-                                                      static_cast<uint8_t>(served.designator | type << 4),
+                                                      model::StartNibbles(type, served.designator),
                                                       at.longitude,
                                                       at.latitude,
                                                       Millimetres(plan.elevation),

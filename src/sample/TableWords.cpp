@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "model/Names.h"
 #include "platform/Text.h"
 
 namespace sample {
@@ -54,7 +55,7 @@ constexpr CommWord kCommWords[] = {
 
 constexpr std::string_view kLettered[] = { "N", "E", "NW", "SW", "S", "W", "SE", "NE" };
 constexpr double kLetteredHeadings[] = { 0, 90, 315, 225, 180, 270, 135, 45 };
-constexpr uint8_t kFirstLettered = 37;
+constexpr uint8_t kFirstLettered = model::kFirstLetteredNumber;
 constexpr uint8_t kLastNumber = 36;
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
@@ -85,8 +86,6 @@ bool IsPaved(Surface surface) {
     return surface == kConcrete || surface == kAsphalt || surface == kBitumen || surface == kTarmac ||
            surface == kMacadam || surface == kBrick;
 }
-
-bool IsWater(Surface surface) { return surface == kWater; }
 
 uint16_t CommTypeFromWord(std::string_view word) {
     for (const CommWord& known : kCommWords) {

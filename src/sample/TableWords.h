@@ -12,7 +12,6 @@ namespace sample {
 // is asphalt for a runway of 1200 m or more and dirt for a shorter one.
 Surface SurfaceFromWord(std::string_view word, double runwayLength);
 bool IsPaved(Surface surface);
-bool IsWater(Surface surface);
 
 // Com types of a scenery file: 1 ATIS, 2 MULTICOM, 3 UNICOM, 4 CTAF, 5 ground, 6 tower, 7 clearance, 8 approach,
 // 9 departure, 10 center, 11 FSS, 12 AWOS, 13 ASOS; 0 for one that a simulator has no use for.

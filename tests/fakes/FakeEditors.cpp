@@ -13,6 +13,11 @@ bool Note(const char* name, model::SceneryObject* subject = nullptr) {
     return false;
 }
 
+bool NoteInsert(const char* name) {
+    Note(name);
+    return fakeEditors.insertStored;
+}
+
 }  // namespace
 
 namespace dialogs {
@@ -33,15 +38,15 @@ bool EditNdb(SceneryObject* object) { return Note("ndb", object); }
 bool EditVor(SceneryObject* object) { return Note("vor", object); }
 bool EditComm(SceneryObject* object) { return Note("comm", object); }
 
-bool InsertRunwayDialog() { return Note("insert runway"); }
-bool InsertHelipadDialog() { return Note("insert helipad"); }
-bool InsertTowerDialog() { return Note("insert tower"); }
-bool InsertStartDialog() { return Note("insert start"); }
-bool InsertIlsDialog() { return Note("insert ils"); }
-bool InsertMarkersDialog() { return Note("insert markers"); }
-bool InsertNdbDialog() { return Note("insert ndb"); }
-bool InsertVorDialog() { return Note("insert vor"); }
-bool InsertCommDialog() { return Note("insert comm"); }
+bool InsertRunwayDialog() { return NoteInsert("insert runway"); }
+bool InsertHelipadDialog() { return NoteInsert("insert helipad"); }
+bool InsertTowerDialog() { return NoteInsert("insert tower"); }
+bool InsertStartDialog() { return NoteInsert("insert start"); }
+bool InsertIlsDialog() { return NoteInsert("insert ils"); }
+bool InsertMarkersDialog() { return NoteInsert("insert markers"); }
+bool InsertNdbDialog() { return NoteInsert("insert ndb"); }
+bool InsertVorDialog() { return NoteInsert("insert vor"); }
+bool InsertCommDialog() { return NoteInsert("insert comm"); }
 
 bool RunNewAirport() {
     Note("new airport");

@@ -11,6 +11,7 @@ struct FakeEditors {
     std::vector<std::string> opened;  // "node", "insert runway", "new airport"...
     std::vector<model::SceneryObject*> subjects;
     std::vector<dialogs::ListKind> lists;
+    bool insertStored = false;      // the Insert dialogs are answered with OK, not Cancel
     bool newAirportStored = false;  // "New Airport" is answered with OK, not Cancel
 };
 

@@ -65,9 +65,8 @@ void Text(void* target, const TextRun& run) {
     call.run.text = {};
     call.points = { run.at };
 }
-Pixel Size(void*, const TextRun& run) { return { static_cast<int32_t>(run.text.size()) * run.height / 2, run.height }; }
 
-constexpr CanvasCalls kRecord = { Pen, Brush, Line, Polyline, Polygon, Ellipse, DrawnPath, Clip, Unclip, Text, Size };
+constexpr CanvasCalls kRecord = { Pen, Brush, Line, Polyline, Polygon, Ellipse, DrawnPath, Clip, Unclip, Text };
 
 CallCounts& Counts(void* target) { return *static_cast<CallCounts*>(target); }
 
@@ -87,7 +86,6 @@ constexpr CanvasCalls kCount = {
     [](void* target, const Path&) { ++Counts(target).clips; },
     [](void*) {},
     [](void* target, const TextRun&) { ++Counts(target).texts; },
-    Size,
 };
 
 }  // namespace

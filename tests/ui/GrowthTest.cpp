@@ -27,12 +27,13 @@ protected:
     }
     void PaintNow() const { RedrawWindow(mainWindow, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); }
 
-    // The first rounds fill what is kept for good. Memory comes in pieces: it may grow by a little once.
+    // The first rounds fill what is kept for good. What is in use varies by a few objects, and memory comes in pieces;
+    // what stays from each round is more than that.
     template <class Round>
-    void ExpectNoGrowth(int rounds, Round round) {
-        constexpr int kFirst = 3;
+    void ExpectNoGrowth(int first, int rounds, Round round) {
         constexpr SIZE_T kPieces = 3 << 20;
-        for (int i = 0; i < kFirst && !HasFailure(); ++i) round();
+        constexpr int kFew = 8;
+        for (int i = 0; i < first && !HasFailure(); ++i) round();
         PaintNow();
         const Held before = InUse();
         for (int i = 0; i < rounds && !HasFailure(); ++i) round();
@@ -41,8 +42,8 @@ protected:
         EXPECT_GT(before.objects.gdi, 0);
         EXPECT_GT(before.objects.user, 0);
         EXPECT_GT(before.bytes, 0u);
-        EXPECT_LE(after.objects.gdi, before.objects.gdi) << rounds << " rounds";
-        EXPECT_LE(after.objects.user, before.objects.user) << rounds << " rounds";
+        EXPECT_LE(after.objects.gdi, before.objects.gdi + kFew) << rounds << " rounds";
+        EXPECT_LE(after.objects.user, before.objects.user + kFew) << rounds << " rounds";
         EXPECT_LE(after.bytes, before.bytes + kPieces) << rounds << " rounds";
         printf("%d rounds: GDI %d -> %d, USER %d -> %d, kB %u -> %u\n", rounds, before.objects.gdi, after.objects.gdi,
                before.objects.user, after.objects.user, static_cast<unsigned>(before.bytes / 1024),
@@ -63,7 +64,7 @@ protected:
 };
 
 TEST_F(GrowthTest, WhatIsCountedGrowsWithTheWindows) {
-    Start();
+    ASSERT_NO_FATAL_FAILURE(Start());
     const GuiObjects before = CountGuiObjects(agent);
     PostCommand(mainWindow, IDM_OPTIONS);
     const HWND dialog = DialogOtherThan(nullptr);
@@ -74,7 +75,7 @@ TEST_F(GrowthTest, WhatIsCountedGrowsWithTheWindows) {
 TEST_F(GrowthTest, AirportsThatAreOpenedAndClosed) {
     ASSERT_NO_FATAL_FAILURE(StartWithSample("hub"));
     const std::wstring ident = FindSample("hub").ident;
-    ExpectNoGrowth(Rounds(15, 10000), [&] {
+    ExpectNoGrowth(3, Rounds(15, 10000), [&] {
         Command(IDM_CLOSE);
         PaintNow();
         ASSERT_EQ(Title().find(ident), std::wstring::npos);
@@ -101,7 +102,7 @@ TEST_F(GrowthTest, DialogsOfTheMenusThatAreOpenedAndClosed) {
         { IDM_LIST_COMMS },   { IDM_LIST_NAVAIDS },         { IDM_FAULT_FINDER },       { IDM_AIRCRAFT_EDITOR },
         { IDM_OPTIONS },      { IDM_KEYBOARD, IDOK },       { IDM_ABOUT, IDOK },
     };
-    ExpectNoGrowth(Rounds(2, 430), [&] {
+    ExpectNoGrowth(3, Rounds(5, 100), [&] {
         for (const auto& window : kWindows) ASSERT_NO_FATAL_FAILURE(OpenAndClose(window.command, window.button));
     });
 }
@@ -114,7 +115,7 @@ TEST_F(GrowthTest, DialogsOfTheMapThatAreOpenedAndClosed) {
     PostKey(mainWindow, VK_ESCAPE);
     SettlePosted(agent);
     Use(IDT_PARKING, Beside(0, 500));
-    ExpectNoGrowth(Rounds(2, 2000), [&] {
+    ExpectNoGrowth(4, Rounds(10, 500), [&] {
         ASSERT_NO_FATAL_FAILURE(OpenAndCancel(strip, kEdgeLights));
         ASSERT_NO_FATAL_FAILURE(OpenAndCancel(link, kLink));
         ASSERT_NO_FATAL_FAILURE(OpenAndCancel(Beside(0, 200), kNode));

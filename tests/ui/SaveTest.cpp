@@ -62,6 +62,29 @@ protected:
         PressButton(box.window, button);
         ASSERT_TRUE(WaitUntilGone(box.window));
     }
+    // The dialog of a new airport comes up, and no other airport is left.
+    void ExpectNewAirportDialog(const std::wstring& ident) {
+        const HWND dialog = Dialog(L"Airport Properties");
+        ASSERT_NE(dialog, nullptr);
+        CloseDialog(dialog, IDCANCEL);
+        EXPECT_TRUE(WaitUntil([&] { return Title().find(ident) == std::wstring::npos; })) << Utf8(Title());
+        EXPECT_EQ(CloseProgram(), 0u) << "nothing is left to be saved";
+    }
+    void ExpectExit() {
+        DWORD exitCode = 1;
+        EXPECT_TRUE(WaitForExit(program, &exitCode));
+        EXPECT_EQ(exitCode, 0u);
+    }
+    // The program, the airport and that it was changed are as before the question.
+    void ExpectKept(const std::wstring& title, const Picture& map) {
+        SettlePosted(agent);
+        EXPECT_TRUE(IsWindowEnabled(mainWindow)) << "a dialog is open";
+        EXPECT_EQ(Title(), title);
+        EXPECT_FALSE(IsGreyed(IDM_UNDO));
+        EXPECT_EQ(GrabMap(mainWindow).pixels, map.pixels);
+        PostCommand(mainWindow, IDM_EXIT);
+        AnswerPrompt(IDCANCEL);
+    }
     // Opens the file once more in a new program and returns its picture of the airport.
     Picture PictureOf(const std::wstring& path) {
         EndProgram(&program);
@@ -151,6 +174,37 @@ TEST_F(SaveTest, YesSavesAndThenCloses) {
     AnswerPrompt(IDYES);
     EXPECT_TRUE(WaitUntil([&] { return Title() == L"Tarvo        "; })) << Utf8(Title());
     EXPECT_NE(ReadBytes(In(L"TV2_own.bgl")), before);
+}
+
+TEST_F(SaveTest, YesSavesAndGoesOnNoGoesOnAndCancelKeepsTheAirport) {
+    struct Case {
+        const char* name;
+        UINT command;
+        int button;
+    };
+    const Case cases[] = {
+        { "new, yes", IDM_NEW, IDYES },   { "new, no", IDM_NEW, IDNO },   { "new, cancel", IDM_NEW, IDCANCEL },
+        { "exit, yes", IDM_EXIT, IDYES }, { "exit, no", IDM_EXIT, IDNO }, { "exit, cancel", IDM_EXIT, IDCANCEL },
+    };
+    const std::wstring ident = FindSample("hub").ident;
+    for (const Case& row : cases) {
+        SCOPED_TRACE(row.name);
+        ASSERT_NO_FATAL_FAILURE(StartModified());
+        const std::string before = ReadBytes(In(L"TV2_own.bgl"));
+        const std::wstring title = Title();
+        const Picture map = GrabMap(mainWindow);
+        PostCommand(mainWindow, row.command);
+        ASSERT_NO_FATAL_FAILURE(AnswerPrompt(row.button));
+        if (row.button == IDCANCEL)
+            ExpectKept(title, map);
+        else if (row.command == IDM_NEW)
+            ExpectNewAirportDialog(ident);
+        else
+            ExpectExit();
+        EXPECT_EQ(ReadBytes(In(L"TV2_own.bgl")) != before, row.button == IDYES);
+        DetachAgent(&agent);
+        EndProgram(&program);
+    }
 }
 
 TEST_F(SaveTest, YesWithoutAFileNameKeepsTheAirportWhenTheDialogIsCancelled) {

@@ -315,4 +315,36 @@ TEST_F(ToolbarTest, TheRotationStandsOnTheToolbar) {
     EXPECT_TRUE(WaitUntil([&] { return RotationText(mainWindow) == L"355.0*"; })) << Utf8(RotationText(mainWindow));
 }
 
+// As Windows says it when the window comes to a monitor of that resolution, with the place that it proposes.
+void MoveToResolution(HWND mainWindow, int dpi, const RECT& place) {
+    constexpr UINT kDpiChanged = 0x02E0;  // WM_DPICHANGED of Windows 8.1
+    RemoteMemory memory(mainWindow, sizeof place);
+    memory.Put(&place, sizeof place);
+    SendMessageW(mainWindow, kDpiChanged, static_cast<WPARAM>(MAKELONG(dpi, dpi)),
+                 reinterpret_cast<LPARAM>(memory.address));
+}
+
+TEST_F(ToolbarTest, AMonitorOfAnotherResolutionScalesToolbarsAndStatusBarAndTheWindowGoesWhereItIsProposed) {
+    StartWithSample("regional");
+    const auto buttonWidth = [&] { return LOWORD(SendMessageW(ToolbarOf(mainWindow), TB_GETBUTTONSIZE, 0, 0)); };
+    const auto barHeight = [&] {
+        RECT bar{};
+        GetWindowRect(StatusBarOf(mainWindow), &bar);
+        return bar.bottom - bar.top;
+    };
+    const int width = buttonWidth();
+    const LONG height = barHeight();
+    const RECT proposed = { 20, 30, 1220, 930 }, old = { 10, 10, 1010, 760 };
+    MoveToResolution(mainWindow, 192, proposed);
+    EXPECT_TRUE(WaitUntil([&] { return buttonWidth() >= 2 * width - 4; })) << buttonWidth() << " after " << width;
+    EXPECT_GT(barHeight(), height * 3 / 2);
+    RECT now{};
+    GetWindowRect(mainWindow, &now);
+    EXPECT_TRUE(EqualRect(&now, &proposed));
+    MoveToResolution(mainWindow, 96, old);
+    EXPECT_TRUE(WaitUntil([&] { return buttonWidth() == width && barHeight() == height; })) << buttonWidth();
+    EXPECT_TRUE(IsWindowEnabled(mainWindow));
+    EXPECT_EQ(CloseProgram(), 0u);
+}
+
 }  // namespace ui

@@ -1,13 +1,11 @@
 // UiAgentDll.cpp - agent.dll: answers from inside the program under test. The program needs no change for it.
 #include <windows.h>
 
-#include <algorithm>
-#include <cstdint>
 #include <cstdio>
 #include <cwchar>
 #include <shlobj.h>
 
-#include "fakes/GuiObjects.h"
+#include "fakes/GuiObjectsWin.h"
 #include "UiAgent.h"
 
 namespace ui {

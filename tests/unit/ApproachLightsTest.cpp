@@ -222,14 +222,14 @@ TEST_F(ApproachLightsTest, CalvertTwoHasRedSideRowsTo270Metres) {
 }
 
 TEST_F(ApproachLightsTest, TheRecordsNumberOfStrobesGoesFirst) {
-    Show(kAlsf2 | 3 << kApproachStrobesShift);
+    Show(kAlsf2 | 3 << model::kStrobesShift);
     ExpectFlashes({ 2200, 2300, 2400 });
-    Show(kMals | 4 << kApproachStrobesShift);
+    Show(kMals | 4 << model::kStrobesShift);
     ExpectFlashes({ 800, 1000, 1200, 1400 });
 }
 
 TEST_F(ApproachLightsTest, EndStrobesStand40FeetBesideTheRunway) {
-    Show(kEndStrobes);
+    Show(model::kReil);
     const auto lamps = Lit(Ink::LightFlash);
     ASSERT_EQ(lamps.size(), 2u);
     for (const double side : { -1.0, 1.0 }) EXPECT_EQ(CountAt(lamps, side * FeetOf(115), 0), 1);

@@ -98,17 +98,6 @@ TEST(CanvasSvg, TextIsEscapedPlacedAndTurned) {
     EXPECT_TRUE(Holds(svg, "fill=\"#ff0000\""));
 }
 
-TEST(CanvasSvg, TextIsMeasuredInCharactersNotBytes) {
-    SvgDocument(10, 10, [](Canvas* canvas) {
-        TextRun run;
-        run.text = "\xC3\xA9\xC3\xA9";
-        TextRun plain;
-        plain.text = "ee";
-        EXPECT_EQ(TextSize(canvas, run).x, TextSize(canvas, plain).x);
-        EXPECT_EQ(TextSize(canvas, run).y, run.height);
-    });
-}
-
 TEST(Canvas, SelectingThePenOrBrushInForceDoesNothing) {
     RecordingCanvas log;
     SetPen(&log.canvas, 1, 5);

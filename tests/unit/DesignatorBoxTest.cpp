@@ -82,34 +82,17 @@ TEST_F(DesignatorBox, RunwayLinksBecomeTaxiwaysAndParkingConnectorsStay) {
     SceneryObject* connector = build::Link(build::Node(), build::Spot(), model::kParkingLink);
     for (SceneryObject* object : { onRunway, connector }) object->flags |= model::kSelected;
     const auto before = Bytes(connector);
-    EXPECT_TRUE(DesignateSelectedLinks(alpha));
+    EXPECT_EQ(TypeDesignator("A", nullptr), alpha);
     EXPECT_EQ(DesignatorOf(onRunway), alpha);
     EXPECT_EQ(model::LinkTypeOf(As<model::TaxiLinkPayload>(onRunway)), model::kTaxiwayLink);
     EXPECT_EQ(Bytes(connector), before);
-    EXPECT_TRUE(DesignateSelectedLinks(runway));
-    EXPECT_EQ(model::LinkTypeOf(As<model::TaxiLinkPayload>(link)), model::kRunwayLink);
-    EXPECT_EQ(+As<model::TaxiLinkPayload>(link).width, 45);
-    EXPECT_FALSE(DesignateSelectedLinks(runway));
-    EXPECT_EQ(Actions(), 2);
+    EXPECT_EQ(Actions(), 1);
 }
 
 TEST_F(DesignatorBox, AnAirportHoldsAtMost256Designators) {
     while (model::CountKind(model::kTaxiDesignator) < 256) build::Designator("Q");
     EXPECT_EQ(TypeDesignator("NEW", nullptr), nullptr);
     EXPECT_EQ(LastMessage(), "ERROR: An airport can have at most 256 taxiway designators");
-}
-
-TEST_F(DesignatorBox, NoDesignatorGivesTheSelectedLinksTheBlankOne) {
-    EXPECT_TRUE(DesignateSelectedLinks(alpha));
-    EXPECT_TRUE(DesignateSelectedLinks(nullptr));
-    SceneryObject* blank = BlankDesignator();
-    ASSERT_NE(blank, nullptr);
-    EXPECT_EQ(DesignatorOf(link), blank);
-    EXPECT_EQ(Actions(), 2);
-    EXPECT_FALSE(DesignateSelectedLinks(nullptr));
-    model::Undo();
-    EXPECT_EQ(DesignatorOf(link), alpha);
-    EXPECT_EQ(BlankDesignator(), nullptr);
 }
 
 }  // namespace

@@ -54,6 +54,33 @@ TEST_F(EditCommandsTest, EveryInsertCommandOpensItsDialog) {
     }
 }
 
+TEST_F(EditCommandsTest, WhatIsInsertedIsShown) {
+    OpenAirport();
+    map::layers = {};
+    fakeEditors.insertStored = true;
+    app::RunCommand(IDM_INSERT_START);
+    EXPECT_TRUE(map::layers.starts);
+    EXPECT_FALSE(map::layers.navaids);
+    for (const int command : { IDM_INSERT_ILS, IDM_INSERT_MARKER_BEACON, IDM_INSERT_NDB, IDM_INSERT_VOR }) {
+        map::layers.navaids = false;
+        app::RunCommand(command);
+        EXPECT_TRUE(map::layers.navaids) << command;
+    }
+    map::layers = {};
+}
+
+TEST_F(EditCommandsTest, ACancelledInsertLeavesTheLayersAsTheyWere) {
+    OpenAirport();
+    for (const bool shown : { false, true }) {
+        map::layers.starts = map::layers.navaids = shown;
+        app::RunCommand(IDM_INSERT_START);
+        app::RunCommand(IDM_INSERT_VOR);
+        EXPECT_EQ(map::layers.starts, shown);
+        EXPECT_EQ(map::layers.navaids, shown);
+    }
+    map::layers = {};
+}
+
 TEST_F(EditCommandsTest, EveryListCommandOpensItsList) {
     OpenAirport();
     const std::pair<int, dialogs::ListKind> rows[] = {

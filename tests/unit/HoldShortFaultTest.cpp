@@ -18,7 +18,7 @@ model::RunwayPayload& PayloadOf(model::SceneryObject* runway) { return model::Pa
 
 }  // namespace
 
-TEST_F(HoldShortFault, TheLimitIs225Feet) { EXPECT_DOUBLE_EQ(faults::kHoldShortLimit, 225 / 3.280839895); }
+TEST_F(HoldShortFault, TheLimitIs225Feet) { EXPECT_DOUBLE_EQ(model::kHoldShortLimit, 225 / 3.280839895); }
 
 TEST_F(HoldShortFault, NodeUpTo225FeetFromASideOfTheRunwayPasses) {
     HeadedRunway(9, 90);  // 1000 m to either end, 22.5 m to either side; positions step by 4 cm

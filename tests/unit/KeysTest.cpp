@@ -51,6 +51,8 @@ TEST(Keys, HomeAndArrowsMoveTheMapWhateverElseIsHeld) {
     }
 }
 
+TEST(Keys, F1OpensTheManual) { EXPECT_EQ(CommandForKey(112, kPlain), IDM_HELP); }
+
 TEST(Keys, PlusAndMinusZoomOnBothKeyboards) {
     EXPECT_EQ(CommandForKey(107, kPlain), IDT_ZOOM_IN);
     EXPECT_EQ(CommandForKey(187, kPlain), IDT_ZOOM_IN);

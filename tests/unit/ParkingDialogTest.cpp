@@ -174,6 +174,7 @@ TEST_F(ParkingDialog, ASpotHoldsAtMost255Codes) {
 TEST_F(ParkingDialog, CodesThatSceneryFilesCannotHoldAreRefused) {
     SceneryObject* spot = Gate();
     EXPECT_FALSE(Edit(spot, [](ParkingFields& entered) { entered.codes = "\xE4\xB8\xAD"; }));
+    EXPECT_EQ(LastMessage(), "ERROR: The Parking Codes box contains a character that scenery files cannot hold");
     EXPECT_EQ(bad.field, Field::Codes);
     EXPECT_TRUE(Edit(spot, [](ParkingFields& entered) { entered.codes = "\xC3\x85\xC3\x85\xC3\x85\xC3\x85"; }));
     EXPECT_EQ(spot->payloadSize, 24u);

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "app/PrinterWin.h"
-#include "fakes/GuiObjects.h"
+#include "fakes/GuiObjectsWin.h"
 #include "fakes/MapFixture.h"
 #include "platform/CanvasGdiWin.h"
 

@@ -79,6 +79,21 @@ TEST(Text, CharactersAreCountedAndCutWhole) {
     EXPECT_EQ(platform::FirstCharacters("a\xC3\xBC", 9), "a\xC3\xBC");
 }
 
+TEST(Text, TrimmedTakesTheBlanksOfBothEnds) {
+    EXPECT_EQ(platform::Trimmed(" \ta b\t "), "a b");
+    EXPECT_EQ(platform::Trimmed(" \t"), "");
+    EXPECT_EQ(platform::Trimmed(""), "");
+    EXPECT_EQ(platform::Trimmed("a"), "a");
+    EXPECT_EQ(platform::Trimmed("\r\n a\r", "\r\n"), " a");
+}
+
+TEST(Text, EndsWithNoCaseComparesTheEnd) {
+    EXPECT_TRUE(platform::EndsWithNoCase("KSEA.BGL", ".bgl"));
+    EXPECT_TRUE(platform::EndsWithNoCase("a", ""));
+    EXPECT_FALSE(platform::EndsWithNoCase("bgl", ".bgl"));
+    EXPECT_FALSE(platform::EndsWithNoCase("a.bgl.txt", ".bgl"));
+}
+
 TEST(Text, EqualNoCaseFoldsAsciiAlone) {
     EXPECT_TRUE(EqualNoCase("TV2_", "tv2_"));
     EXPECT_TRUE(EqualNoCase("", ""));

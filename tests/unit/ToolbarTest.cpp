@@ -192,7 +192,6 @@ constexpr platform::CanvasCalls kMeasuring = {
     .pushClip = nullptr,
     .popClip = nullptr,
     .text = nullptr,
-    .textSize = nullptr,
 };
 
 TEST(Toolbar, PicturesFillTheirSheetAndStayOnIt) {

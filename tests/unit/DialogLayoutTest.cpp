@@ -1,4 +1,5 @@
-// The dialogs as the resource scripts draw them: nothing sticks out or overlaps, and all can be reached by the keyboard.
+// DialogLayoutTest.cpp - the dialogs as the resource scripts draw them: nothing sticks out or overlaps, and all can be
+// reached by the keyboard. Whether the texts fit is measured in tests/ui/DialogTextTest.cpp.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -21,12 +22,12 @@ struct Box {
 };
 
 struct Control {
-    std::string kind, text, style;
+    std::string kind, text, id, style;
     Box box;
 };
 
 struct Template {
-    std::string name;
+    std::string name, style;
     Box box;
     std::vector<Control> controls;
 };
@@ -40,23 +41,24 @@ Box BoxOf(const std::smatch& match, size_t first) {
 bool ReadControl(const std::string& line, Control* control) {
     static const std::string kStart = R"re(^\s*([A-Z]+)\s+(?:"((?:[^"]|"")*)",\s*)?)re";
     static const std::string kBox = R"re((\d+),\s*(\d+),\s*(\d+),\s*(\d+))re";
-    static const std::regex common(kStart + R"re([^",]+,\s*)re" + kBox + "(.*)$");
-    static const std::regex general(kStart + R"re([^",]+,\s*([^,]+),\s*([^,]+),\s*)re" + kBox);
+    static const std::regex common(kStart + R"re(([^",]+),\s*)re" + kBox + "(.*)$");
+    static const std::regex general(kStart + R"re(([^",]+),\s*([^,]+),\s*([^,]+),\s*)re" + kBox);
     std::smatch match;
     if (std::regex_search(line, match, common)) {
-        *control = { match[1], match[2], match[7], BoxOf(match, 3) };
+        *control = { match[1], match[2], match[3], match[8], BoxOf(match, 4) };
         if (control->kind == "COMBOBOX") control->box.height = 12;  // the script gives that of the open list
         return true;
     }
     if (!std::regex_search(line, match, general)) return false;
-    *control = { match[3], match[2], match[4], BoxOf(match, 5) };
+    *control = { match[4], match[2], match[3], match[5], BoxOf(match, 6) };
     return true;
 }
 
 Template ReadTemplate(const std::smatch& head, std::istream& script) {
-    Template dialog{ head[1], BoxOf(head, 2), {} };
+    Template dialog{ head[1], "", BoxOf(head, 2), {} };
     std::string line;
     while (std::getline(script, line) && !line.starts_with("BEGIN")) {
+        if (line.starts_with("STYLE")) dialog.style = line;
     }
     while (std::getline(script, line) && !line.starts_with("END")) {
         Control control;
@@ -82,7 +84,7 @@ std::vector<Template> AllTemplates() {
     return found;
 }
 
-class DialogTemplates : public testing::Test {
+class DialogLayout : public testing::Test {
 protected:
     std::vector<Template> dialogs = AllTemplates();
     void SetUp() override { ASSERT_GT(dialogs.size(), 30u) << "the resource scripts were not read"; }
@@ -100,7 +102,7 @@ bool MayLieUnder(const Control& control) {
            control.style.find("NOT WS_VISIBLE") != std::string::npos;
 }
 
-TEST_F(DialogTemplates, EveryControlLiesWithinItsDialog) {
+TEST_F(DialogLayout, EveryControlLiesWithinItsDialog) {
     for (const Template& dialog : dialogs) {
         for (const Control& control : dialog.controls) {
             EXPECT_LE(control.box.left + control.box.width, dialog.box.width) << dialog.name << ' ' << control.text;
@@ -109,7 +111,7 @@ TEST_F(DialogTemplates, EveryControlLiesWithinItsDialog) {
     }
 }
 
-TEST_F(DialogTemplates, NoControlsOverlap) {
+TEST_F(DialogLayout, NoControlsOverlap) {
     for (const Template& dialog : dialogs) {
         for (size_t i = 0; i < dialog.controls.size(); ++i) {
             for (size_t j = 0; j < i; ++j) {
@@ -130,7 +132,7 @@ const std::set<std::pair<std::string, char>> kGivenTwice = {
     { "IDD_PARKING", 'p' },
 };
 
-TEST_F(DialogTemplates, NoTwoControlsHaveOneMnemonic) {
+TEST_F(DialogLayout, NoTwoControlsHaveOneMnemonic) {
     static const std::regex mnemonic("&([^&])");
     for (const Template& dialog : dialogs) {
         std::map<char, std::string> taken;
@@ -145,8 +147,18 @@ TEST_F(DialogTemplates, NoTwoControlsHaveOneMnemonic) {
     }
 }
 
+// A page of a tab control has the buttons of its dialog, and what only shows progress is answered by nothing.
+TEST_F(DialogLayout, EveryDialogHasADefaultButtonAndIsLeftByEsc) {
+    for (const Template& dialog : dialogs) {
+        if (dialog.style.find("WS_SYSMENU") == std::string::npos) continue;
+        const auto count = [&](auto is) { return std::count_if(dialog.controls.begin(), dialog.controls.end(), is); };
+        EXPECT_EQ(count([](const Control& control) { return control.kind == "DEFPUSHBUTTON"; }), 1) << dialog.name;
+        EXPECT_EQ(count([](const Control& control) { return control.id == "IDCANCEL"; }), 1) << dialog.name;
+    }
+}
+
 // What a screen reader speaks for a field is the text before it. A designator is a pair of boxes with one label.
-TEST_F(DialogTemplates, EveryFieldComesAfterItsLabel) {
+TEST_F(DialogLayout, EveryFieldComesAfterItsLabel) {
     const std::set<std::string> labels = { "LTEXT", "RTEXT", "CTEXT", "AUTOCHECKBOX", "COMBOBOX" };
     for (const Template& dialog : dialogs) {
         std::string before;

@@ -1,4 +1,5 @@
-// DialogTemplateTest.cpp - every dialog template that the program carries: whether its texts fit, and its buttons.
+// DialogTextTest.cpp - whether the texts of the dialogs that the program carries fit their controls. What holds for the
+// resource scripts themselves stands in tests/unit/DialogLayoutTest.cpp.
 #include "DialogTemplates.h"
 
 #include <string>
@@ -58,7 +59,7 @@ void ExpectTextFits(const DialogTemplate& dialog, const TemplateControl& control
 
 }  // namespace
 
-class DialogTemplateTest : public ::testing::Test {
+class DialogTextTest : public ::testing::Test {
 protected:
     std::vector<DialogTemplate> dialogs = ReadDialogTemplates(std::wstring(kProgramFolder) + L"\\Tarvo.exe");
 
@@ -69,7 +70,7 @@ protected:
     }
 };
 
-TEST_F(DialogTemplateTest, EveryTextFitsItsControlInBothUnitsAtEveryResolution) {
+TEST_F(DialogTextTest, EveryTextFitsItsControlInBothUnitsAtEveryResolution) {
     int measured = 0;
     for (const DialogTemplate& dialog : dialogs) {
         ASSERT_EQ(Utf8(dialog.font), "MS Shell Dlg") << "dialog " << dialog.id;
@@ -83,20 +84,6 @@ TEST_F(DialogTemplateTest, EveryTextFitsItsControlInBothUnitsAtEveryResolution) 
         }
     }
     EXPECT_GT(measured, 300);
-}
-
-TEST_F(DialogTemplateTest, EveryDialogHasADefaultButtonAndIsLeftByEsc) {
-    for (const DialogTemplate& dialog : dialogs) {
-        if (dialog.style & DS_CONTROL) continue;
-        if (!(dialog.style & WS_SYSMENU)) continue;  // it shows progress and is answered by nothing
-        int defaults = 0, cancels = 0;
-        for (const TemplateControl& control : dialog.controls) {
-            defaults += control.ButtonType() == BS_DEFPUSHBUTTON;
-            cancels += control.IsKind(L"Button") && control.id == IDCANCEL;
-        }
-        EXPECT_EQ(defaults, 1) << "dialog " << dialog.id << " \"" << Utf8(dialog.title) << "\"";
-        EXPECT_EQ(cancels, 1) << "dialog " << dialog.id << " \"" << Utf8(dialog.title) << "\"";
-    }
 }
 
 }  // namespace ui

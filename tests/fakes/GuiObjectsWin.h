@@ -1,4 +1,4 @@
-// GuiObjects.h - how many objects of the window system this process has.
+// GuiObjectsWin.h - how many objects of the window system this process has.
 //
 // Some systems do not count: GetGuiResources gives 0. There the process's own table of GDI objects is counted, and
 // every handle is tried.
@@ -21,14 +21,25 @@ struct GdiTableRow {
 static_assert(sizeof(GdiTableRow) == 24);
 
 inline int CountGdiTable() {
-    constexpr size_t kProcessBlock = 0x60, kTable = 0xF8;  // in the thread's block, and in the process's
-    const auto* block = reinterpret_cast<const char*>(__readgsqword(kProcessBlock));
-    const auto* table = *reinterpret_cast<const GdiTableRow* const*>(block + kTable);
+    using ProcessBlockCall = void*(WINAPI*)();
+    constexpr size_t kTable = 0xF8;  // in the process's block
+    const auto call = reinterpret_cast<ProcessBlockCall>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "RtlGetCurrentPeb")));
+    if (!call) return 0;
+    const auto* table = *reinterpret_cast<const GdiTableRow* const*>(static_cast<const char*>(call()) + kTable);
     MEMORY_BASIC_INFORMATION memory{};
     if (!table || !VirtualQuery(table, &memory, sizeof memory)) return 0;
     int count = 0;
     for (size_t i = 0; i < memory.RegionSize / sizeof *table; ++i) count += table[i].type != 0;
     return count;
+}
+
+// The system keeps device contexts that were given back, up to some number. All of those are made, so that they do not
+// look like growth.
+inline void FillContextCache() {
+    HDC contexts[80];
+    for (HDC& dc : contexts) dc = GetDC(nullptr);
+    for (const HDC dc : contexts) ReleaseDC(nullptr, dc);
 }
 
 inline int CountUserHandles() {
@@ -47,8 +58,9 @@ inline int CountUserHandles() {
 }
 
 inline int GdiObjects() {
-    const DWORD told = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
-    return told ? static_cast<int>(told) : CountGdiTable();
+    if (const DWORD told = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS)) return static_cast<int>(told);
+    FillContextCache();
+    return CountGdiTable();
 }
 
 // Windows, menus, icons and cursors; where handles are tried, the windows of other processes too.

@@ -1,4 +1,4 @@
-// HoldShort.h - the painted holding positions across taxiways.
+// HoldShortMarkings.h - the painted holding positions across taxiways.
 #pragma once
 
 #include "map/Painter.h"
