@@ -52,12 +52,13 @@ void Change(std::vector<std::string>* lines, const std::string& section, const s
 
 }  // namespace
 
-void SetFakeProfile(const std::string& file, const std::string& section, const std::string& key,
+bool SetFakeProfile(const std::string& file, const std::string& section, const std::string& key,
                     const std::string& value) {
     std::vector<std::string> lines = LinesOf(file);
     Change(&lines, section, key, value);
     std::ofstream stream(PathOf(file), std::ios::binary | std::ios::trunc);
     for (const std::string& line : lines) stream << line << "\n";
+    return static_cast<bool>(stream.flush());
 }
 
 namespace platform {
@@ -79,8 +80,7 @@ bool WriteProfile(const std::string& file, const std::string& section, const std
                   const std::string& value) {
     if (fakeProfiles.writesLeft == 0) return false;
     if (fakeProfiles.writesLeft > 0) --fakeProfiles.writesLeft;
-    SetFakeProfile(file, section, key, value);
-    return true;
+    return SetFakeProfile(file, section, key, value);
 }
 
 std::string Utf8FromSystemText(std::string_view text) { return Utf8FromWindows1252(text); }

@@ -10,5 +10,6 @@ struct FakeProfiles {
 
 extern FakeProfiles fakeProfiles;
 
-void SetFakeProfile(const std::string& file, const std::string& section, const std::string& key,
+// False when the disk is full: the file is then cut.
+bool SetFakeProfile(const std::string& file, const std::string& section, const std::string& key,
                     const std::string& value);

@@ -285,7 +285,7 @@ TEST_F(SessionTest, AFailingBackupShowsInTheStatusBarOnly) {
     RemoveDirectoryW(kBackup);
     TickBackup();
     EXPECT_TRUE(IsThere(kBackup));
-    EXPECT_EQ(StatusText(mainWindow, kNoticePart), L"");
+    EXPECT_TRUE(WaitForNotice(L"Click to place a node")) << "the hint of the tool in use is back";
 }
 
 TEST_F(SessionTest, AnUnchangedAirportIsNotBackedUpAndTheEndRemovesTheBackup) {
