@@ -63,7 +63,7 @@ double WithinScales(double scale) {
 
 int32_t Whole(double value, int32_t most) {
     if (!(value > 0)) return 0;
-    return static_cast<int32_t>(std::lround(std::min(value, double(most))));
+    return static_cast<int32_t>(std::llround(std::min(value, double(most))));
 }
 
 // The view's extent in the middle of the margins, as far as they and the printer reach.
@@ -157,7 +157,7 @@ PrintPage PlanPage(const PrintSettings& settings, const PrintDevice& device) {
     page.pixelsPerMetre = (perUnit.width + perUnit.height) / 2 / settings.printScale * GroundUnitsPerMetre();
     page.penWidth = std::max(1, Whole(page.pixelsPerMetre * kPenOnGround, kWidestPen));
     page.textScale = device.perInchY / kScreenPixelsPerInch;
-    page.titleHeight = -std::max(1, static_cast<int>(std::lround(kTitlePoints * device.perInchY / kPointsPerInch)));
+    page.titleHeight = -std::max(1, static_cast<int>(std::llround(kTitlePoints * device.perInchY / kPointsPerInch)));
     return page;
 }
 
@@ -188,7 +188,7 @@ std::string ScaleLabel(const Paper& paper) {
 
 std::string ScaleText(const PrintSettings& settings) {
     char text[16];
-    std::snprintf(text, sizeof text, "%u", static_cast<unsigned>(std::lround(WithinScales(settings.printScale))));
+    std::snprintf(text, sizeof text, "%u", static_cast<unsigned>(std::llround(WithinScales(settings.printScale))));
     return text;
 }
 

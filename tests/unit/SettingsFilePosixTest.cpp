@@ -75,6 +75,8 @@ TEST(SettingsFilePosix, WhatCouldNotBeReadAtTheStartIsNotReplacedByDefaults) {
     app::state.programFolder = disk.program;
     const std::string text = "[General]\nNextUpdateNotice=9999\nMetric=1\n";
     disk.PutCache("Tarvo2.ini", text);
+    app::LoadProgramFiles();  // the sanitizer opens files itself when it meets a type for the first time
+    app::settings = {};
     {
         const NoFileOpens locked;
         app::LoadProgramFiles();
