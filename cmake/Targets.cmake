@@ -25,6 +25,12 @@ function(tarvo_sanitize target)
     endif()
 endfunction()
 
+# tarvo_test_options(target) - beside tarvo_options: a test runs once for each time it is compiled, and optimising
+# what GoogleTest's macros become takes longer than running it.
+function(tarvo_test_options target)
+    target_compile_options(${target} PRIVATE -O0)
+endfunction()
+
 # Debian ships GoogleTest as source, so that it can be built by the compiler and with the options of the tests.
 macro(tarvo_need_googletest)
     if(NOT TARGET gtest)

@@ -30,11 +30,6 @@ PictureKind PngKind(int times) {
     return { PictureFormat::Png, times, label, kPng };
 }
 
-bool EndsWith(const std::string& path, std::string_view extension) {
-    return path.size() >= extension.size() &&
-           platform::EqualNoCase(std::string_view(path).substr(path.size() - extension.size()), extension);
-}
-
 bool MayReplace(const std::string& path) {
     const std::string text = path + " already exists.\nDo you want to replace it?";
     return platform::ShowMessage(text, platform::Buttons::YesNo, platform::Icon::Exclamation) == platform::Answer::Yes;
@@ -76,9 +71,10 @@ std::vector<PictureKind> PictureKinds() {
 PictureTarget TargetOf(const PictureQuestion& question, const PictureAnswer& answer) {
     const PictureKind& kind = question.kinds[std::min(answer.kind, question.kinds.size() - 1)];
     PictureTarget target = { answer.path, kind.format, kind.times, false };
-    if (EndsWith(answer.path, kind.extension)) return target;
-    const auto other = std::find_if(question.kinds.begin(), question.kinds.end(),
-                                    [&](const PictureKind& k) { return EndsWith(answer.path, k.extension); });
+    if (platform::EndsWithNoCase(answer.path, kind.extension)) return target;
+    const auto other = std::find_if(question.kinds.begin(), question.kinds.end(), [&](const PictureKind& k) {
+        return platform::EndsWithNoCase(answer.path, k.extension);
+    });
     if (other == question.kinds.end()) return { answer.path + kind.extension, kind.format, kind.times, true };
     target.format = other->format;
     target.times = other->times;

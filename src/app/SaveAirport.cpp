@@ -51,7 +51,8 @@ bool SaveAirportAs() {
     const SaveQuestion question = { FirstSaveFolder(), "TV2_" + model::state.icao + ".bgl" };
     std::string path;
     if (!AskSavePath(question, &path)) return false;
-    // A stock file holds hundreds of airports, or all navaids of a region; and what is read from a file of such a name is taken for stock.
+    // A stock file holds hundreds of airports, or all navaids of a region; and what is read from a file of such a name
+    // is taken for stock.
     if (bgl::IsStockFileName(path) || bgl::IsStockSceneryPath(path, state.simulatorFolder)) {
         platform::ShowMessage(
             "ERROR: The name of a stock scenery file cannot be used.\nPlease save the airport under another name.",

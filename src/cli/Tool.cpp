@@ -47,9 +47,9 @@ constexpr Option kPictureOptions[] = {
     { "--night", nullptr, "Night colours, with the lights on." },
     { "--labels", "KIND", "Parking labels: types or codes. Without this option there are none." },
     { "--layers", "LIST",
-      "What is drawn over the ground, separated by commas: network (nodes, links, parking), starts, navaids (those "
-      "that "
-      "the file holds), holdshort (the limits of hold-short nodes), grid. Without this option network,grid." },
+      "What is drawn over the ground, separated by commas: network (nodes, links, parking), starts, "
+      "navaids (those that the file holds), holdshort (the limits of hold-short nodes), grid. Without this option "
+      "network,grid." },
     kHelpOption,
 };
 

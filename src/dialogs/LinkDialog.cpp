@@ -11,6 +11,7 @@
 #include "dialogs/Choices.h"
 #include "dialogs/DialogHost.h"
 #include "dialogs/NumberField.h"
+#include "map/LinkTemplate.h"
 #include "model/ObjectList.h"
 #include "model/Positions.h"
 #include "model/Records.h"
@@ -70,14 +71,6 @@ struct LinkChange {
     bool edges = false, lights = false, centreLine = false, centreLights = false;
 };
 
-void SetType(TaxiLinkPayload* link, uint32_t type) {
-    const uint32_t old = model::LinkTypeOf(*link);
-    if (type == old) return;
-    SetBits(link, 0, model::kLinkTypeMask, type);
-    if (type == model::kApronRouteLink) link->flagsWord &= ~model::kLinkDrawFlags;
-    if (old == model::kApronRouteLink) link->flagsWord |= model::kLinkDrawFlags;
-}
-
 // The couplings for links that do not end at a spot.
 void Couple(const TaxiLinkPayload& link, LinkChange* change, Edits* edits) {
     if (!change->type && change->designator) {
@@ -103,12 +96,12 @@ void Couple(const TaxiLinkPayload& link, LinkChange* change, Edits* edits) {
 void ApplyTypeAndName(const LinkChange& change, SceneryObject* draft, Edits* edits) {
     auto& link = model::PayloadAs<TaxiLinkPayload>(draft);
     if (IsParkingConnector(link)) {
-        SetType(&link, model::kParkingLink);
+        map::SetLinkType(&link, model::kParkingLink);
         if (change.designator) link.designator = BlankDesignatorIn(edits);
         return;
     }
     if (!change.type && change.designator && *change.designator) return DesignateLink(draft, *change.designator);
-    if (change.type) SetType(&link, *change.type);
+    if (change.type) map::SetLinkType(&link, *change.type);
     if (change.designator) link.designator = *change.designator;
     const bool lostRunway = change.type && *change.type != model::kRunwayLink && IsRunway(link.designator);
     if (lostRunway) link.designator = BlankDesignatorIn(edits);
@@ -252,11 +245,11 @@ void DesignateLink(SceneryObject* draft, SceneryObject* designator) {
     if (IsParkingConnector(link)) return;
     if (IsRunway(designator)) {
         if (model::LinkTypeOf(link) != model::kRunwayLink) {
-            SetType(&link, model::kRunwayLink);
+            map::SetLinkType(&link, model::kRunwayLink);
             link.width = WidthOf(designator);
         }
     } else if (model::LinkTypeOf(link) == model::kRunwayLink) {
-        SetType(&link, model::kTaxiwayLink);
+        map::SetLinkType(&link, model::kTaxiwayLink);
     }
     link.designator = designator;
 }

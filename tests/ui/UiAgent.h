@@ -19,6 +19,7 @@ enum AgentMessage : UINT {
     kAgentIcon,                    // wParam HICON -> which stock icon it is (IDI_...), 0 none
     kAgentFocus,                   // -> window with the focus
     kAgentCursor,                  // -> which stock cursor is set now (IDC_...), 0 none of them
+    kAgentHotSpot,                 // -> hot spot of the cursor that is set now, x in the low word, y in the high one
     kAgentGdiObjects,              // -> how many GDI objects the program has
     kAgentUserObjects,             // -> how many windows, menus, icons and cursors
     kAgentMark,                    // posted: counted when its turn comes
@@ -27,6 +28,14 @@ enum AgentMessage : UINT {
     kAgentCatch,                   // wParam: from now on commands are caught on their way (1) or obeyed (0)
     kAgentEndTimer,                // wParam timer, lParam window -> whether it ran; it runs no more
     kAgentCaught,                  // -> the command caught last, 0 none; forgets it
+    kAgentMouse,                   // wParam count, lParam MouseMessage[]: sent one after the other, nothing between
+};
+
+struct MouseMessage {
+    HWND window;
+    UINT message;
+    WPARAM keys;
+    LPARAM point;
 };
 
 constexpr UINT kAgentBufferBytes = 131072;

@@ -15,6 +15,12 @@ std::wstring AgentPath() {
     return folder.substr(0, folder.find_last_of(L'\\') + 1) + L"agent.dll";
 }
 
+HWND AgentWindowOf(HWND window) {
+    wchar_t title[32];
+    swprintf(title, 32, L"%u", static_cast<unsigned>(ProcessOf(window)));
+    return FindWindowW(kAgentClass, title);
+}
+
 std::vector<std::wstring> Split(const std::wstring& text, wchar_t separator) {
     std::vector<std::wstring> parts;
     size_t start = 0;
@@ -35,11 +41,9 @@ bool AttachAgent(HWND mainWindow, Agent* agent) {
     agent->hook = SetWindowsHookExW(WH_GETMESSAGE, procedure, library, thread);
     if (!agent->hook) return false;
     agent->target = mainWindow;
-    wchar_t title[32];
-    swprintf(title, 32, L"%u", static_cast<unsigned>(ProcessOf(mainWindow)));
     return WaitUntil([&] {
         PostMessageW(mainWindow, WM_NULL, 0, 0);  // the hook acts when the thread takes a message
-        return (agent->window = FindWindowW(kAgentClass, title)) != nullptr;
+        return (agent->window = AgentWindowOf(mainWindow)) != nullptr;
     });
 }
 
@@ -88,6 +92,11 @@ int StockIcon(const Agent& agent, HICON icon) {
 
 int StockCursor(const Agent& agent) { return static_cast<int>(SendMessageW(agent.window, kAgentCursor, 0, 0)); }
 
+POINT CursorHotSpot(const Agent& agent) {
+    const LRESULT spot = SendMessageW(agent.window, kAgentHotSpot, 0, 0);
+    return { static_cast<short>(LOWORD(spot)), static_cast<short>(HIWORD(spot)) };
+}
+
 GuiObjects CountGuiObjects(const Agent& agent) {
     return { static_cast<int>(SendMessageW(agent.window, kAgentGdiObjects, 0, 0)),
              static_cast<int>(SendMessageW(agent.window, kAgentUserObjects, 0, 0)) };
@@ -102,6 +111,15 @@ bool DropFile(const Agent& agent, const std::wstring& path) {
     return memory.Put(path.c_str(), (path.size() + 1) * sizeof(wchar_t)) &&
            SendMessageW(agent.window, kAgentDrop, reinterpret_cast<WPARAM>(agent.target),
                         reinterpret_cast<LPARAM>(memory.address)) != 0;
+}
+
+bool SendUninterrupted(const std::vector<MouseMessage>& messages) {
+    const HWND agent = messages.empty() ? nullptr : AgentWindowOf(messages[0].window);
+    if (!agent) return false;
+    const RemoteMemory memory(agent, messages.size() * sizeof(MouseMessage));
+    if (!memory.Put(messages.data(), messages.size() * sizeof(MouseMessage))) return false;
+    SendMessageW(agent, kAgentMouse, messages.size(), reinterpret_cast<LPARAM>(memory.address));
+    return true;
 }
 
 HWND FocusOf(const Agent& agent) { return reinterpret_cast<HWND>(SendMessageW(agent.window, kAgentFocus, 0, 0)); }

@@ -68,6 +68,14 @@ LRESULT StockCursor() {
     return 0;
 }
 
+LRESULT HotSpot() {
+    ICONINFO info{};
+    if (!GetIconInfo(GetCursor(), &info)) return -1;
+    if (info.hbmMask) DeleteObject(info.hbmMask);
+    if (info.hbmColor) DeleteObject(info.hbmColor);
+    return MAKELONG(info.xHotspot, info.yHotspot);
+}
+
 // A posted command, as menus give it, is taken away from the program and remembered.
 void Catch(MSG* message) {
     if (!catching || message->message != WM_COMMAND) return;
@@ -94,6 +102,12 @@ LRESULT DropFile(HWND window, const wchar_t* path) {
     return PostMessageW(window, WM_DROPFILES, reinterpret_cast<WPARAM>(block), 0);
 }
 
+LRESULT SendMouseMessages(const MouseMessage* messages, size_t count) {
+    for (size_t i = 0; i < count; ++i)
+        SendMessageW(messages[i].window, messages[i].message, messages[i].keys, messages[i].point);
+    return 0;
+}
+
 LRESULT CALLBACK AgentProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case kAgentMenuState:
@@ -104,6 +118,7 @@ LRESULT CALLBACK AgentProc(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     case kAgentIcon: return StockIcon(wParam);
     case kAgentFocus: return reinterpret_cast<LRESULT>(GetFocus());
     case kAgentCursor: return StockCursor();
+    case kAgentHotSpot: return HotSpot();
     case kAgentGdiObjects: return GdiObjects();
     case kAgentUserObjects: return UserObjects();
     case kAgentDrop: return DropFile(reinterpret_cast<HWND>(wParam), reinterpret_cast<const wchar_t*>(lParam));
@@ -112,6 +127,7 @@ LRESULT CALLBACK AgentProc(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     case kAgentCatch: catching = wParam != 0; return 0;
     case kAgentEndTimer: return KillTimer(reinterpret_cast<HWND>(lParam), wParam);
     case kAgentCaught: return TakeCaught();
+    case kAgentMouse: return SendMouseMessages(reinterpret_cast<const MouseMessage*>(lParam), wParam);
     default: return DefWindowProcW(window, message, wParam, lParam);
     }
 }

@@ -12,6 +12,8 @@
 
 namespace ui {
 
+struct MouseMessage;
+
 constexpr DWORD kPatience = 20000;  // milliseconds; far beyond what any state takes on a busy machine
 
 bool WaitUntil(const std::function<bool()>& state, DWORD milliseconds = kPatience);
@@ -84,9 +86,12 @@ bool SettlePosted(const Agent& agent);
 int KeyState(const Agent& agent, int key);
 void HoldKey(const Agent& agent, int key, bool down);  // what GetKeyState tells the program from now on
 int StockIcon(const Agent& agent, HICON icon);         // 32513 error, 32514 question, 32515 warning, 32516 information
-int StockCursor(const Agent& agent);                   // 32512 arrow, 32515 cross, ...
+int StockCursor(const Agent& agent);                   // 32512 arrow, 32515 cross, ...; 0 a cursor of the program's own
+POINT CursorHotSpot(const Agent& agent);               // of the cursor that is set now
 bool DropFile(const Agent& agent, const std::wstring& path);  // as if it were dropped on the main window
 HWND FocusOf(const Agent& agent);
+// From within the program that has the windows. False when no agent is there.
+bool SendUninterrupted(const std::vector<MouseMessage>& messages);
 // While commands are caught, the program gets none: what a menu gives can be read instead of obeyed.
 void CatchCommands(const Agent& agent, bool on);
 UINT CaughtCommand(const Agent& agent);  // the last one, which is then forgotten; 0 none

@@ -3,6 +3,7 @@
 
 #include <cstdio>
 
+#include "UiAgent.h"
 #include "UiDriver.h"
 
 namespace ui {
@@ -24,14 +25,19 @@ void SendKeyInput(WORD key, bool up) {
 // mouse messages behind it. There is no state to wait for, so this is the one fixed pause.
 void LetPointerEcho() { Sleep(15); }
 
-void SendPointer(LONG x, LONG y) {
+// Again when the late echo of an earlier move has taken the pointer back.
+void SendPointer(POINT to) {
     INPUT input = {};
     input.type = INPUT_MOUSE;
-    input.mi.dx = x;
-    input.mi.dy = y;
+    input.mi.dx = (to.x * 65536 + 32768) / GetSystemMetrics(SM_CXSCREEN);
+    input.mi.dy = (to.y * 65536 + 32768) / GetSystemMetrics(SM_CYSCREEN);
     input.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE;
-    SendInput(1, &input, sizeof input);
-    LetPointerEcho();
+    WaitUntil([&] {
+        SendInput(1, &input, sizeof input);
+        LetPointerEcho();
+        POINT now = {};
+        return GetCursorPos(&now) && now.x == to.x && now.y == to.y;
+    });
 }
 
 Picture Grab(HDC source, const RECT& rect) {
@@ -70,15 +76,21 @@ void SendMouse(HWND window, UINT message, int x, int y, WPARAM keys) {
 
 void SendClick(HWND window, int x, int y, WPARAM keys) { SendDrag(window, { { x, y } }, keys); }
 
+// Sent one by one they would leave room for what the system has to say between press and release: a late echo of the
+// real pointer, a change of the active window.
 void SendDrag(HWND window, std::initializer_list<POINT> points, WPARAM keys) {
+    std::vector<MouseMessage> messages;
+    const auto add = [&](UINT message, POINT at, WPARAM held) {
+        messages.push_back({ window, message, held, PointParameter(at.x, at.y) });
+    };
     const POINT* first = points.begin();
     const POINT* last = points.end() - 1;
-    SendMouse(window, WM_MOUSEMOVE, first->x, first->y, keys);
-    SendMouse(window, WM_LBUTTONDOWN, first->x, first->y, keys | MK_LBUTTON);
-    for (const POINT* point = first + 1; point <= last; ++point) {
-        SendMouse(window, WM_MOUSEMOVE, point->x, point->y, keys | MK_LBUTTON);
-    }
-    SendMouse(window, WM_LBUTTONUP, last->x, last->y, keys);
+    add(WM_MOUSEMOVE, *first, keys);
+    add(WM_LBUTTONDOWN, *first, keys | MK_LBUTTON);
+    for (const POINT* point = first + 1; point <= last; ++point) add(WM_MOUSEMOVE, *point, keys | MK_LBUTTON);
+    add(WM_LBUTTONUP, *last, keys);
+    if (SendUninterrupted(messages)) return;
+    for (const MouseMessage& each : messages) SendMessageW(each.window, each.message, each.keys, each.point);
 }
 
 void SendWheel(HWND window, int x, int y, int delta, WPARAM keys) {
@@ -125,8 +137,7 @@ void TypeText(const std::wstring& text) {
 void MovePointer(HWND window, int x, int y) {
     POINT point = { x, y };
     ClientToScreen(window, &point);
-    SendPointer((point.x * 65536 + 32768) / GetSystemMetrics(SM_CXSCREEN),
-                (point.y * 65536 + 32768) / GetSystemMetrics(SM_CYSCREEN));
+    SendPointer(point);
     Settle(window);
 }
 
@@ -150,7 +161,7 @@ void DragPointer(HWND window, std::initializer_list<POINT> points) {
     Settle(window);
 }
 
-void ParkPointer() { SendPointer(65535, 65535); }
+void ParkPointer() { SendPointer({ GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1 }); }
 
 Picture GrabClient(HWND window) {
     RECT rect;
