@@ -8,6 +8,10 @@ set(program_folder ${TARVO_OUTPUT}/Tarvo)
 if(win_sources AND EXISTS ${CMAKE_SOURCE_DIR}/res/Tarvo.rc)
     add_executable(Tarvo WIN32 ${win_sources} res/Tarvo.rc)
     tarvo_options(Tarvo)
+    # What the program says of itself names files as they lie in the checkout, not where that was built.
+    foreach(target IN ITEMS core Tarvo)
+        target_compile_options(${target} PRIVATE -fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=)
+    endforeach()
     # windres does not report what a script includes, so any changed resource rebuilds it.
     set_source_files_properties(res/Tarvo.rc PROPERTIES OBJECT_DEPENDS "${resource_files}")
     # wWinMain; and no time of linking, so that the same sources give the same bytes.
@@ -20,7 +24,8 @@ if(win_sources AND EXISTS ${CMAKE_SOURCE_DIR}/res/Tarvo.rc)
     add_custom_command(
         OUTPUT ${shipped}
         COMMAND ${CMAKE_COMMAND} -E make_directory ${program_folder}
-        COMMAND ${CMAKE_STRIP} -o ${shipped} $<TARGET_FILE:Tarvo>
+        COMMAND ${CMAKE_STRIP} -p -o ${shipped} $<TARGET_FILE:Tarvo> # -p: else strip writes the time into the header
+        COMMAND ${CMAKE_COMMAND} -E touch ${shipped}
         DEPENDS Tarvo
         VERBATIM)
     foreach(file IN LISTS help_files)

@@ -14,6 +14,7 @@
 #include "aircraft/Variations.h"
 #include "AircraftEditorIds.h"
 #include "platform/DialogWin.h"
+#include "platform/ListViewWin.h"
 #include "platform/WideTextWin.h"
 
 namespace aircraft {
@@ -22,9 +23,9 @@ namespace {
 
 constexpr char kTopic[] = "#AircraftEditor";
 constexpr platform::Column kColumnTitles[kColumns] = {
-    { "Manufacturer", 17 }, { "Type", 13 },          { "Variation (paint scheme)", 23 },
-    { "Airline", 17 },      { "Parking types", 14 }, { "Code", 7 },
-    { "Radius", 9 },
+    { "Manufacturer", 20 }, { "Type", 14 },          { "Variation (paint scheme)", 22 },
+    { "Airline", 17 },      { "Parking types", 13 }, { "Code", 7 },
+    { "Radius", 7 },
 };
 constexpr int kFields[] = { IDC_AIRCRAFT_TITLE, IDC_AIRCRAFT_AIRLINE, IDC_AIRCRAFT_TYPES, IDC_AIRCRAFT_CODE_SELECTOR,
                             IDC_AIRCRAFT_CODE };
@@ -41,17 +42,7 @@ struct EditorWindow {
 
 EditorWindow& EditorOf(HWND handle) { return *static_cast<EditorWindow*>(platform::DialogData(handle)); }
 
-int SelectedRow(const EditorWindow& editor) {
-    return static_cast<int>(SendMessageW(editor.list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
-}
-
-void SelectRow(EditorWindow* editor, int row) {
-    LVITEMW item{};
-    item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
-    item.state = item.stateMask;
-    SendMessageW(editor->list, LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
-    SendMessageW(editor->list, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
-}
+int SelectedRow(const EditorWindow& editor) { return platform::SelectedListRow(editor.list); }
 
 void ShowCode(EditorWindow* editor) {
     const std::string code = platform::FieldText(editor->handle, IDC_AIRCRAFT_CODE);
@@ -88,14 +79,9 @@ void ShowSelected(EditorWindow* editor) {
 }
 
 void ShowSortArrow(const EditorWindow& editor) {
-    const auto header = reinterpret_cast<HWND>(SendMessageW(editor.list, LVM_GETHEADER, 0, 0));
+    const platform::Sorted sorted = editor.order.descending ? platform::Sorted::Down : platform::Sorted::Up;
     for (int column = 0; column < kColumns; ++column) {
-        HDITEMW item{};
-        item.mask = HDI_FORMAT;
-        SendMessageW(header, HDM_GETITEMW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&item));
-        item.fmt &= ~(HDF_SORTUP | HDF_SORTDOWN);
-        if (column == editor.order.column) item.fmt |= editor.order.descending ? HDF_SORTDOWN : HDF_SORTUP;
-        SendMessageW(header, HDM_SETITEMW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&item));
+        platform::MarkListColumn(editor.list, column, column == editor.order.column ? sorted : platform::Sorted::Not);
     }
 }
 
@@ -113,7 +99,7 @@ void Sort(EditorWindow* editor) {
     SortVariations(&editor->rows, editor->order);
     ShowSortArrow(*editor);
     editor->busy = true;
-    if (selected >= 0) SelectRow(editor, RowOf(editor->rows, before));
+    if (selected >= 0) platform::SelectListRow(editor->list, RowOf(editor->rows, before));
     editor->busy = false;
     InvalidateRect(editor->list, nullptr, TRUE);
 }
@@ -208,7 +194,7 @@ void FillList(EditorWindow* editor) {
     SendMessageW(editor->list, LVM_SETITEMCOUNT, editor->rows.size(), 0);
     platform::SetColumns(editor->list, kColumnTitles);
     ShowSortArrow(*editor);
-    if (!editor->rows.empty()) SelectRow(editor, 0);
+    if (!editor->rows.empty()) platform::SelectListRow(editor->list, 0);
     ShowSelected(editor);
 }
 

@@ -8,6 +8,7 @@
 #include "app/AppState.h"
 #include "app/AutoBackup.h"
 #include "app/SimLink.h"
+#include "bgl/LibraryScan.h"
 #include "bgl/OpenAirport.h"
 #include "bgl/SceneryStructure.h"
 #include "faults/FaultFinder.h"
@@ -23,27 +24,20 @@ namespace app {
 
 namespace {
 
-enum class FileKind { Unreadable, NoScenery, Scenery };
-
 // Scenery files of the new style start with a number that no other file starts with.
-FileKind KindOfFile(const std::string& path) {
-    const platform::FileHandle file = platform::OpenForReading(path);
-    if (!file) return FileKind::Unreadable;
+bool IsScenery(platform::OpenFile* file) {
     uint32_t magic = 0;
-    const size_t got = platform::ReadAt(file.get(), 0, &magic, sizeof magic);
-    return got == sizeof magic && magic == bgl::kFileMagic ? FileKind::Scenery : FileKind::NoScenery;
+    return platform::ReadAt(file, 0, &magic, sizeof magic) == sizeof magic && magic == bgl::kFileMagic;
 }
 
 // Why the file does not hold what was asked for, in the words for the user.
 std::string Explanation(const std::string& path, std::string_view ident) {
-    switch (KindOfFile(path)) {
-    case FileKind::Unreadable: return "Unable to open file \"" + path + "\"";
-    case FileKind::NoScenery: return "Selected file  " + path + "  is not in recognised AFD format";
-    case FileKind::Scenery: break;
-    }
+    const platform::FileHandle file = platform::OpenForReading(path);
+    if (!file) return bgl::FailureText(bgl::ScanResult::CannotOpen, path);
+    if (!IsScenery(file.get())) return bgl::FailureText(bgl::ScanResult::NotScenery, path);
     bgl::AirportPlace any;
     if (ident.empty() || !bgl::FindAirportInFile(path, "", &any))
-        return "Selected file  " + path + "  does not contain any airports";
+        return bgl::FailureText(bgl::ScanResult::NoAirports, path);
     return "Selected file  " + path + "  does not contain airport " + platform::UpperCased(ident);
 }
 
@@ -66,7 +60,7 @@ void ShowAirport() {
 bool OpenAirportFile(const std::string& path, std::string_view ident) {
     bgl::AirportPlace place;
     if (!bgl::FindAirportInFile(path, ident, &place)) return Refuse(Explanation(path, ident));
-    return OpenAirportAt(place) || Refuse("Unable to open file \"" + path + "\"");
+    return OpenAirportAt(place) || Refuse(bgl::FailureText(bgl::ScanResult::CannotOpen, path));
 }
 
 bool OpenAirportAt(const bgl::AirportPlace& place) {

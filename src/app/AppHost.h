@@ -43,9 +43,6 @@ void ShowOpenAirportDialog();
 void ShowOptionsDialog();
 void ShowPageSetup();
 
-// Asks for a printer and prints what the map shows on one page.
-void PrintAirportMap();
-
 // The save dialog for a picture of the map. False when the user cancelled it.
 bool AskPicturePath(const PictureQuestion& question, PictureAnswer* answer);
 

@@ -10,6 +10,7 @@
 #include "app/HelpPage.h"
 #include "app/HelpTexts.h"
 #include "app/MapPictures.h"
+#include "app/Printing.h"
 #include "app/RecentAirports.h"
 #include "app/SaveAirport.h"
 #include "app/SimLink.h"

@@ -1,8 +1,10 @@
-// CursorPictures.h - the pictures of the mouse pointer for the map's tools: a cross with what the tool places beside it.
+// CursorPictures.h - the pictures of the mouse pointer over the map: arrow, hand and arrows, and for the tools a cross
+// with what the tool places beside it.
 #pragma once
 
 #include <array>
 #include <cstdint>
+#include <vector>
 
 #include "map/ToolCursor.h"
 
@@ -15,10 +17,12 @@ struct CursorPicture {
     std::array<uint32_t, kCursorSize * kCursorSize> pixels{};  // 0xAARRGGBB, rows from the top
 };
 
-// Whether the shape has a picture of its own; the others are the system's arrow, hand and move cursors.
-bool HasCursorPicture(map::CursorShape shape);
-
-// Dark lines on light ground by day, the other way round by night.
+// Dark lines with a light rim by day, the other way round by night.
 CursorPicture DrawCursor(map::CursorShape shape, bool night);
+
+int CursorTimes(int dpi);  // how many times its size a picture is shown at that resolution; whole, so that it is sharp
+
+// `times` x kCursorSize pixels, both ways.
+std::vector<uint32_t> EnlargedPixels(const CursorPicture& picture, int times);
 
 }  // namespace app

@@ -2,6 +2,7 @@
 #include "app/CursorsWin.h"
 
 #include <cstring>
+#include <vector>
 
 #include "app/CursorPictures.h"
 
@@ -10,20 +11,13 @@ namespace app {
 namespace {
 
 HCURSOR cursors[map::kCursorShapes][2];  // by shape; day, night
-
-LPCWSTR StockCursor(map::CursorShape shape) {
-    switch (shape) {
-    case map::CursorShape::Hand: return IDC_HAND;
-    case map::CursorShape::Move: return IDC_SIZEALL;
-    default: return IDC_ARROW;
-    }
-}
+int times = 1;                           // their size
 
 HBITMAP ColourBitmap(const CursorPicture& picture) {
     BITMAPV5HEADER head{};
     head.bV5Size = sizeof head;
-    head.bV5Width = kCursorSize;
-    head.bV5Height = -kCursorSize;
+    head.bV5Width = kCursorSize * times;
+    head.bV5Height = -kCursorSize * times;
     head.bV5Planes = 1;
     head.bV5BitCount = 32;
     head.bV5Compression = BI_BITFIELDS;
@@ -36,17 +30,18 @@ HBITMAP ColourBitmap(const CursorPicture& picture) {
     const HBITMAP bitmap =
         CreateDIBSection(screen, reinterpret_cast<const BITMAPINFO*>(&head), DIB_RGB_COLORS, &bits, nullptr, 0);
     ReleaseDC(nullptr, screen);
-    if (bitmap) std::memcpy(bits, picture.pixels.data(), sizeof picture.pixels);
+    const std::vector<uint32_t> pixels = EnlargedPixels(picture, times);
+    if (bitmap) std::memcpy(bits, pixels.data(), pixels.size() * sizeof pixels[0]);
     return bitmap;
 }
 
 HCURSOR MakeCursor(const CursorPicture& picture) {
     const HBITMAP colour = ColourBitmap(picture);
-    const HBITMAP mask = CreateBitmap(kCursorSize, kCursorSize, 1, 1, nullptr);
+    const HBITMAP mask = CreateBitmap(kCursorSize * times, kCursorSize * times, 1, 1, nullptr);
     ICONINFO info{};
     info.fIcon = FALSE;
-    info.xHotspot = static_cast<DWORD>(picture.hotX);
-    info.yHotspot = static_cast<DWORD>(picture.hotY);
+    info.xHotspot = static_cast<DWORD>(picture.hotX * times);
+    info.yHotspot = static_cast<DWORD>(picture.hotY * times);
     info.hbmMask = mask;
     info.hbmColor = colour;
     const HCURSOR cursor = colour && mask ? CreateIconIndirect(&info) : nullptr;
@@ -57,8 +52,9 @@ HCURSOR MakeCursor(const CursorPicture& picture) {
 
 }  // namespace
 
-HCURSOR CursorFor(map::CursorShape shape, bool night) {
-    if (!HasCursorPicture(shape)) return LoadCursorW(nullptr, StockCursor(shape));
+HCURSOR CursorFor(map::CursorShape shape, bool night, int dpi) {
+    if (CursorTimes(dpi) != times) FreeCursors();
+    times = CursorTimes(dpi);
     HCURSOR& cursor = cursors[static_cast<int>(shape)][night ? 1 : 0];
     if (!cursor) cursor = MakeCursor(DrawCursor(shape, night));
     return cursor ? cursor : LoadCursorW(nullptr, IDC_ARROW);

@@ -7,8 +7,9 @@
 
 namespace app {
 
-// Made at the first use and kept until FreeCursors. The arrow when one cannot be made.
-HCURSOR CursorFor(map::CursorShape shape, bool night);
+// Made at the first use and kept until FreeCursors or the next use at another size. The system's arrow when one cannot
+// be made.
+HCURSOR CursorFor(map::CursorShape shape, bool night, int dpi);
 
 void FreeCursors();
 

@@ -29,7 +29,10 @@ bool IsOnMap(LPARAM lParam) {
 
 map::KeyState KeysOf(WPARAM wParam) { return { (wParam & MK_SHIFT) != 0, (wParam & MK_CONTROL) != 0 }; }
 
-void ShowMapCursor() { SetCursor(CursorFor(map::CursorAt(map::tools.cursor), map::layers.lights)); }
+void ShowMapCursor() {
+    const int dpi = platform::DpiOf(platform::MainWindow());
+    SetCursor(CursorFor(map::CursorAt(map::tools.cursor), map::layers.lights, dpi));
+}
 
 // While a button is held the map gets the mouse wherever it is.
 void ReleaseWhenIdle() {

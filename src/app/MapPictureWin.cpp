@@ -33,31 +33,19 @@ void PaintOn(HDC dc, const map::PictureSize& size) {
     platform::CloseGdiCanvas(&gdi);
 }
 
-HBITMAP NewBitmap(const map::PictureSize& size, void** pixels) {
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = size.width;
-    info.bmiHeader.biHeight = -size.height;  // top row first
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    return CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, pixels, nullptr, 0);
-}
-
 bool DrawPng(const map::PictureSize& size, std::vector<uint8_t>* bytes) {
-    void* pixels = nullptr;
     const HDC dc = CreateCompatibleDC(nullptr);
-    const HBITMAP bitmap = NewBitmap(size, &pixels);
-    const HGDIOBJ before = dc && bitmap ? SelectObject(dc, bitmap) : nullptr;
+    const platform::PixelBitmap bitmap = platform::MakePixelBitmap(size.width, size.height);
+    const HGDIOBJ before = dc && bitmap.handle ? SelectObject(dc, bitmap.handle) : nullptr;
     bool made = before != nullptr;
     if (made) {
         PaintOn(dc, size);
         SelectObject(dc, before);
         GdiFlush();
         const auto width = static_cast<uint32_t>(size.width), height = static_cast<uint32_t>(size.height);
-        made =
-            platform::PngFile({ static_cast<const uint32_t*>(pixels), size_t{ width } * height }, width, height, bytes);
+        made = platform::PngFile({ bitmap.pixels, size_t{ width } * height }, width, height, bytes);
     }
-    if (bitmap) DeleteObject(bitmap);
+    if (bitmap.handle) DeleteObject(bitmap.handle);
     if (dc) DeleteDC(dc);
     return made;
 }

@@ -17,6 +17,7 @@
 #include "bgl/AirportIndex.h"
 #include "OpenAirportIds.h"
 #include "platform/DialogWin.h"
+#include "platform/ListViewWin.h"
 #include "platform/WideTextWin.h"
 
 namespace app {
@@ -63,10 +64,6 @@ void ShowRows(OpenDialog* dialog) {
     }
     SendMessageW(list, WM_SETREDRAW, TRUE, 0);
     InvalidateRect(list, nullptr, TRUE);
-}
-
-int SelectedRow(const OpenDialog& dialog) {
-    return static_cast<int>(SendMessageW(dialog.airports, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
 }
 
 void AddTreeItem(HWND tree, HTREEITEM parent, uint32_t place) {
@@ -168,7 +165,7 @@ void OnSearch(OpenDialog* dialog) {
 }
 
 void OnOk(OpenDialog* dialog) {
-    const int selected = SelectedRow(*dialog);
+    const int selected = platform::SelectedListRow(dialog->airports);
     const AirportRow* row = ChooseRow(&dialog->rows, selected, platform::FieldText(dialog->handle, IDC_AIRPORT_ID));
     if (selected < 0) ShowRows(dialog);
     if (!row) return platform::FocusField(dialog->handle, IDC_AIRPORT_ID);

@@ -5,7 +5,9 @@
 #include <dlgs.h>
 
 #include "app/AppHost.h"
+#include "app/HelpPage.h"
 #include "app/PrinterWin.h"
+#include "app/Printing.h"
 #include "PageSetupIds.h"
 #include "platform/DialogWin.h"
 #include "platform/PlatformWin.h"
@@ -111,10 +113,13 @@ void OnControl(HWND dialog, int control, int notice) {
     }
 }
 
+constexpr char kTopic[] = "#Printing";  // of F1; the dialog has no help button
+
 UINT_PTR CALLBACK SetupHook(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
     if (message == WM_INITDIALOG) ShowControls(dialog);
     if (message == WM_COMMAND && setup.dialog == dialog) OnControl(dialog, LOWORD(wParam), HIWORD(wParam));
-    return message == WM_INITDIALOG;  // the system does the rest of everything else
+    if (message == WM_HELP) OpenHelp(kTopic);
+    return message == WM_INITDIALOG || message == WM_HELP;  // the system does the rest of everything else
 }
 
 void DrawSample(HDC dc) {
@@ -170,14 +175,15 @@ void ShowPageSetup() {
     dialog.lpfnPagePaintHook = SampleHook;
     dialog.Flags |= PSD_MARGINS | PSD_ENABLEPAGESETUPTEMPLATE | PSD_ENABLEPAGESETUPHOOK | PSD_ENABLEPAGEPAINTHOOK;
     const platform::OthersDisabled others(dialog.hwndOwner, nullptr);
-    const bool chosen = PageSetupDlgW(&dialog);
+    const PrintStep step = StepAfterDialog(PageSetupDlgW(&dialog));
     const bool shown = setup.dialog != nullptr;
     setup = {};
     printer = { dialog.hDevMode, dialog.hDevNames };
-    if (!chosen) {
+    if (step != PrintStep::Done) {
         map::print = before;
         map::print.pageSetupDone |= shown;
-        return TellPrinterTrouble();
+        if (step == PrintStep::Failed) RefusePrinter();
+        return;
     }
     map::print.paper = PaperOf(dialog, map::print.paper.metric);
     map::print.pageSetupDone = true;

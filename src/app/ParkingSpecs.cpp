@@ -27,8 +27,8 @@ constexpr const char* kBadColour =
     "or use four commas: ,,,, to omit the colour field";
 
 void Complain(std::string_view line, const std::string& what) {
-    const std::string text = std::string("Error found in ") + kFileName + " file on the following line:\n\n" +
-                             std::string(line) + "\n\n" + what;
+    std::string text = "Error found in ";
+    text.append(kFileName).append(" file on the following line:\n\n").append(line).append("\n\n").append(what);
     platform::ShowMessage(text, platform::Buttons::Ok, platform::Icon::Exclamation);
 }
 

@@ -16,7 +16,7 @@ namespace app {
 
 namespace {
 
-// A top-down bitmap of 0xAARRGGBB pixels that GDI can draw on.
+// Of 0xAARRGGBB pixels.
 struct Bitmap {
     int width = 0, height = 0;
     HBITMAP handle = nullptr;
@@ -24,15 +24,8 @@ struct Bitmap {
 };
 
 Bitmap MakeBitmap(int width, int height) {
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = width;
-    info.bmiHeader.biHeight = -height;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    void* bits = nullptr;
-    const HBITMAP handle = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-    return { width, height, handle, static_cast<uint32_t*>(bits) };
+    const platform::PixelBitmap made = platform::MakePixelBitmap(width, height);
+    return { width, height, made.handle, made.pixels };
 }
 
 void DrawOn(const Bitmap& bitmap, ToolPicture picture, int unit, int ground) {

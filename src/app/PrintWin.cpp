@@ -1,9 +1,10 @@
-// PrintWin.cpp - the print dialog, and one page with the map.
+// PrintWin.cpp - the print dialog and the printer's device context (PrinterHost.h).
 #include <windows.h>
 
 #include <commdlg.h>
 
 #include "app/AppHost.h"
+#include "app/PrinterHost.h"
 #include "app/PrinterWin.h"
 #include "map/PrintLayout.h"
 #include "platform/PlatformWin.h"
@@ -14,16 +15,24 @@ namespace {
 
 constexpr wchar_t kDocument[] = L"Tarvo Airport Printout";
 
-// It may be gone: the next dialog begins with the one that the system prefers.
-void RefusePrinter() {
-    GlobalFree(printer.mode);
-    GlobalFree(printer.names);
-    printer = {};
-    platform::ShowMessage("ERROR: The printer cannot be used.", platform::Buttons::Ok, platform::Icon::Exclamation);
+HDC page;  // of the open printer
+
+// Of a call of the system that has just returned.
+PrintStep StepAfter(int result) {
+    if (result > 0) return PrintStep::Done;
+    const DWORD error = GetLastError();
+    return error == ERROR_CANCELLED || error == ERROR_PRINT_CANCELLED ? PrintStep::Cancelled : PrintStep::Failed;
 }
 
-// Null when the user cancelled. To be deleted.
-HDC AskPrinter() {
+}  // namespace
+
+PrintStep StepAfterDialog(bool chosen) {
+    if (chosen) return PrintStep::Done;
+    const DWORD error = CommDlgExtendedError();  // of a missing printer the dialog tells itself
+    return error == 0 || error == PDERR_NODEFAULTPRN ? PrintStep::Cancelled : PrintStep::Failed;
+}
+
+PrintStep AskPrinter() {
     PRINTDLGW dialog{};
     dialog.lStructSize = sizeof dialog;
     dialog.hwndOwner = platform::OwnerOfDialogs();
@@ -32,66 +41,49 @@ HDC AskPrinter() {
     dialog.Flags = PD_RETURNDC | PD_NOSELECTION | PD_NOPAGENUMS | PD_USEDEVMODECOPIESANDCOLLATE;
     dialog.nCopies = 1;
     const platform::OthersDisabled others(dialog.hwndOwner, nullptr);
-    const bool chosen = PrintDlgW(&dialog);
+    const PrintStep step = StepAfterDialog(PrintDlgW(&dialog));
     printer = { dialog.hDevMode, dialog.hDevNames };
-    if (!chosen) TellPrinterTrouble();
-    if (chosen && !dialog.hDC) RefusePrinter();
-    return chosen ? dialog.hDC : nullptr;
+    if (step != PrintStep::Done) return step;
+    page = dialog.hDC;
+    return page ? PrintStep::Done : PrintStep::Failed;
 }
 
-void DrawPageOf(HDC dc) {
-    const map::PrintDevice device = DeviceOf(dc);
-    map::TakeSheetOf(device, &map::print.paper);
-    map::FitPrintScale(&map::print);
-    DrawPrintPage(dc, device);
+void ReleasePrinter() {
+    DeleteDC(page);
+    page = nullptr;
 }
 
-bool WasCancelled() {
-    const DWORD error = GetLastError();
-    return error == ERROR_CANCELLED || error == ERROR_PRINT_CANCELLED;
+void ForgetPrinter() {
+    GlobalFree(printer.mode);
+    GlobalFree(printer.names);
+    printer = {};
 }
 
-void PrintPage(HDC dc) {
-    DrawPageOf(dc);
-    if (EndPage(dc) > 0 && EndDoc(dc) > 0) return;
-    const bool cancelled = WasCancelled();
-    AbortDoc(dc);
-    if (!cancelled)
-        platform::ShowMessage("ERROR: The map could not be printed.", platform::Buttons::Ok,
-                              platform::Icon::Exclamation);
+void ShowPrinting(bool underWay) {
+    EnableWindow(platform::MainWindow(), !underWay);
+    ShowWaitCursor(underWay);
 }
 
-// One document of one page.
-void PrintDocument(HDC dc) {
+bool BeginDocument() {
     DOCINFOW document{};
     document.cbSize = sizeof document;
     document.lpszDocName = kDocument;
-    if (StartDocW(dc, &document) <= 0) return;
-    if (StartPage(dc) > 0)
-        PrintPage(dc);
-    else
-        EndDoc(dc);
+    return StartDocW(page, &document) > 0;
 }
 
-}  // namespace
+bool BeginPage() { return StartPage(page) > 0; }
 
-void TellPrinterTrouble() {
-    const DWORD error = CommDlgExtendedError();
-    if (error != 0 && error != PDERR_NODEFAULTPRN) RefusePrinter();  // of a missing printer the dialog tells itself
-}
-
-void PrintAirportMap() {
-    LearnPaper();
+void DrawPage() {
+    const map::PrintDevice device = DeviceOf(page);
+    map::TakeSheetOf(device, &map::print.paper);
     map::FitPrintScale(&map::print);
-    const HDC dc = AskPrinter();
-    if (!dc) return;
-    const HWND window = platform::MainWindow();
-    EnableWindow(window, FALSE);
-    ShowWaitCursor(true);
-    PrintDocument(dc);
-    ShowWaitCursor(false);
-    EnableWindow(window, TRUE);
-    DeleteDC(dc);
+    DrawPrintPage(page, device);
 }
+
+PrintStep FinishPage() { return StepAfter(EndPage(page)); }
+
+PrintStep FinishDocument() { return StepAfter(EndDoc(page)); }
+
+void DropDocument() { AbortDoc(page); }
 
 }  // namespace app

@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include "app/PrinterHost.h"
 #include "map/PrintLayout.h"
 
 namespace app {
@@ -14,11 +15,8 @@ struct Printer {
 };
 extern Printer printer;
 
-// As long as no page setup was shown: the paper of the default printer, without a dialog.
-void LearnPaper();
-
-// After a dialog of the system that was not ended with OK: why, unless the user cancelled it.
-void TellPrinterTrouble();
+// How the system's dialog for a page or a printer ended that has just returned.
+PrintStep StepAfterDialog(bool chosen);
 
 map::PrintDevice DeviceOf(HDC dc);
 

@@ -15,7 +15,7 @@ namespace app {
 namespace {
 
 std::string WithoutLastSlash(std::string folder) {
-    if (!folder.empty() && (folder.back() == '\\' || folder.back() == '/')) folder.pop_back();
+    if (!folder.empty() && platform::IsSeparator(folder.back())) folder.pop_back();
     return folder;
 }
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/Files.h"
 #include "platform/Text.h"
 
 namespace bgl {
@@ -37,8 +38,6 @@ void FoldCase(std::string* text) {
         if (lower) (*text)[i] = static_cast<char>(byte - 0x20);
     }
 }
-
-bool IsSeparator(char c) { return c == '\\' || c == '/'; }
 
 // Drops the last component; never the drive or what stands before the first component.
 void StepUp(size_t root, std::string* key) {
@@ -114,7 +113,7 @@ void NoteSavedFile(const std::string& path) { library.savedFiles.insert(PathKey(
 std::string PathKey(std::string_view path) {
     std::string key;
     key.reserve(path.size());
-    while (key.size() < 2 && key.size() < path.size() && IsSeparator(path[key.size()])) key += '\\';
+    while (key.size() < 2 && key.size() < path.size() && platform::IsSeparator(path[key.size()])) key += '\\';
     const size_t root = key.size();
     for (size_t at = root; at < path.size();) {
         const size_t end = std::min(path.find_first_of("\\/", at), path.size());

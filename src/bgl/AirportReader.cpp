@@ -7,11 +7,9 @@
 #include "bgl/AirportReader.h"
 
 #include <algorithm>
-#include <cstring>
-#include <vector>
 
-#include "bgl/ByteReader.h"
 #include "bgl/RecordIds.h"
+#include "bgl/RecordReading.h"
 #include "model/Ident.h"
 #include "model/Links.h"
 #include "model/ObjectList.h"
@@ -24,41 +22,6 @@ namespace {
 using model::SceneryObject;
 
 constexpr size_t kReadAgain = 4;  // bodies may add up to so many times the stretch
-
-struct Reading {
-    ByteReader in;
-    size_t bodyBytesLeft = 0;         // see kReadAgain
-    SceneryObject* runway = nullptr;  // whose parts follow
-    bool outlinePending = false;
-    Bytes outlineHead, outline;  // of a 0x0037 that waits for its 0x0030
-    SceneryObject* edgeLights = nullptr;
-    std::vector<model::EdgeLightStrip> strips;  // for edgeLights
-};
-
-// Where the reading goes on after a record.
-enum class Next { End, Inside, Behind };
-
-bool TakeBody(Reading* reading, size_t size, Bytes* body) {
-    if (size > reading->bodyBytesLeft || !TakeBytes(&reading->in, size, body)) return false;
-    reading->bodyBytesLeft -= size;
-    return true;
-}
-
-template <class T>
-bool TakeValue(Reading* reading, T* value) {
-    Bytes body;
-    if (!TakeBody(reading, sizeof(T), &body)) return false;
-    *value = ValueAt<T>(body, 0);
-    return true;
-}
-
-// Appends an object whose payload starts with the body.
-SceneryObject* AppendWith(uint32_t kind, size_t payloadSize, Bytes body) {
-    SceneryObject* object = model::CreateObject(kind, static_cast<uint32_t>(payloadSize));
-    std::copy(body.begin(), body.end(), object->payload);
-    model::AppendObject(object);
-    return object;
-}
 
 Next ReadAirportBody(Reading* reading, const RecordHead&) {
     if (model::state.airport) return Next::Behind;  // one airport at a time: a second is passed whole
@@ -187,77 +150,6 @@ Next ReadParkingSpots(Reading* reading, const RecordHead&) {
     return Next::Behind;
 }
 
-Next ReadApronOutline(Reading* reading, const RecordHead&) {
-    reading->outlinePending = false;  // a newer outline replaces one that found no surface
-    Bytes head, vertices;
-    if (!TakeBody(reading, 3, &head)) return Next::End;
-    if (!TakeBody(reading, sizeof(model::EncodedPoint) * ValueAt<uint16_t>(head, 1), &vertices)) return Next::End;
-    reading->outlineHead = head;
-    reading->outline = vertices;
-    reading->outlinePending = true;
-    return Next::Behind;
-}
-
-Next ReadApronSurface(Reading* reading, const RecordHead&) {
-    if (!reading->outlinePending) return Next::Behind;
-    constexpr size_t kHeadSize = 6;
-    Bytes head, rest;
-    if (!TakeBody(reading, kHeadSize, &head)) return Next::End;
-    const size_t restSize = sizeof(model::EncodedPoint) * ValueAt<uint16_t>(head, 2) +
-                            sizeof(model::ApronTriangle) * ValueAt<uint16_t>(head, 4);
-    if (!TakeBody(reading, restSize, &rest)) return Next::End;
-    SceneryObject* apron = AppendWith(model::kApron, sizeof(model::ApronHead) + reading->outline.size() + restSize, {});
-    uint8_t* to = apron->payload + offsetof(model::ApronHead, outlineSurface);
-    for (Bytes part : { reading->outlineHead, head, reading->outline, rest })
-        to = std::copy(part.begin(), part.end(), to);
-    reading->outlinePending = false;
-    return Next::Behind;
-}
-
-#pragma pack(push, 1)
-struct EdgeEntry {
-    float spacing;
-    uint16_t start, end;
-};
-#pragma pack(pop)
-
-// Resolves the edges' vertex numbers to positions. An edge that names a vertex that the record lacks is dropped.
-void AddStrips(Bytes vertices, Bytes edges, std::vector<model::EdgeLightStrip>* strips) {
-    const size_t vertexCount = vertices.size() / sizeof(model::EncodedPoint);
-    for (size_t at = 0; at < edges.size(); at += sizeof(EdgeEntry)) {
-        const auto edge = ValueAt<EdgeEntry>(edges, at);
-        if (edge.start >= vertexCount || edge.end >= vertexCount) continue;
-        const auto start = ValueAt<model::EncodedPoint>(vertices, edge.start * sizeof(model::EncodedPoint));
-        const auto end = ValueAt<model::EncodedPoint>(vertices, edge.end * sizeof(model::EncodedPoint));
-        strips->push_back({ edge.spacing, start.longitude, start.latitude, end.longitude, end.latitude, 0, 0, 0 });
-    }
-}
-
-Next ReadEdgeLights(Reading* reading, const RecordHead&) {
-    constexpr size_t kHeadSize = offsetof(model::EdgeLightsHead, stripCount);
-    Bytes head, vertices, edges;
-    if (!TakeBody(reading, kHeadSize, &head)) return Next::End;
-    const size_t vertexCount = ValueAt<uint16_t>(head, offsetof(model::EdgeLightsHead, vertexCount));
-    const size_t edgeCount = ValueAt<uint16_t>(head, offsetof(model::EdgeLightsHead, edgeCount));
-    if (!TakeBody(reading, vertexCount * sizeof(model::EncodedPoint), &vertices)) return Next::End;
-    if (!TakeBody(reading, edgeCount * sizeof(EdgeEntry), &edges)) return Next::End;
-    if (!reading->edgeLights)
-        reading->edgeLights = AppendWith(model::kApronEdgeLights, sizeof(model::EdgeLightsHead), {});
-    std::copy(head.begin(), head.end(), reading->edgeLights->payload);
-    AddStrips(vertices, edges, &reading->strips);
-    return Next::Behind;
-}
-
-// All edge light records together make one object; its strips are known at the end.
-void FinishEdgeLights(Reading* reading) {
-    if (!reading->edgeLights) return;
-    const size_t size = reading->strips.size() * sizeof(model::EdgeLightStrip);
-    model::ResizePayload(reading->edgeLights, static_cast<uint32_t>(sizeof(model::EdgeLightsHead) + size));
-    auto& head = model::PayloadAs<model::EdgeLightsHead>(reading->edgeLights);
-    head.stripCount = static_cast<uint32_t>(reading->strips.size());
-    if (size > 0) std::memcpy(reading->edgeLights->payload + sizeof head, reading->strips.data(), size);
-}
-
 Next ReadRecord(Reading* reading, const RecordHead& head) {
     switch (head.id) {
     case kAirportRecord: return ReadAirportBody(reading, head);
@@ -282,9 +174,9 @@ Next ReadRecord(Reading* reading, const RecordHead& head) {
     case kTaxiLinkRecord: return ReadTaxiLinks(reading, head);
     case kTaxiNameRecord: return ReadTaxiNames(reading, head);
     case kHelipadRecord: return ReadHelipad(reading, head);
-    case kApronOutlineRecord: return ReadApronOutline(reading, head);
-    case kApronSurfaceRecord: return ReadApronSurface(reading, head);
-    case kEdgeLightsRecord: return ReadEdgeLights(reading, head);
+    case kApronOutlineRecord: return ReadApronOutline(reading);
+    case kApronSurfaceRecord: return ReadApronSurface(reading);
+    case kEdgeLightsRecord: return ReadEdgeLights(reading);
     default: return Next::Behind;
     }
 }
@@ -309,7 +201,7 @@ void ReadAirport(std::span<const uint8_t> bytes) {
     reading.in.bytes = bytes;
     reading.bodyBytesLeft = bytes.size() * kReadAgain;
     ReadRecords(&reading);
-    FinishEdgeLights(&reading);
+    FinishEdgeLights(&reading.apron);
     model::ResolveLinks();
     model::state.loaded = model::state.airport != nullptr;
 }

@@ -181,19 +181,19 @@ double SecondsSince(std::chrono::steady_clock::time_point start) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-void ShowFailure(ScanResult result, const std::string& path) {
-    const std::string text = result == ScanResult::CannotOpen ? "Unable to open file \"" + path + "\""
-                             : result == ScanResult::NotScenery
-                                 ? "Selected file  " + path + "  is not in recognised AFD format"
-                                 : "Selected file  " + path + "  does not contain any airports";
-    platform::ShowMessage(text, platform::Buttons::Ok, platform::Icon::Exclamation);
-}
-
 bool IsInSceneryFolder(const std::string& path) {
     return platform::UpperCased(path).find("SCENERY") != std::string::npos;
 }
 
 }  // namespace
+
+std::string FailureText(ScanResult result, const std::string& path) {
+    switch (result) {
+    case ScanResult::CannotOpen: return "Unable to open file \"" + path + "\"";
+    case ScanResult::NotScenery: return "Selected file  " + path + "  is not in recognised AFD format";
+    default: return "Selected file  " + path + "  does not contain any airports";
+    }
+}
 
 ScanResult ScanBglHeader(uint32_t file) {
     ++library.report.opened;
@@ -251,7 +251,7 @@ bool CollectAirportsFromFile(const std::string& path) {
     CloseProgress();
     if (result == ScanResult::AirportsFound) return true;
     ReleaseLibrary();
-    ShowFailure(result, path);
+    platform::ShowMessage(FailureText(result, path), platform::Buttons::Ok, platform::Icon::Exclamation);
     return false;
 }
 

@@ -24,4 +24,7 @@ enum class ScanResult { CannotOpen, NotScenery, NoAirports, AirportsFound };
 // out alike, counts as one without airports.
 ScanResult ScanBglHeader(uint32_t file);
 
+// Why a file shows no airports, in the words for the user; for all results but AirportsFound.
+std::string FailureText(ScanResult result, const std::string& path);
+
 }  // namespace bgl

@@ -14,15 +14,13 @@ namespace {
 
 constexpr std::string_view kAreaPrefix = "Area.";
 
-bool IsSeparator(char c) { return c == '\\' || c == '/'; }
-
 std::string_view WithoutLastSeparators(std::string_view path) {
-    while (!path.empty() && IsSeparator(path.back())) path.remove_suffix(1);
+    while (!path.empty() && platform::IsSeparator(path.back())) path.remove_suffix(1);
     return path;
 }
 
 bool IsFullPath(std::string_view path) {
-    const bool namesServer = path.size() >= 2 && IsSeparator(path[0]) && IsSeparator(path[1]);
+    const bool namesServer = path.size() >= 2 && platform::IsSeparator(path[0]) && platform::IsSeparator(path[1]);
     return namesServer || path.find(':') != std::string_view::npos;
 }
 
@@ -39,7 +37,7 @@ uint32_t ParseLayer(std::string_view text) {
 std::string FullPath(const std::string& simulatorFolder, std::string_view path) {
     path = WithoutLastSeparators(path);
     if (IsFullPath(path)) return std::string(path);
-    while (!path.empty() && IsSeparator(path.front())) path.remove_prefix(1);
+    while (!path.empty() && platform::IsSeparator(path.front())) path.remove_prefix(1);
     return std::string(WithoutLastSeparators(simulatorFolder)) + "\\" + std::string(path);
 }
 

@@ -76,9 +76,8 @@ void ShowCourse(HWND dialog) {
 }
 
 void Show(HWND dialog, const IlsFields& fields) {
-    for (const int label : { IDC_ILS_SLOPE_ELEVATION_LABEL, IDC_ILS_DME_ELEVATION_LABEL }) {
-        LabelUnit(dialog, label, "Elevation (", Unit::Elevation, " ASL)");
-    }
+    LabelUnit(dialog, IDC_ILS_SLOPE_ELEVATION_LABEL, "Ele&vation (", Unit::Elevation, " ASL)");
+    LabelUnit(dialog, IDC_ILS_DME_ELEVATION_LABEL, "Elevat&ion (", Unit::Elevation, " ASL)");
     for (const int label : { IDC_ILS_SLOPE_RANGE_LABEL, IDC_ILS_DME_RANGE_LABEL }) {
         LabelUnit(dialog, label, "Range (", Unit::Range, ")");
     }

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "platform/DialogWin.h"
+#include "platform/ListViewWin.h"
 #include "platform/WideTextWin.h"
 
 namespace dialogs {
@@ -154,21 +155,15 @@ bool IsPointerOnRow(const ListControl& list) {
 }
 
 int SelectedRow(const ListControl& list) {
-    if (IsListView(list))
-        return static_cast<int>(SendMessageW(list.rows, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+    if (IsListView(list)) return platform::SelectedListRow(list.rows);
     return static_cast<int>(SendMessageW(list.rows, LB_GETCURSEL, 0, 0));
 }
 
 void SelectRow(const ListControl& list, int row) {
-    if (!IsListView(list)) {
+    if (IsListView(list))
+        platform::SelectListRow(list.rows, row);
+    else
         SendMessageW(list.rows, LB_SETCURSEL, static_cast<WPARAM>(row), 0);
-        return;
-    }
-    LVITEMW item{};
-    item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
-    item.state = row < 0 ? 0 : item.stateMask;
-    SendMessageW(list.rows, LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
-    if (row >= 0) SendMessageW(list.rows, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
 }
 
 int TopRow(const ListControl& list) {
@@ -211,14 +206,8 @@ void DrawListHeader(const ListControl& list, const DRAWITEMSTRUCT& draw) {
 }
 
 void MarkSortedColumn(const ListControl& list, int column) {
-    const auto header = reinterpret_cast<HWND>(SendMessageW(list.rows, LVM_GETHEADER, 0, 0));
     for (int i = 0; i <= LastColumn(); ++i) {
-        HDITEMW item{};
-        item.mask = HDI_FORMAT;
-        const WPARAM index = static_cast<WPARAM>(i);
-        SendMessageW(header, HDM_GETITEMW, index, reinterpret_cast<LPARAM>(&item));
-        item.fmt = (item.fmt & ~HDF_SORTUP) | (i == column ? HDF_SORTUP : 0);
-        SendMessageW(header, HDM_SETITEMW, index, reinterpret_cast<LPARAM>(&item));
+        platform::MarkListColumn(list.rows, i, i == column ? platform::Sorted::Up : platform::Sorted::Not);
     }
 }
 

@@ -219,6 +219,17 @@ int RowBeginningWith(const std::vector<ListRow>& rows, int from, std::string_vie
     return -1;
 }
 
+int RowAfterTyping(const std::vector<ListRow>& rows, int selected, std::string_view character, uint32_t now,
+                   TypedWord* word) {
+    constexpr uint32_t kPause = 1000;  // milliseconds
+    if (now - word->at > kPause) word->text.clear();
+    const bool first = word->text.empty();
+    word->at = now;
+    word->text += character;
+    const int row = RowBeginningWith(rows, first ? selected + 1 : selected, word->text);
+    return row < 0 ? selected : row;
+}
+
 bool IsEntrySelected(const SceneryObject* object) {
     if (object) return true;
     platform::ShowMessage("You must select an entry in the list first", Buttons::Ok, Icon::Exclamation);

@@ -34,6 +34,17 @@ std::vector<std::string> CellsOf(const std::string& text);  // of a row or a hea
 // The first row from `from` on, around the end, of which a cell begins with what was typed; -1 when there is none.
 int RowBeginningWith(const std::vector<ListRow>& rows, int from, std::string_view typed);
 
+// What the user is typing to find a row. Whoever pauses for more than a second begins a new word.
+struct TypedWord {
+    std::string text;
+    uint32_t at = 0;  // milliseconds of a clock that may wrap
+};
+
+// The row that is selected after one more character: the next one that a new word begins, or where the longer word leads.
+// What goes on with no row stays at the selected one.
+int RowAfterTyping(const std::vector<ListRow>& rows, int selected, std::string_view character, uint32_t now,
+                   TypedWord* word);
+
 // Whether a row is selected; without one the message is shown.
 bool IsEntrySelected(const SceneryObject* object);
 

@@ -30,7 +30,6 @@ namespace {
 
 // How the parking list is sorted besides by a column.
 constexpr int kOriginalOrder = -1, kRandomOrder = -2;
-constexpr DWORD kTypingPause = 1000;  // milliseconds; whoever pauses longer begins a new word
 
 struct Window {
     ListKind kind;
@@ -43,8 +42,7 @@ struct Window {
     bool metric = false, metricRadius = false;
     int order = kOriginalOrder;  // or a ParkingKey
     bool filling = false;        // what the control reports is our own doing
-    std::wstring typed{};
-    DWORD typedAt = 0;
+    TypedWord typed{};
 };
 
 Window windows[] = {
@@ -154,17 +152,11 @@ bool IsHeld(const Window& window) {
 
 bool HasProperties(const Window& window) { return GetDlgItem(window.dialog, IDC_LIST_PROPERTIES) != nullptr; }
 
-// Beginnings of words, in any column. What goes on with no row stays where it is.
 void OnTyped(Window* window, wchar_t character) {
-    const DWORD now = GetTickCount();
-    if (now - window->typedAt > kTypingPause) window->typed.clear();
-    const bool first = window->typed.empty();
-    window->typedAt = now;
-    window->typed += character;
+    const std::string typed = platform::Utf8FromWide({ &character, 1 });
     const int selected = SelectedRow(window->list);
-    const int from = first ? selected + 1 : selected;
-    const int row = RowBeginningWith(window->rows, from, platform::Utf8FromWide(window->typed));
-    if (row < 0 || row == selected) return;
+    const int row = RowAfterTyping(window->rows, selected, typed, GetTickCount(), &window->typed);
+    if (row == selected) return;
     SelectRow(window->list, row);
     OnSelected(window);
 }
@@ -190,7 +182,8 @@ LRESULT CALLBACK RowsProc(HWND control, UINT message, WPARAM wParam, LPARAM lPar
         }
         break;
     case WM_CHAR:
-        if (wParam > L' ' || (wParam == L' ' && !window->typed.empty())) OnTyped(window, static_cast<wchar_t>(wParam));
+        if (wParam > L' ' || (wParam == L' ' && !window->typed.text.empty()))
+            OnTyped(window, static_cast<wchar_t>(wParam));
         return 0;
     case WM_HSCROLL:
         if (window->list.header) InvalidateRect(window->list.header, nullptr, TRUE);
@@ -206,7 +199,7 @@ INT_PTR OnInit(HWND dialog, LPARAM data) {
     Window* window = WindowOf(dialog);
     window->dialog = dialog;
     window->order = kOriginalOrder;
-    window->typed.clear();
+    window->typed = {};
     const HWND rows = GetDlgItem(dialog, IDC_LIST_ROWS);
     StartListControl(&window->list, rows, GetDlgItem(dialog, IDC_LIST_HEADER), ListHeader(window->kind));
     SetWindowSubclass(rows, RowsProc, 0, reinterpret_cast<DWORD_PTR>(window));

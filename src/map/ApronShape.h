@@ -10,6 +10,7 @@
 namespace map {
 
 constexpr uint32_t kSelectableVertices = 160;  // what the selection bits can name
+constexpr size_t kFewestCorners = 3;           // of an area; an apron that lost corners may have fewer
 
 std::vector<model::LatLon> ApronOutline(const model::SceneryObject* apron);  // bounded by the payload
 

@@ -25,7 +25,7 @@ using model::EncodedPoint;
 
 namespace {
 
-constexpr size_t kFewestCorners = 3, kMostCorners = 65535;
+constexpr size_t kMostCorners = 65535;
 
 bool Same(EncodedPoint a, EncodedPoint b) { return a.longitude == b.longitude && a.latitude == b.latitude; }
 

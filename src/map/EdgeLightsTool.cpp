@@ -42,15 +42,12 @@ bool FindStripEnd(Pixel at, EncodedPoint* point) {
     if (!lights || !IsDrawn(lights)) return false;
     const std::vector<Pixel>& ends = PartsOf(lights).stripEnds;
     const std::vector<EdgeLightStrip> strips = model::StripsOf(lights);
-    for (size_t i = 0; i < strips.size() && 2 * i + 1 < ends.size(); ++i) {
-        if (HitsCircle(at, ends[2 * i], kPointReach)) {
-            *point = { strips[i].startLongitude, strips[i].startLatitude };
-            return true;
-        }
-        if (HitsCircle(at, ends[2 * i + 1], kPointReach)) {
-            *point = { strips[i].endLongitude, strips[i].endLatitude };
-            return true;
-        }
+    for (size_t i = 0; i < std::min(ends.size(), 2 * strips.size()); ++i) {
+        if (!HitsCircle(at, ends[i], kPointReach)) continue;
+        const EdgeLightStrip& strip = strips[i / 2];
+        *point = i % 2 == 0 ? EncodedPoint{ strip.startLongitude, strip.startLatitude }
+                            : EncodedPoint{ strip.endLongitude, strip.endLatitude };
+        return true;
     }
     return false;
 }
@@ -149,10 +146,7 @@ void FinishStrip(Pixel pointer) {
 }
 
 void CancelStrip() {
-    if (drag.active) {
-        model::state.busy = false;
-        platform::RequestRepaint();
-    }
+    DropDrawing(drag.active);
     ForgetStrip();
 }
 

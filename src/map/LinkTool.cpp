@@ -233,10 +233,7 @@ void FinishLink(Pixel pointer) {
 }
 
 void CancelLink() {
-    if (drag.active) {
-        model::state.busy = false;
-        platform::RequestRepaint();
-    }
+    DropDrawing(drag.active);
     ForgetLink();
 }
 

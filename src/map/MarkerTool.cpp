@@ -92,10 +92,7 @@ void FinishGuideline(Pixel pointer) {
 }
 
 void CancelGuideline() {
-    if (drag.active) {
-        model::state.busy = false;
-        platform::RequestRepaint();
-    }
+    DropDrawing(drag.active);
     ForgetGuideline();
 }
 

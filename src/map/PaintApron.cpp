@@ -1,6 +1,7 @@
 // PaintApron.cpp - apron surfaces, selected aprons on top of everything, apron edge lights.
 //
-// An apron with single vertices selected keeps its surface colour; its vertices show which ones.
+// An apron with single vertices selected keeps its surface colour; its vertices show which ones. One that has too few of
+// them for an area shows those alone, selected or not: otherwise nobody could find it to mend or delete it.
 #include <array>
 #include <cmath>
 
@@ -32,18 +33,21 @@ std::vector<Point> OnScreen(const std::vector<model::LatLon>& positions) {
 
 void PaintApron(Painter* painter, SceneryObject* apron) {
     if (apron->flags & model::kOutlineOpen) return;
-    if (model::IsSelected(apron)) painter->apronSelected = true;
     const std::vector<Point> points = OnScreen(ApronOutline(apron));
-    if (points.size() < 3 || !Meets(BoundsOf(points), painter->clip)) return;
+    const bool hasArea = points.size() >= kFewestCorners;
+    if (model::IsSelected(apron) || !hasArea) painter->apronOnTop = true;
+    if (points.empty() || !Meets(BoundsOf(points), painter->clip)) return;
     std::vector<Pixel>& places = PlaceParts(apron).apron;
     for (const Point& point : points) places.push_back(ToPixel(point));
+    if (!hasArea) return;
     const Colour surface = ApronColour(model::PayloadAs<model::ApronHead>(apron).surface);
     Fill(*painter, IsWholeSelected(apron) ? InkOf(Ink::SelectedFill) : surface, OutlineInk(apron, Ink::ApronOutline));
     FillPolygon(painter->canvas, points);
 }
 
-void PaintSelectedApron(const Painter& painter, const SceneryObject* apron) {
-    if (!model::IsSelected(apron) || !IsDrawn(apron)) return;
+void PaintApronOnTop(const Painter& painter, const SceneryObject* apron) {
+    if (!IsDrawn(apron)) return;
+    if (!model::IsSelected(apron) && PartsOf(apron).apron.size() >= kFewestCorners) return;
     std::vector<Point> points = OnScreen(ApronOutline(apron));
     points.push_back(points.front());
     Stroke(painter, 2, InkOf(Ink::SelectedOutline));
@@ -97,8 +101,8 @@ void PaintAprons(Painter* painter) {
     ForEachOfKind(model::kApron, [&](SceneryObject* apron) { PaintApron(painter, apron); });
 }
 
-void PaintSelectedAprons(Painter* painter) {
-    ForEachOfKind(model::kApron, [&](SceneryObject* apron) { PaintSelectedApron(*painter, apron); });
+void PaintApronsOnTop(Painter* painter) {
+    ForEachOfKind(model::kApron, [&](SceneryObject* apron) { PaintApronOnTop(*painter, apron); });
 }
 
 void PaintApronEdgeLights(Painter* painter) {

@@ -109,7 +109,7 @@ void PaintMap(Canvas* canvas) {
     painter.network = BuildTaxiNetwork();
     PaintGround(&painter);
     PaintPlaces(&painter);
-    if (painter.apronSelected) PaintSelectedAprons(&painter);
+    if (painter.apronOnTop) PaintApronsOnTop(&painter);
     if (layers.lights) PaintApronEdgeLights(&painter);
     PaintReferenceMarkers(&painter);
     PaintGuidelines(&painter);

@@ -13,7 +13,7 @@ namespace map {
 
 namespace {
 
-constexpr double kShoulder = 7.5;            // metres of edge pavement beside the runway
+constexpr double kShoulder = 7.5;            // metres beside the runway: ICAO Annex 14, 3.2, 60 m with one of 45 m
 constexpr double kMostMetres = 30'000;       // beyond the length of any runway: a damaged record
 constexpr double kChevronStep = 30.48;       // 100 feet along the blast pad
 constexpr double kChevronStroke = 0.9144;    // 3 feet

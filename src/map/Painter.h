@@ -13,7 +13,7 @@ struct Painter {
     Box clip;      // nothing outside it is drawn
     double scale;  // pixels per metre
     TaxiNetwork network;
-    bool apronSelected = false;  // noted by PaintAprons
+    bool apronOnTop = false;  // noted by PaintAprons: there is one for PaintApronsOnTop
 };
 
 void Fill(const Painter& painter, Colour fill, Colour outline);  // pen one pixel wide
@@ -29,7 +29,7 @@ void ForEachOfKind(uint32_t kind, Paint paint);
 // Layers.
 void PaintToolPreview(Painter* painter);  // of the two tools that show on the ground what they will make
 void PaintAprons(Painter* painter);
-void PaintSelectedAprons(Painter* painter);
+void PaintApronsOnTop(Painter* painter);  // the selected ones and what is left of others
 void PaintGrid(Painter* painter);
 void PaintRunwayShoulders(Painter* painter);
 void PaintRunwaySurfaces(Painter* painter);

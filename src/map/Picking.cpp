@@ -75,7 +75,8 @@ int HitApron(const SceneryObject* object, Pixel at) {
     for (size_t i = 0; i < outline.size() && i < kSelectableVertices; ++i) {
         if (HitsCircle(at, outline[i], kPointReach)) return static_cast<int>(i) + 1;
     }
-    return Hit(InPolygon(at, outline));
+    if (outline.size() >= kFewestCorners) return Hit(InPolygon(at, outline));
+    return Hit(outline.size() == 2 && HitsSegment(at, outline[0], outline[1]));
 }
 
 // Points before segments: the ends of a segment would hide behind it.

@@ -1,8 +1,9 @@
 // RunwayMarkings.cpp - the paint on a runway, to scale.
 //
 // Dimensions follow FAA AC 150/5340-1 (given there in feet), those beside the centre line shrunk for
-// runways narrower than 150 feet. A mark too thin to see is drawn as a one-pixel line, the paler the
-// thinner it is, so that a runway keeps its look when the map is zoomed out.
+// runways narrower than 150 feet. That circular marks the touchdown zone of precision runways only; on others
+// the record's flag draws the plain pattern of ICAO Annex 14, 5.2.6. A mark too thin to see is drawn as a
+// one-pixel line, the paler the thinner it is, so that a runway keeps its look when the map is zoomed out.
 #include <algorithm>
 #include <cmath>
 #include <string>
@@ -32,6 +33,7 @@ constexpr double kInnerEdge = Feet(36);     // aiming point and touchdown marks,
 constexpr double kZoneStep = Feet(500), kZoneLength = Feet(75), kZoneWidth = Feet(6), kZoneGap = Feet(5);
 constexpr double kZoneMiddle = Feet(900);          // kept free of touchdown marks, each side of the middle
 constexpr int kZoneBars[] = { 3, 0, 2, 2, 1, 1 };  // at each step; the aiming point is at the second
+constexpr double kPlainZoneWidth = 3;              // metres, of the one bar that stands for any number of them
 constexpr double kDashLength = Feet(120), kDashGap = Feet(80);
 constexpr double kArrowLength = Feet(120), kArrowGap = Feet(80), kArrowHead = Feet(45), kArrowHeadWidth = Feet(15);
 constexpr double kHeadRoom = Feet(25);  // of the runway's width for each head of the row before a displaced threshold
@@ -144,15 +146,18 @@ void AimingPoint(const MarkPainter& marks, const RunwayEnd& end) {
     BarPair(marks, end.frame, kInnerEdge * shrink, kAimingWidth * shrink, near, length);
 }
 
+// A precision runway's bars tell how far it is to the threshold; on others there is one a side at every place.
 void TouchdownZone(const MarkPainter& marks, const RunwayEnd& end) {
     const double shrink = Shrink(*marks.runway);
+    const bool coded = (marks.runway->marks & kPrecision) != 0;
+    const double width = coded ? kZoneWidth : kPlainZoneWidth;
     double near = end.displaced;
     for (const int bars : kZoneBars) {
         near += kZoneStep;
         if (near + kZoneLength > marks.runway->length / 2 - kZoneMiddle) return;
-        for (int i = 0; i < bars; ++i) {
+        for (int i = 0; i < (coded ? bars : std::min(bars, 1)); ++i) {
             const double inner = (kInnerEdge + i * (kZoneWidth + kZoneGap)) * shrink;
-            BarPair(marks, end.frame, inner, kZoneWidth * shrink, near, kZoneLength);
+            BarPair(marks, end.frame, inner, width * shrink, near, kZoneLength);
         }
     }
 }
@@ -217,6 +222,12 @@ double MarkEnd(const MarkPainter& marks, const RunwayEnd& end) {
     return at > end.displaced ? at + kDesignationGap : at;
 }
 
+// By what the runway is used for: precision approaches, others by instruments (those have a marked threshold), by sight.
+double CentreLineWidth(uint16_t flags) {
+    if (flags & kPrecision) return Feet(3);
+    return flags & kThresholdStripes ? Feet(1.5) : Feet(1);
+}
+
 // Dashes of full length from end to end; the gaps between them give way.
 void CentreLine(const MarkPainter& marks, double primaryStart, double secondaryStart) {
     const RunwayShape& runway = *marks.runway;
@@ -224,10 +235,7 @@ void CentreLine(const MarkPainter& marks, double primaryStart, double secondaryS
     const double count = std::floor((room + kDashGap) / (kDashLength + kDashGap));
     if (count < 1) return;
     const double gap = count > 1 ? (room - count * kDashLength) / (count - 1) : 0;
-    const double half = ((runway.marks & kPrecision)          ? Feet(3)
-                         : (runway.marks & kThresholdStripes) ? Feet(1.5)
-                                                              : Feet(1)) /
-                        2;
+    const double half = CentreLineWidth(runway.marks) / 2;
     for (double i = 0; i < count; ++i) {
         const double near = primaryStart + i * (kDashLength + gap);
         Bar(marks, runway.ends[0].frame, -half, half, near, near + kDashLength);

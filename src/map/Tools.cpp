@@ -199,6 +199,12 @@ void CancelDrag() {
     model::state.busy = false;
 }
 
+void DropDrawing(bool underWay) {
+    if (!underWay) return;
+    model::state.busy = false;
+    platform::RequestRepaint();
+}
+
 bool CanEscape() { return (tools.pressed && Row().drags) || HasOutline(); }
 
 void Escape() {

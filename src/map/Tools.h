@@ -66,6 +66,9 @@ void OnDragTimer();
 // The button will not be released here: what was dragged is back where it was.
 void CancelDrag();
 
+// Of a tool that draws by a drag: what is under way is dropped without an edit.
+void DropDrawing(bool underWay);
+
 // Esc: cancels a drag; else closes the apron outline, or drops it when it has fewer than three corners or the file has
 // no room for another apron.
 bool CanEscape();

@@ -5,16 +5,19 @@
 
 namespace model {
 
-enum RunwayMarks : uint16_t {  // RunwayRecord::markings
+// RunwayRecord::markings. The three highest bits mean nothing to this simulator: they are carried and never drawn.
+enum RunwayMarks : uint16_t {
     kEdgeLines = 0x0001,
     kThresholdStripes = 0x0002,
     kAimingPoints = 0x0004,
     kTouchdownMarks = 0x0008,
     kCentreLine = 0x0010,
     kDesignation = 0x0020,
+    // All that a precision runway is marked with has a bit of its own. This one makes its centre line wide, its
+    // touchdown marks count the distance and its edge lights yellow toward the end; alone it marks nothing.
     kPrecision = 0x0040,
-    kEdgePavement = 0x0080,
-    kSingleEnd = 0x0100,  // no markings at the secondary end
+    kEdgePavement = 0x0080,  // paved shoulders along both sides: no marking, but it is kept with them
+    kSingleEnd = 0x0100,     // no markings at the secondary end
     kPrimaryClosed = 0x0200,
     kSecondaryClosed = 0x0400,
     kPrimaryStol = 0x0800,

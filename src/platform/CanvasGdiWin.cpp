@@ -239,6 +239,18 @@ void CloseGdiCanvas(GdiCanvas* gdi) {
     gdi->canvas = {};
 }
 
+PixelBitmap MakePixelBitmap(int width, int height) {
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = width;
+    info.bmiHeader.biHeight = -height;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    void* pixels = nullptr;
+    const HBITMAP handle = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
+    return { handle, static_cast<uint32_t*>(pixels) };
+}
+
 void FreeGdiFonts() {
     for (const Font& font : fonts) DeleteObject(font.handle);
     fonts.clear();

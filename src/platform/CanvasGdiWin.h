@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -31,6 +32,14 @@ GdiCanvas OpenGdiCanvas(HDC dc, double textScale);
 
 // Gives the device context back as it was; every pen, brush and region of ours is gone.
 void CloseGdiCanvas(GdiCanvas* gdi);
+
+// A bitmap to draw on whose pixels can be read, 0x00RRGGBB, top row first. The handle is the caller's; null when the
+// system has no memory for it. GdiFlush before reading.
+struct PixelBitmap {
+    HBITMAP handle = nullptr;
+    uint32_t* pixels = nullptr;
+};
+PixelBitmap MakePixelBitmap(int width, int height);
 
 // Frees the fonts that the canvases share; when the program ends or the resolution changes.
 void FreeGdiFonts();

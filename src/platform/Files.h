@@ -13,6 +13,8 @@
 
 namespace platform {
 
+constexpr bool IsSeparator(char c) { return c == '\\' || c == '/'; }
+
 struct OpenFile;  // a file opened for reading; defined by the system's own source file
 
 struct FileCloser {

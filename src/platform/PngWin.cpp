@@ -6,6 +6,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <new>
 #include <wincodec.h>
 
 namespace platform {
@@ -69,9 +70,7 @@ bool ReadBack(IStream* stream, std::vector<uint8_t>* bytes) {
     return SUCCEEDED(stream->Read(bytes->data(), static_cast<ULONG>(bytes->size()), &got)) && got == bytes->size();
 }
 
-}  // namespace
-
-bool PngFile(std::span<const uint32_t> pixels, uint32_t width, uint32_t height, std::vector<uint8_t>* bytes) {
+bool Encode(std::span<const uint32_t> pixels, uint32_t width, uint32_t height, std::vector<uint8_t>* bytes) {
     Held<IWICImagingFactory> factory;
     Held<IStream> stream;
     Held<IWICBitmapEncoder> encoder;
@@ -83,6 +82,17 @@ bool PngFile(std::span<const uint32_t> pixels, uint32_t width, uint32_t height, 
     return OpenFrame(factory.it, stream.it, &encoder.it, &frame.it) && SUCCEEDED(frame.it->SetSize(width, height)) &&
            IsFormatTaken(frame.it) && WriteRows(frame.it, pixels, width) && SUCCEEDED(frame.it->Commit()) &&
            SUCCEEDED(encoder.it->Commit()) && ReadBack(stream.it, bytes);
+}
+
+}  // namespace
+
+// A picture may ask for more memory than everything else together; for want of it the airport must not be lost.
+bool PngFile(std::span<const uint32_t> pixels, uint32_t width, uint32_t height, std::vector<uint8_t>* bytes) {
+    try {
+        return Encode(pixels, width, height, bytes);
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
 }
 
 }  // namespace platform

@@ -19,6 +19,9 @@ model::SceneryObject* MakeIls(const AirportPlan& plan, const RunwayPlan& runway,
 // Outer, middle and, for approach lights with flashing rows, inner marker of an end with an ILS.
 std::vector<model::SceneryObject*> MakeMarkers(const AirportPlan& plan, const RunwayPlan& runway, int end);
 
+// The taxi network of the plan with its parking spots and names. `runways` are those of the plan, in its order.
+void AppendNetwork(const AirportPlan& plan, const std::vector<model::SceneryObject*>& runways);
+
 // Helpers for the fields of records.
 model::EncodedPoint Encoded(const AirportPlan& plan, Local place);
 int32_t Millimetres(double metres);

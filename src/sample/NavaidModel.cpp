@@ -1,7 +1,9 @@
 // NavaidModel.cpp - see NavaidModel.h.
 #include "sample/NavaidModel.h"
 
+#include <algorithm>
 #include <cmath>
+#include <span>
 
 #include "model/Ident.h"
 #include "model/Records.h"
@@ -23,23 +25,26 @@ constexpr uint8_t kTerminalVor = 1, kLowVor = 2, kHighVor = 3;
 constexpr uint8_t kNavTrue = 0x20;
 constexpr uint32_t kVorLowBits = 2, kNdbLowBits = 3;
 
-struct VorClass {
-    std::string_view usage;
+// By a word of the table: the kind in the record and the range.
+struct NavaidClass {
+    std::string_view word;
     uint8_t type;
-    double miles;  // range, nautical miles
+    double miles;  // nautical
 };
-constexpr VorClass kVorClasses[] = { { "TERMINAL", kTerminalVor, 25 },
-                                     { "LO", kLowVor, 40 },
-                                     { "HI", kHighVor, 100 },
-                                     { "BOTH", kHighVor, 100 },
-                                     { "RNAV", kHighVor, 100 } };
+constexpr NavaidClass kVorClasses[] = { { "TERMINAL", kTerminalVor, 25 },
+                                        { "LO", kLowVor, 40 },
+                                        { "HI", kHighVor, 100 },
+                                        { "BOTH", kHighVor, 100 },
+                                        { "RNAV", kHighVor, 100 } };
+constexpr NavaidClass kNdbClasses[] = { { "LOW", 1, 25 },  // type: 0 compass point, 1 MH, 2 H, 3 HH
+                                        { "MEDIUM", 2, 50 },
+                                        { "HIGH", 3, 75 } };
 
-struct NdbClass {
-    std::string_view power;
-    uint16_t type;  // 0 compass point, 1 MH, 2 H, 3 HH
-    double miles;
-};
-constexpr NdbClass kNdbClasses[] = { { "LOW", 1, 25 }, { "MEDIUM", 2, 50 }, { "HIGH", 3, 75 } };
+const NavaidClass& ClassOf(std::span<const NavaidClass> classes, std::string_view word, size_t otherwise) {
+    const auto known = std::find_if(classes.begin(), classes.end(),
+                                    [&](const NavaidClass& row) { return platform::EqualNoCase(row.word, word); });
+    return known == classes.end() ? classes[otherwise] : *known;
+}
 
 float Range(double miles) { return static_cast<float>(miles * model::kMetresPerNauticalMile); }
 
@@ -58,10 +63,7 @@ bool IsVhf(double kilohertz) { return kilohertz >= 108000 && kilohertz < 118000;
 double VhfOf(const NavaidRow& row) { return IsVhf(row.frequency) ? row.frequency : row.dmeFrequency; }
 
 SceneryObject* MakeVor(const NavaidRow& row, bool vor, bool dme) {
-    VorClass kind = kVorClasses[0];
-    for (const VorClass& known : kVorClasses) {
-        if (platform::EqualNoCase(known.usage, row.usage)) kind = known;
-    }
+    const NavaidClass& kind = ClassOf(kVorClasses, row.usage, 0);
     SceneryObject* object = model::CreateObject(model::kVorDme, sizeof(model::VorDmePayload));
     auto& payload = PayloadAs<model::VorDmePayload>(object);
     const model::EncodedPoint at = Encoded(row.position);
@@ -83,10 +85,7 @@ SceneryObject* MakeVor(const NavaidRow& row, bool vor, bool dme) {
 }
 
 SceneryObject* MakeNdb(const NavaidRow& row) {
-    NdbClass kind = kNdbClasses[1];
-    for (const NdbClass& known : kNdbClasses) {
-        if (platform::EqualNoCase(known.power, row.power)) kind = known;
-    }
+    const NavaidClass& kind = ClassOf(kNdbClasses, row.power, 1);
     SceneryObject* object = model::CreateObject(model::kNdb, sizeof(model::NdbPayload));
     auto& payload = PayloadAs<model::NdbPayload>(object);
     const model::EncodedPoint at = Encoded(row.position);

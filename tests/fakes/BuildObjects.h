@@ -141,6 +141,19 @@ inline model::SceneryObject* Ils(std::string_view ident, Place place = {}) {
     return object;
 }
 
+// With a glide slope and a DME at places of their own.
+inline model::SceneryObject* IlsWithParts(std::string_view ident, Place place, Place slopePlace, Place dmePlace) {
+    model::SceneryObject* object = Ils(ident, place);
+    auto& payload = model::PayloadAs<model::IlsPayload>(object);
+    payload.body.flags = model::kHasGlideSlope | model::kHasDme;
+    const model::EncodedPoint slope = Encoded(slopePlace), dme = Encoded(dmePlace);
+    payload.glideSlope.longitude = slope.longitude;
+    payload.glideSlope.latitude = slope.latitude;
+    payload.dme.longitude = dme.longitude;
+    payload.dme.latitude = dme.latitude;
+    return object;
+}
+
 inline model::SceneryObject* Ndb(Place place = {}) { return Placed<model::NdbPayload>(model::kNdb, place); }
 inline model::SceneryObject* Vor(Place place = {}) { return Placed<model::VorDmePayload>(model::kVorDme, place); }
 

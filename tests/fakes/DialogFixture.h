@@ -48,5 +48,14 @@ protected:
         return model::PayloadAs<Record>(object);
     }
 
+    // The dialog of an object is opened, its fields are changed and OK is pressed. Whether that was accepted.
+    template <auto load, auto store, class Change>
+    bool OkAfter(model::SceneryObject* object, Change change) {
+        const auto shown = load(object);
+        auto entered = shown;
+        change(entered);
+        return store(shown, entered, object, &bad);
+    }
+
     dialogs::BadField bad;
 };

@@ -5,6 +5,7 @@
 #include "app/AppState.h"
 #include "app/Settings.h"
 #include "FakePlatform.h"
+#include "FakePrinter.h"
 #include "faults/FaultFinder.h"
 #include "map/MapView.h"
 #include "map/Tools.h"
@@ -21,6 +22,7 @@ void ResetProgram() {
     map::layers = {};
     map::tools = {};
     fakeShell = {};
+    fakePrinter = {};
 }
 
 namespace faults {
@@ -67,8 +69,6 @@ bool StartCommand(const std::string& command) {
 }
 
 void ShowPageSetup() { ++fakeShell.pageSetups; }
-
-void PrintAirportMap() { ++fakeShell.prints; }
 
 bool AskPicturePath(const PictureQuestion& question, PictureAnswer* answer) {
     fakeShell.pictureQuestions.push_back(question);

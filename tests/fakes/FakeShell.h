@@ -21,7 +21,7 @@ struct FakeShell {
     int openDialogs = 0, recentRefreshes = 0;
     int optionsDialogs = 0;
     std::vector<std::string> aircraftEditors;  // the simulator folder of each
-    int pageSetups = 0, prints = 0, faultFinders = 0;
+    int pageSetups = 0, faultFinders = 0;
     std::vector<app::PictureQuestion> pictureQuestions;
     std::optional<app::PictureAnswer> pictureAnswer;  // none: the user cancels
     std::vector<map::PictureSize> metafiles, pngs;    // that were drawn

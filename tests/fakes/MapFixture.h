@@ -47,6 +47,22 @@ protected:
     }
     static platform::Pixel PixelOf(build::Place place) { return map::WorldToPixel(build::At(place)); }
 
+    // After something else than the screen was drawn. The places on the screen are those of the last painting.
+    static void ExpectViewAsBefore(const map::MapView& before) {
+        EXPECT_EQ(map::view.centre.lat, before.centre.lat);
+        EXPECT_EQ(map::view.centre.lon, before.centre.lon);
+        EXPECT_EQ(map::view.span, before.span);
+        EXPECT_EQ(map::view.pixelsPerMetre, before.pixelsPerMetre);
+        EXPECT_EQ(map::view.rotation, before.rotation);
+        EXPECT_EQ(map::view.clientWidth, before.clientWidth);
+        EXPECT_EQ(map::view.clientHeight, before.clientHeight);
+        EXPECT_EQ(map::view.screenCentreX, before.screenCentreX);
+        EXPECT_EQ(map::view.screenCentreY, before.screenCentreY);
+        EXPECT_EQ(map::view.fineness, 1);
+        EXPECT_EQ(map::view.lastDragPoint, before.lastDragPoint);
+        EXPECT_GT(fake.repaints, 0) << "or clicks would meet the places of the other picture";
+    }
+
     static void Paint(RecordingCanvas* log) { map::PaintMap(&log->canvas); }
     static void Paint() {
         RecordingCanvas log;

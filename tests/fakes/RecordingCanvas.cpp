@@ -68,6 +68,33 @@ void Text(void* target, const TextRun& run) {
 
 constexpr CanvasCalls kRecord = { Pen, Brush, Line, Polyline, Polygon, Ellipse, DrawnPath, Clip, Unclip, Text };
 
+using platform::Canvas;
+
+constexpr struct {
+    const char* name;
+    void (*issue)(Canvas* canvas, const CanvasCall& call);
+} kIssued[] = {
+    { "pen", [](Canvas* to, const CanvasCall& call) { to->calls->selectPen(to->target, call.penWidth, call.pen); } },
+    { "brush", [](Canvas* to, const CanvasCall& call) { to->calls->selectBrush(to->target, call.brush); } },
+    { "line", [](Canvas* to, const CanvasCall& call) { to->calls->line(to->target, call.points[0], call.points[1]); } },
+    { "polyline", [](Canvas* to, const CanvasCall& call) { to->calls->polyline(to->target, call.points); } },
+    { "polygon", [](Canvas* to, const CanvasCall& call) { to->calls->polygon(to->target, call.points); } },
+    { "ellipse",
+      [](Canvas* to, const CanvasCall& call) {
+          const Pixel first = call.points[0], last = call.points[1];
+          to->calls->ellipse(to->target, { first.x, first.y, last.x, last.y });
+      } },
+    { "path", [](Canvas* to, const CanvasCall& call) { to->calls->path(to->target, call.path); } },
+    { "clip", [](Canvas* to, const CanvasCall& call) { to->calls->pushClip(to->target, call.path); } },
+    { "unclip", [](Canvas* to, const CanvasCall&) { to->calls->popClip(to->target); } },
+    { "text",
+      [](Canvas* to, const CanvasCall& call) {
+          TextRun run = call.run;
+          run.text = call.text;
+          to->calls->text(to->target, run);
+      } },
+};
+
 CallCounts& Counts(void* target) { return *static_cast<CallCounts*>(target); }
 
 void Count(void* target, size_t points) {
@@ -138,6 +165,21 @@ int RecordingCanvas::FirstWith(Colour colour) const {
         ++index;
     }
     return -1;
+}
+
+std::vector<ReplayStep> ReplaySteps(const std::vector<CanvasCall>& calls) {
+    std::vector<ReplayStep> steps;
+    steps.reserve(calls.size());
+    for (const CanvasCall& call : calls) {
+        for (const auto& row : kIssued) {
+            if (call.name == row.name) steps.push_back({ row.issue, &call });
+        }
+    }
+    return steps;
+}
+
+void Replay(const std::vector<ReplayStep>& steps, Canvas* canvas) {
+    for (const ReplayStep& step : steps) step.issue(canvas, *step.call);
 }
 
 platform::Canvas CountingCanvas(CallCounts* counts) {

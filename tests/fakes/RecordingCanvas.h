@@ -1,4 +1,4 @@
-// RecordingCanvas.h - a canvas that writes down every call, and one that only counts them.
+// RecordingCanvas.h - a canvas that writes down every call, its calls issued again, and a canvas that only counts.
 #pragma once
 
 #include <cstdint>
@@ -39,6 +39,14 @@ struct RecordingCanvas {
     // Index of the first drawing call with the fill or pen; -1 when there is none.
     int FirstWith(platform::Colour colour) const;
 };
+
+// What was written down, ready to be issued again without looking at names. The calls must outlive the steps.
+struct ReplayStep {
+    void (*issue)(platform::Canvas* canvas, const CanvasCall& call);
+    const CanvasCall* call;
+};
+std::vector<ReplayStep> ReplaySteps(const std::vector<CanvasCall>& calls);
+void Replay(const std::vector<ReplayStep>& steps, platform::Canvas* canvas);  // past the canvas's caches
 
 struct CallCounts {
     uint64_t pens = 0, brushes = 0, shapes = 0, points = 0, texts = 0, clips = 0;

@@ -24,10 +24,7 @@ protected:
 
     template <class Change>
     bool Edit(Change change) {
-        const dialogs::RunwayFields shown = dialogs::LoadRunwayFields(runway);
-        dialogs::RunwayFields entered = shown;
-        change(entered);
-        return dialogs::StoreRunwayFields(shown, entered, runway, &bad);
+        return OkAfter<dialogs::LoadRunwayFields, dialogs::StoreRunwayFields>(runway, change);
     }
     // The payload bytes that differ from `before`.
     std::vector<size_t> Changed(const std::vector<uint8_t>& before) {

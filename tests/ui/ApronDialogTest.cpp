@@ -27,9 +27,7 @@ TEST_F(ApronDialogTest, SurfaceAndDrawingOfAnApronAreKeptAndUndone) {
     EXPECT_TRUE(IsSet(dialog, IDC_DRAW_SURFACE));
     Choose(dialog, IDC_APRON_SURFACE, other);
     Toggle(dialog, IDC_DRAW_SURFACE);
-    CloseDialog(dialog, IDOK);
-    dialog = OpenByDoubleClick(inside, kApron);
-    ASSERT_NE(dialog, nullptr);
+    ASSERT_NE(dialog = Reopen(dialog, IDOK, inside, kApron), nullptr);
     EXPECT_EQ(Choice(dialog, IDC_APRON_SURFACE), other);
     EXPECT_FALSE(IsSet(dialog, IDC_DRAW_SURFACE));
     CloseDialog(dialog, IDCANCEL);
@@ -47,9 +45,7 @@ TEST_F(ApronDialogTest, CancelAndAnUnchangedOkOfAnApronAreNoEdit) {
     HWND dialog = OpenByDoubleClick(inside, kApron);
     ASSERT_NE(dialog, nullptr);
     Toggle(dialog, IDC_DRAW_SURFACE);
-    CloseDialog(dialog, IDCANCEL);
-    dialog = OpenByDoubleClick(inside, kApron);
-    ASSERT_NE(dialog, nullptr);
+    ASSERT_NE(dialog = Reopen(dialog, IDCANCEL, inside, kApron), nullptr);
     EXPECT_TRUE(IsSet(dialog, IDC_DRAW_SURFACE));
     CloseDialog(dialog, IDOK);
     EXPECT_EQ(Undoes(), 1) << "more than the drawing of the apron";
@@ -91,9 +87,7 @@ TEST_F(ApronDialogTest, EveryFieldOfTheLightsIsKept) {
     EXPECT_FALSE(IsSet(dialog, IDC_ADJUST_SPACING));
     Enter(dialog, IDC_SPACING, L"150");
     Enter(dialog, IDC_BRIGHTNESS, L"6.5");
-    CloseDialog(dialog, IDOK);
-    dialog = OpenByDoubleClick(lamps, kEdgeLights);
-    ASSERT_NE(dialog, nullptr);
+    ASSERT_NE(dialog = Reopen(dialog, IDOK, lamps, kEdgeLights), nullptr);
     EXPECT_EQ(Shown(dialog, IDC_SPACING), "150.0");
     EXPECT_EQ(Shown(dialog, IDC_BRIGHTNESS), "6.5");
     CloseDialog(dialog, IDOK);
@@ -110,17 +104,13 @@ TEST_F(ApronDialogTest, TheSpacingIsThatOfTheSelectedStrip) {
     EXPECT_EQ(Shown(dialog, IDC_OPTIMUM_LABEL), "&Optimum Light Spacing (m)");
     EXPECT_EQ(Shown(dialog, IDC_SPACING), "61.0");
     Enter(dialog, IDC_SPACING, L"30");
-    CloseDialog(dialog, IDOK);
-    dialog = OpenByDoubleClick(first, kEdgeLights);
-    ASSERT_NE(dialog, nullptr);
+    ASSERT_NE(dialog = Reopen(dialog, IDOK, first, kEdgeLights), nullptr);
     EXPECT_EQ(Shown(dialog, IDC_SPACING), "61.0");
     CloseDialog(dialog, IDCANCEL);
     AddToSelection(second);
     dialog = OpenWithShift(first, kEdgeLights);
     ASSERT_NE(dialog, nullptr);
-    CloseDialog(dialog, IDCANCEL);
-    dialog = OpenByDoubleClick(second, kEdgeLights);
-    ASSERT_NE(dialog, nullptr);
+    ASSERT_NE(dialog = Reopen(dialog, IDCANCEL, second, kEdgeLights), nullptr);
     EXPECT_EQ(Shown(dialog, IDC_SPACING), "30.0");
     CloseDialog(dialog, IDCANCEL);
 }
@@ -132,9 +122,7 @@ TEST_F(ApronDialogTest, AdjustEndsTheStripsAtALampAndHoldsForNewOnes) {
     ASSERT_NE(dialog, nullptr);
     Toggle(dialog, IDC_ADJUST_SPACING);
     Enter(dialog, IDC_OPTIMUM, L"170");
-    CloseDialog(dialog, IDOK);
-    dialog = OpenByDoubleClick(lamps, kEdgeLights);
-    ASSERT_NE(dialog, nullptr);
+    ASSERT_NE(dialog = Reopen(dialog, IDOK, lamps, kEdgeLights), nullptr);
     EXPECT_TRUE(IsSet(dialog, IDC_ADJUST_SPACING));
     EXPECT_EQ(Shown(dialog, IDC_OPTIMUM), "170.0");
     const std::string adjusted = Shown(dialog, IDC_SPACING);

@@ -79,8 +79,6 @@ protected:
         return different;
     }
 
-    bool CanUndo() const { return !IsGreyed(IDM_UNDO); }
-
     POINT ground = {};
 };
 

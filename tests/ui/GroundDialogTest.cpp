@@ -18,9 +18,7 @@ TEST_F(GroundDialogTest, EveryFieldOfANodeIsKept) {
     Choose(dialog, IDC_NODE_TYPE, 1);
     EXPECT_TRUE(IsWindowVisible(ChildWithId(dialog, IDC_REVERSE_MARKER)));
     Toggle(dialog, IDC_REVERSE_MARKER);
-    CloseDialog(dialog, IDOK);
-    dialog = OpenByDoubleClick(ground, kNode);
-    ASSERT_NE(dialog, nullptr);
+    ASSERT_NE(dialog = Reopen(dialog, IDOK, ground, kNode), nullptr);
     EXPECT_EQ(Choice(dialog, IDC_NODE_TYPE), 1);
     EXPECT_TRUE(IsSet(dialog, IDC_REVERSE_MARKER));
     CloseDialog(dialog, IDCANCEL);
@@ -58,9 +56,7 @@ TEST_F(GroundDialogTest, FieldsOfALinkAreKept) {
     Toggle(dialog, IDC_RIGHT_DASHED);
     Toggle(dialog, IDC_CENTRE_LIGHTS);
     const bool lights = IsSet(dialog, IDC_CENTRE_LIGHTS);
-    CloseDialog(dialog, IDOK);
-    dialog = OpenByDoubleClick(middle, kLink);
-    ASSERT_NE(dialog, nullptr);
+    ASSERT_NE(dialog = Reopen(dialog, IDOK, middle, kLink), nullptr);
     EXPECT_EQ(Choice(dialog, IDC_LINK_SURFACE), 4);
     EXPECT_EQ(Shown(dialog, IDC_LINK_WIDTH), "120");
     EXPECT_TRUE(IsSet(dialog, IDC_RIGHT_DASHED));
@@ -79,9 +75,7 @@ TEST_F(GroundDialogTest, CodesOfASpotAreCheckedAndKept) {
                   IDC_SPOT_CODES);
     Enter(dialog, IDC_SPOT_CODES, L"jal,klm");
     Enter(dialog, IDC_SPOT_HEADING, L"123.4");
-    CloseDialog(dialog, IDOK);
-    dialog = OpenByDoubleClick(ground, kSpot);
-    ASSERT_NE(dialog, nullptr);
+    ASSERT_NE(dialog = Reopen(dialog, IDOK, ground, kSpot), nullptr);
     EXPECT_EQ(Shown(dialog, IDC_SPOT_CODES), "JAL,KLM");
     EXPECT_EQ(Shown(dialog, IDC_SPOT_HEADING), "123.4");
     CloseDialog(dialog, IDCANCEL);

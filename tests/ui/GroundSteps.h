@@ -51,6 +51,12 @@ protected:
         return Beside(kApart / 2, dy);
     }
 
+    // Answers the dialog and opens that of what lies there.
+    HWND Reopen(HWND dialog, int button, POINT at, const wchar_t* title) {
+        CloseDialog(dialog, button);
+        return OpenByDoubleClick(at, title);
+    }
+
     // Adds what lies there to the selection.
     void AddToSelection(POINT at) {
         SendClick(mainWindow, at.x, at.y, MK_SHIFT);

@@ -301,6 +301,41 @@ TEST_F(KeyboardTest, WhatStandsInAListIsMadeAndChangedByKeys) {
     }
 }
 
+// Nearly every letter is taken in this dialog.
+TEST_F(KeyboardTest, EachLetterOfTheIlsDialogLeadsToItsField) {
+    constexpr struct {
+        WORD letter;
+        int control;
+    } kLetters[] = {
+        { 'F', IDC_NAV_IDENT },           { 'N', IDC_NAV_NAME },
+        { 'Q', IDC_NAV_FREQUENCY },       { 'R', IDC_NAV_RUNWAY },
+        { 'X', IDC_ILS_SUFFIX },          { 'L', IDC_NAV_LATITUDE },
+        { 'O', IDC_NAV_LONGITUDE },       { 'E', IDC_NAV_ELEVATION },
+        { 'C', IDC_NAV_VARIATION },       { 'T', IDC_NAV_HEADING },
+        { 'W', IDC_ILS_WIDTH },           { 'A', IDC_ILS_SLOPE_LATITUDE },
+        { 'U', IDC_ILS_SLOPE_LONGITUDE }, { 'V', IDC_ILS_SLOPE_ELEVATION },
+        { 'S', IDC_ILS_SLOPE_PITCH },     { 'D', IDC_ILS_DME_LATITUDE },
+        { 'G', IDC_ILS_DME_LONGITUDE },   { 'I', IDC_ILS_DME_ELEVATION },
+        { 'B', IDC_ILS_BACK_COURSE },  // the boxes last: they switch fields off
+        { 'P', IDC_ILS_SLOPE },           { 'M', IDC_ILS_DME },
+    };
+    StartWithSample("hub");
+    ASSERT_TRUE(BringToFront(mainWindow));
+    const HWND list = OpenBy(IDM_LIST_NAVAIDS, kNavaids);
+    ASSERT_NE(list, nullptr);
+    ASSERT_NO_FATAL_FAILURE(FindRow(list, L"ISNQ"));
+    TapKey(VK_RETURN);
+    const HWND dialog = DialogWithKeys(L"ILS Properties");
+    ASSERT_NE(dialog, nullptr);
+    for (const auto& row : kLetters) {
+        TapKey(row.letter, { VK_MENU });
+        EXPECT_TRUE(WaitUntil([&] { return FocusOf(agent) == ChildWithId(dialog, row.control); }))
+            << "Alt+" << static_cast<char>(row.letter) << " leads to control " << GetDlgCtrlID(FocusOf(agent));
+    }
+    ASSERT_NO_FATAL_FAILURE(Leave(dialog, VK_ESCAPE, list));
+    Leave(list, VK_ESCAPE, mainWindow);
+}
+
 TEST_F(KeyboardTest, AFrequencyIsInsertedByKeys) {
     StartWithSample("hub");
     ASSERT_TRUE(BringToFront(mainWindow));

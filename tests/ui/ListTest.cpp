@@ -4,79 +4,14 @@
 #include <tuple>
 #include <vector>
 
-#include "EditorSteps.h"
-#include "ListIds.h"
+#include "ListSteps.h"
 #include "NavaidIds.h"
 #include "OptionsIds.h"
 #include "StandInBrowser.h"
 
 namespace ui {
 
-constexpr wchar_t kNavaidList[] = L"NAVAID List", kRunwayList[] = L"Runway List", kParkingList[] = L"Parking List",
-                  kStartList[] = L"Start Locations List", kDesignatorList[] = L"Taxiway Designator List",
-                  kCommList[] = L"Comm Frequencies List", kComm[] = L"COMM Frequency Properties",
-                  kParkingProperties[] = L"Parking Properties";
-constexpr int kParkingColumns = 4;
-
-class ListTest : public EditorTest {
-protected:
-    static HWND Rows(HWND dialog) { return ChildWithId(dialog, IDC_LIST_ROWS); }
-    static bool IsListView(HWND dialog) { return ClassOf(Rows(dialog)) == WC_LISTVIEWW; }
-    static int Count(HWND dialog) {
-        const UINT ask = IsListView(dialog) ? LVM_GETITEMCOUNT : LB_GETCOUNT;
-        return static_cast<int>(SendMessageW(Rows(dialog), ask, 0, 0));
-    }
-    static std::string Row(HWND dialog, int row) {
-        if (!IsListView(dialog)) return Utf8(ListBoxText(Rows(dialog), row));
-        std::string text;
-        for (int column = 0; column < kParkingColumns; ++column) {
-            text += (column ? "\t" : "") + Utf8(ListText(Rows(dialog), row, column));
-        }
-        return text;
-    }
-    static std::vector<std::string> AllRows(HWND dialog) {
-        std::vector<std::string> rows;
-        for (int row = 0; row < Count(dialog); ++row) rows.push_back(Row(dialog, row));
-        return rows;
-    }
-    static int Selected(HWND dialog) {
-        if (IsListView(dialog))
-            return static_cast<int>(
-                SendMessageW(Rows(dialog), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
-        return static_cast<int>(SendMessageW(Rows(dialog), LB_GETCURSEL, 0, 0));
-    }
-    static void Select(HWND dialog, int row) {
-        if (IsListView(dialog))
-            SelectListRow(Rows(dialog), row);
-        else
-            PickInListBox(Rows(dialog), row);
-        Settle(dialog);
-    }
-    static int RowThatBegins(HWND dialog, const std::string& text) {
-        const std::vector<std::string> rows = AllRows(dialog);
-        const auto found =
-            std::find_if(rows.begin(), rows.end(), [&](const auto& row) { return row.starts_with(text); });
-        return found == rows.end() ? -1 : static_cast<int>(found - rows.begin());
-    }
-    static int RowWith(HWND dialog, const std::string& text) {
-        const std::vector<std::string> rows = AllRows(dialog);
-        const auto found = std::find_if(rows.begin(), rows.end(),
-                                        [&](const auto& row) { return row.find(text) != std::string::npos; });
-        return found == rows.end() ? -1 : static_cast<int>(found - rows.begin());
-    }
-    bool WaitForCount(HWND dialog, int count) const {
-        return WaitUntil([&] { return Count(dialog) == count; });
-    }
-    void ExpectMessage(HWND dialog, int button, const std::string& text) {
-        PressButton(dialog, button);
-        const Box box = MessageBoxUp();
-        EXPECT_EQ(Utf8(box.text), text);
-        EXPECT_FALSE(IsWindowEnabled(dialog)) << "the box is modal";
-        EXPECT_FALSE(IsWindowEnabled(mainWindow)) << "the box is modal for the map too";
-        Answer(box, box.buttons.back());
-        EXPECT_TRUE(WaitUntil([&] { return IsWindowEnabled(dialog) && IsWindowEnabled(mainWindow); }));
-    }
-};
+class ListTest : public ListFixture {};
 
 TEST_F(ListTest, EachListHasItsTextsAndRows) {
     const struct {
@@ -124,8 +59,7 @@ TEST_F(ListTest, EachListHasItsTextsAndRows) {
 }
 
 TEST_F(ListTest, AListThatIsOpenComesToTheFrontInsteadOfASecondOne) {
-    StartWithSample("hub");
-    const HWND dialog = Open(IDM_LIST_RUNWAYS, kRunwayList);
+    const HWND dialog = StartWithList(IDM_LIST_RUNWAYS, kRunwayList);
     ASSERT_NE(dialog, nullptr);
     const HWND other = Open(IDM_LIST_COMMS, kCommList);
     ASSERT_NE(other, nullptr);
@@ -148,8 +82,7 @@ TEST_F(ListTest, WithoutASelectedRowAMessageSaysSo) {
 }
 
 TEST_F(ListTest, DeletingGoesOnToTheNextRowAndUndoBringsTheRowBack) {
-    StartWithSample("hub");
-    const HWND dialog = Open(IDM_LIST_STARTS, kStartList);
+    const HWND dialog = StartWithList(IDM_LIST_STARTS, kStartList);
     ASSERT_NE(dialog, nullptr);
     const std::vector<std::string> before = AllRows(dialog);
     ASSERT_GE(before.size(), 3u);
@@ -164,8 +97,7 @@ TEST_F(ListTest, DeletingGoesOnToTheNextRowAndUndoBringsTheRowBack) {
 }
 
 TEST_F(ListTest, ASelectedRowIsWhatTheMapDeletes) {
-    StartWithSample("hub");
-    const HWND dialog = Open(IDM_LIST_STARTS, kStartList);
+    const HWND dialog = StartWithList(IDM_LIST_STARTS, kStartList);
     ASSERT_NE(dialog, nullptr);
     const std::vector<std::string> before = AllRows(dialog);
     Select(dialog, 2);
@@ -177,8 +109,7 @@ TEST_F(ListTest, ASelectedRowIsWhatTheMapDeletes) {
 }
 
 TEST_F(ListTest, ADesignatorIsNothingThatTheMapDeletes) {
-    StartWithSample("hub");
-    const HWND dialog = Open(IDM_LIST_DESIGNATORS, kDesignatorList);
+    const HWND dialog = StartWithList(IDM_LIST_DESIGNATORS, kDesignatorList);
     ASSERT_NE(dialog, nullptr);
     const int count = Count(dialog);
     Select(dialog, 1);
@@ -189,8 +120,7 @@ TEST_F(ListTest, ADesignatorIsNothingThatTheMapDeletes) {
 }
 
 TEST_F(ListTest, ADesignatorInUseGoesOnlyWhenTheUserAgrees) {
-    StartWithSample("hub");
-    const HWND dialog = Open(IDM_LIST_DESIGNATORS, kDesignatorList);
+    const HWND dialog = StartWithList(IDM_LIST_DESIGNATORS, kDesignatorList);
     ASSERT_NE(dialog, nullptr);
     const int count = Count(dialog);
     Select(dialog, RowThatBegins(dialog, "\" \" (blank)\t"));
@@ -215,8 +145,7 @@ TEST_F(ListTest, ADesignatorInUseGoesOnlyWhenTheUserAgrees) {
 }
 
 TEST_F(ListTest, AStockIlsCannotBeDeleted) {
-    StartWithSample("hub");
-    const HWND dialog = Open(IDM_LIST_NAVAIDS, kNavaidList);
+    const HWND dialog = StartWithList(IDM_LIST_NAVAIDS, kNavaidList);
     ASSERT_NE(dialog, nullptr);
     const int count = Count(dialog);
     Select(dialog, RowThatBegins(dialog, "16L\tLOC"));
@@ -229,8 +158,7 @@ TEST_F(ListTest, AStockIlsCannotBeDeleted) {
 }
 
 TEST_F(ListTest, TheKeyboardAloneIsEnough) {
-    StartWithSample("hub");
-    const HWND dialog = Open(IDM_LIST_COMMS, kCommList);
+    const HWND dialog = StartWithList(IDM_LIST_COMMS, kCommList);
     ASSERT_NE(dialog, nullptr);
     const int count = Count(dialog);
     ASSERT_TRUE(BringToFront(dialog));
@@ -256,8 +184,7 @@ TEST_F(ListTest, TheKeyboardAloneIsEnough) {
 }
 
 TEST_F(ListTest, EnterClosesAListInWhichNothingIsSelected) {
-    StartWithSample("hub");
-    const HWND dialog = Open(IDM_LIST_COMMS, kCommList);
+    const HWND dialog = StartWithList(IDM_LIST_COMMS, kCommList);
     ASSERT_NE(dialog, nullptr);
     ASSERT_TRUE(BringToFront(dialog));
     ASSERT_TRUE(WaitUntil([&] { return FocusOf(agent) == Rows(dialog); }));
@@ -367,149 +294,6 @@ TEST_F(ListTest, F1OpensTheTopicOfTheList) {
         opened += std::string("file:///C:/UiTest/Tarvo/ReadMe.htm#") + topic + "\n";
         EXPECT_TRUE(browser.WaitForOpened(opened)) << browser.Opened();
     }
-}
-
-class ParkingListTest : public ListTest {
-protected:
-    void ClickHeader(HWND dialog, int column) {
-        const HWND rows = Rows(dialog);
-        const HWND header = reinterpret_cast<HWND>(SendMessageW(rows, LVM_GETHEADER, 0, 0));
-        int x = 10;
-        for (int i = 0; i < column; ++i)
-            x += static_cast<int>(SendMessageW(rows, LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(i), 0));
-        SendClick(header, x, 5);
-        Settle(dialog);
-    }
-    // Cells of a column, from twenty rows all over the list: each costs a visit to the program.
-    static std::vector<std::string> SomeOf(HWND dialog, int column) {
-        constexpr int kLooks = 20;
-        std::vector<std::string> texts;
-        for (int i = 0; i < kLooks; ++i) {
-            texts.push_back(Utf8(ListText(Rows(dialog), (Count(dialog) - 1) * i / (kLooks - 1), column)));
-        }
-        return texts;
-    }
-    static std::vector<std::string> Names(HWND dialog) { return SomeOf(dialog, 0); }
-};
-
-TEST_F(ParkingListTest, EachHeaderSortsByItsColumnAndOriginalOrderIsThatOfTheFile) {
-    StartWithSample("hub");
-    const HWND dialog = Open(IDM_LIST_PARKING, kParkingList);
-    ASSERT_NE(dialog, nullptr);
-    const std::vector<std::string> original = Names(dialog);
-    ASSERT_GT(Count(dialog), 20);
-    EXPECT_EQ(Row(dialog, 0), "Gate D  1\tGate Medium\t68.9 ft\tASA,QXE");
-
-    ClickHeader(dialog, 0);
-    EXPECT_EQ(Names(dialog).front(), "Gate A  1");
-    ClickHeader(dialog, 2);
-    std::vector<double> radii;
-    for (const std::string& text : SomeOf(dialog, 2)) radii.push_back(std::stod(text));
-    EXPECT_TRUE(std::is_sorted(radii.begin(), radii.end()));
-    EXPECT_LT(radii.front(), radii.back());
-    ClickHeader(dialog, 3);
-    const std::vector<std::string> codes = SomeOf(dialog, 3);
-    EXPECT_FALSE(codes.front().empty()) << "spots with codes come first";
-    EXPECT_TRUE(codes.back().empty());
-    ClickHeader(dialog, 1);
-    EXPECT_TRUE(SomeOf(dialog, 1).front().starts_with("Gate"));
-
-    Press(dialog, IDC_LIST_ORIGINAL_ORDER);
-    EXPECT_TRUE(WaitUntil([&] { return Names(dialog) == original; }));
-    EXPECT_FALSE(CanUndo()) << "only the rows change their order";
-}
-
-TEST_F(ParkingListTest, RandomizeMixesTheGatesAndKeepsThemFirst) {
-    StartWithSample("hub");
-    const HWND dialog = Open(IDM_LIST_PARKING, kParkingList);
-    ASSERT_NE(dialog, nullptr);
-    const int count = Count(dialog);
-    const std::vector<std::string> original = Names(dialog);
-    Press(dialog, IDC_LIST_RANDOMIZE);
-    EXPECT_TRUE(WaitUntil([&] { return Names(dialog) != original; }));
-    EXPECT_EQ(Count(dialog), count);
-    bool past = false;
-    for (const std::string& type : SomeOf(dialog, 1)) {
-        const bool gate = type.starts_with("Gate");
-        EXPECT_FALSE(gate && past) << "a gate behind other spots";
-        past |= !gate;
-    }
-    EXPECT_FALSE(CanUndo());
-}
-
-TEST_F(ParkingListTest, AChangedSpotStaysSelectedAndInItsPlaceOfTheOrder) {
-    StartWithSample("hub");
-    const HWND dialog = Open(IDM_LIST_PARKING, kParkingList);
-    ASSERT_NE(dialog, nullptr);
-    const int count = Count(dialog);
-    ClickHeader(dialog, 0);
-    const std::string first = Row(dialog, 0), second = Row(dialog, 1);
-    Select(dialog, 0);
-    Press(dialog, IDC_LIST_DELETE);
-    ASSERT_TRUE(WaitForCount(dialog, count - 1));
-    EXPECT_EQ(Row(dialog, 0), second);
-    EXPECT_TRUE(WaitUntil([&] { return Selected(dialog) == 0; }));
-    Command(IDM_UNDO);
-    ASSERT_TRUE(WaitForCount(dialog, count));
-    EXPECT_EQ(Row(dialog, 0), first) << "the list is still sorted by name";
-    EXPECT_EQ(Row(dialog, 1), second);
-    EXPECT_EQ(Selected(dialog), 1) << "the row that was selected still is";
-}
-
-TEST_F(ParkingListTest, TheKeyboardAloneIsEnough) {
-    StartWithSample("hub");
-    const HWND dialog = Open(IDM_LIST_PARKING, kParkingList);
-    ASSERT_NE(dialog, nullptr);
-    const int count = Count(dialog);
-    ASSERT_TRUE(BringToFront(dialog));
-    ASSERT_TRUE(WaitUntil([&] { return FocusOf(agent) == Rows(dialog); }));
-    TypeText(L"gate c 2");
-    ASSERT_TRUE(
-        WaitUntil([&] { return Selected(dialog) >= 0 && Row(dialog, Selected(dialog)).starts_with("Gate C  2"); }));
-    const int row = Selected(dialog);
-    const std::string found = Row(dialog, row);
-    TapKey(VK_RETURN);
-    const HWND properties = Dialog(kParkingProperties);
-    ASSERT_NE(properties, nullptr);
-    EXPECT_FALSE(IsWindowEnabled(dialog)) << "the list waits";
-    ASSERT_TRUE(BringToFront(properties));
-    TapKey(VK_ESCAPE);
-    ASSERT_TRUE(WaitUntilGone(properties));
-    EXPECT_TRUE(WaitUntil([&] { return FocusOf(agent) == Rows(dialog); })) << "back to the list";
-    EXPECT_EQ(Row(dialog, row), found);
-    EXPECT_EQ(Selected(dialog), row);
-    TapKey(VK_DELETE);
-    EXPECT_TRUE(WaitForCount(dialog, count - 1));
-    EXPECT_NE(Row(dialog, row), found);
-    TapKey(VK_ESCAPE);
-    EXPECT_TRUE(WaitUntilGone(dialog));
-}
-
-TEST_F(ParkingListTest, TheColumnsFitAgainOnAMonitorOfAnotherResolution) {
-    constexpr UINT kDpiChanged = 0x02E0;  // WM_DPICHANGED of Windows 8.1
-    StartWithSample("hub");
-    const HWND dialog = Open(IDM_LIST_PARKING, kParkingList);
-    ASSERT_NE(dialog, nullptr);
-    const auto width = [&] { return SendMessageW(Rows(dialog), LVM_GETCOLUMNWIDTH, 0, 0); };
-    const LRESULT before = width();
-    ASSERT_GT(before, 40);
-    SendMessageW(Rows(dialog), LVM_SETCOLUMNWIDTH, 0, 40);
-    ASSERT_EQ(width(), 40);
-    SendMessageW(dialog, kDpiChanged, MAKEWPARAM(96, 96), 0);
-    EXPECT_TRUE(WaitUntil([&] { return width() == before; })) << width();
-}
-
-TEST_F(ParkingListTest, ADoubleClickOnARowOpensTheProperties) {
-    StartWithSample("hub");
-    const HWND dialog = Open(IDM_LIST_PARKING, kParkingList);
-    ASSERT_NE(dialog, nullptr);
-    ASSERT_TRUE(BringToFront(dialog));
-    ClickPointer(Rows(dialog), 40, 60);
-    ClickPointer(Rows(dialog), 40, 60);
-    const HWND properties = Dialog(kParkingProperties);
-    ASSERT_NE(properties, nullptr);
-    CloseDialog(properties, IDCANCEL);
-    EXPECT_GE(Selected(dialog), 0);
 }
 
 TEST_F(ListTest, UnitsAreThoseOfTheSettings) {

@@ -6,6 +6,7 @@
 
 #include "ProgramParts.h"
 #include "Resource.h"
+#include "UiFiles.h"
 #include "UiHarness.h"
 
 namespace ui {
@@ -127,16 +128,6 @@ protected:
 
     int width = 0, height = 0;
 };
-
-std::string BytesOf(const std::wstring& path) {
-    std::string bytes;
-    if (FILE* file = _wfopen(path.c_str(), L"rb")) {
-        char buffer[4096];
-        for (size_t got; (got = fread(buffer, 1, sizeof buffer, file)) > 0;) bytes.append(buffer, got);
-        fclose(file);
-    }
-    return bytes;
-}
 
 TEST_F(MapPictureTest, OnceTheSizeIsWhatTheScreenShows) {
     StartWithMap();

@@ -305,7 +305,7 @@ TEST_F(NavaidDialogTest, MetricUnitsAreShownAndRead) {
     EXPECT_EQ(Shown(dialog, IDC_NAV_ELEVATION_LABEL), "&Elevation (m ASL)");
     EXPECT_EQ(Shown(dialog, IDC_NAV_RANGE_LABEL), "Range (km)");
     EXPECT_EQ(Shown(dialog, IDC_ILS_SLOPE_RANGE_LABEL), "Range (km)");
-    EXPECT_EQ(Shown(dialog, IDC_ILS_DME_ELEVATION_LABEL), "Elevation (m ASL)");
+    EXPECT_EQ(Shown(dialog, IDC_ILS_DME_ELEVATION_LABEL), "Elevat&ion (m ASL)");
     EXPECT_EQ(Shown(dialog, IDC_NAV_RANGE), "50.0");
     CloseDialog(dialog, IDCANCEL);
 }

@@ -1,157 +1,14 @@
-// OpenAirportTest.cpp - the Open Airport dialog from both sources, by mouse and by keyboard, and the recent airports.
+// OpenAirportTest.cpp - the Open Airport dialog over the scenery library, by mouse and by keyboard.
 #include <algorithm>
-#include <cstdio>
 #include <string>
 #include <vector>
 
-#include "OpenAirportIds.h"
-#include "ProgramParts.h"
-#include "ProgressIds.h"
-#include "Resource.h"
+#include "OpenAirportSteps.h"
 #include "StandInBrowser.h"
-#include "UiHarness.h"
 
 namespace ui {
 
-constexpr wchar_t kTitle[] = L"Open Airport";
-constexpr wchar_t kFileTitle[] = L"Select an airport file";
-constexpr wchar_t kAddOnFolder[] = L"C:\\UiTest\\FS9\\AddOn Scenery\\scenery";
-constexpr wchar_t kSavePrompt[] = L"Do you want to save changes to the current facility ?";
-constexpr int kNameColumn = 3;
-constexpr uint32_t kGrey = 0xA0A0A0;  // of a superseded row
-
-class OpenAirportTest : public UiTest {
-protected:
-    void SetUp() override { ForgetCollection(); }
-    void TearDown() override {
-        UiTest::TearDown();
-        for (const std::wstring& file : placed) DeleteFileW(file.c_str());
-        ForgetCollection();
-    }
-    static void ForgetCollection() {
-        for (const wchar_t* name : { L"\\FileList", L"\\AirportIndex" }) {
-            DeleteFileW((std::wstring(kProgramFolder) + name).c_str());
-        }
-    }
-
-    // A copy of a sample airport's file in the add-on area, whose layer is the highest.
-    std::wstring PutAddOn(const std::wstring& from, const wchar_t* name) {
-        const std::wstring path = std::wstring(kAddOnFolder) + L"\\" + name;
-        EXPECT_TRUE(CopyFileW(from.c_str(), path.c_str(), FALSE)) << Utf8(path);
-        placed.push_back(path);
-        return path;
-    }
-    std::wstring PutText(const wchar_t* name, const char* text) {
-        const std::wstring path = std::wstring(kAddOnFolder) + L"\\" + name;
-        FILE* file = _wfopen(path.c_str(), L"wb");
-        EXPECT_TRUE(file && fputs(text, file) >= 0 && fclose(file) == 0);
-        placed.push_back(path);
-        return path;
-    }
-
-    // The dialog is ready when the tree has been filled and the progress box has gone.
-    void OpenDialog(UINT command = IDM_OPEN) {
-        PostCommand(mainWindow, command);
-        dialog = Dialog(kTitle);
-        ASSERT_NE(dialog, nullptr);
-        places = ChildWithId(dialog, IDC_PLACES);
-        airports = ChildWithId(dialog, IDC_AIRPORTS);
-        field = ChildWithId(dialog, IDC_AIRPORT_ID);
-    }
-    void OpenFilledDialog() {
-        ASSERT_NO_FATAL_FAILURE(OpenDialog());
-        ASSERT_TRUE(WaitUntil([&] { return NextTreeItem(places, TVGN_ROOT) != nullptr; })) << "an empty tree";
-    }
-    void Search(const std::wstring& ident) {
-        SetText(field, ident);
-        PressButton(dialog, IDC_SEARCH);
-        Settle(dialog);
-        SettlePosted(agent);
-    }
-    int DefaultButton() const { return LOWORD(SendMessageW(dialog, DM_GETDEFID, 0, 0)); }
-    std::wstring Cell(int row, int column) const { return ListText(airports, row, column); }
-    int RowOf(const std::wstring& ident) const {
-        for (int row = 0; row < ListRows(airports); ++row) {
-            if (Cell(row, 0) == ident) return row;
-        }
-        return -1;
-    }
-    int GreyPixels(const Picture& dialogPicture, int row) const {
-        RECT rect = ListRowRect(airports, row);
-        MapWindowPoints(airports, dialog, reinterpret_cast<POINT*>(&rect), 2);
-        return CountColour(dialogPicture, rect, kGrey);
-    }
-    void ExpectOpened(const std::wstring& ident) {
-        EXPECT_TRUE(WaitUntilGone(dialog)) << "the dialog stays open";
-        EXPECT_TRUE(WaitForTitle(L"Tarvo    " + ident)) << Utf8(Title());
-        EXPECT_TRUE(IsWindowEnabled(mainWindow));
-    }
-    bool HasFocus(HWND window) const {
-        return WaitUntil([&] { return FocusOf(agent) == window; });
-    }
-
-    // The item of that text below `parent` (null: a root), made visible; null when there is none.
-    HTREEITEM Item(HTREEITEM parent, const std::wstring& text) const {
-        HTREEITEM item = NextTreeItem(places, parent ? TVGN_CHILD : TVGN_ROOT, parent);
-        while (item && TreeText(places, item) != text) item = NextTreeItem(places, TVGN_NEXT, item);
-        return item;
-    }
-    // 1 for an item without one above it.
-    int Level(HTREEITEM item) const {
-        int level = 0;
-        for (; item; item = NextTreeItem(places, TVGN_PARENT, item)) ++level;
-        return level;
-    }
-    HTREEITEM Expanded(HTREEITEM item) const {
-        SendMessageW(places, TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(item));
-        return item;
-    }
-    // Not by the user: so the tree itself does it, when it gets the focus.
-    void SelectItem(HTREEITEM item) const {
-        SendMessageW(places, TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(item));
-    }
-    void ClickItem(HTREEITEM item) const {
-        SendMessageW(places, TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(item));
-        const RECT rect = TreeItemRect(places, item);
-        ClickPointer(places, rect.left + 4, (rect.top + rect.bottom) / 2);
-        SettlePosted(agent);
-    }
-    // Found without asking the windows, whose thread is at work.
-    HWND ProgressBox() const {
-        for (const HWND window : TopLevelWindows(program.id)) {
-            if (ClassOf(window) == L"#32770" && GetDlgItem(window, IDC_PROGRESS_BAR)) return window;
-        }
-        return nullptr;
-    }
-
-    void ChooseFile(const std::wstring& path) {
-        PressButton(dialog, IDC_OPEN_FILE);
-        const HWND chooser = Dialog(kFileTitle);
-        ASSERT_NE(chooser, nullptr);
-        ASSERT_TRUE(AnswerFileDialog(chooser, path));
-        ASSERT_TRUE(WaitUntilGone(chooser));
-        Settle(dialog);
-    }
-    void ExpectRefusal(const std::wstring& path, const std::wstring& text) {
-        ASSERT_NO_FATAL_FAILURE(ChooseFile(path));
-        const Box box = MessageBoxUp();
-        EXPECT_EQ(box.text, text);
-        EXPECT_EQ(StockIcon(agent, box.icon), 32515);
-        Answer(box, IDOK);
-        EXPECT_EQ(NextTreeItem(places, TVGN_ROOT), nullptr);
-        EXPECT_TRUE(IsWindowVisible(dialog));
-    }
-    std::vector<std::wstring> RecentTexts() const {
-        std::vector<std::wstring> texts;
-        for (const MenuEntry& entry : ReadMenu(agent)) {
-            if (entry.id >= IDM_RECENT_FIRST && entry.id <= IDM_RECENT_LAST) texts.push_back(entry.text);
-        }
-        return texts;
-    }
-
-    HWND dialog = nullptr, places = nullptr, airports = nullptr, field = nullptr;
-    std::vector<std::wstring> placed;
-};
+class OpenAirportTest : public OpenAirportFixture {};
 
 TEST_F(OpenAirportTest, TheDialogStartsEmptyWithTheFocusInTheIdField) {
     Start();
@@ -378,52 +235,6 @@ TEST_F(OpenAirportTest, ASecondOpeningReadsTheCachesAndAChangedFileAgain) {
     EXPECT_EQ(ListRows(airports), 1);
 }
 
-TEST_F(OpenAirportTest, ASingleFileShowsItsAirportsAndIsRemembered) {
-    const SampleAirport sample = FindSample("hub");
-    Start();
-    ASSERT_NO_FATAL_FAILURE(OpenFilledDialog());
-    Search(L"K");
-    PressButton(dialog, IDC_SPECIFIC_FILE);
-    EXPECT_TRUE(WaitUntil([&] { return IsWindowEnabled(ChildWithId(dialog, IDC_OPEN_FILE)) != 0; }));
-    EXPECT_TRUE(WaitUntil([&] { return ListRows(airports) == 0; }));
-    ASSERT_NO_FATAL_FAILURE(ChooseFile(sample.path));
-    ASSERT_TRUE(WaitUntil([&] { return NextTreeItem(places, TVGN_ROOT) != nullptr; }));
-    EXPECT_EQ(TextOf(ChildWithId(dialog, IDC_FILE_NAME)), sample.path);
-    Search(L"CYYJ");
-    EXPECT_EQ(ListRows(airports), 0) << "it lies in another file";
-    CloseDialog(dialog, IDCANCEL);
-    ASSERT_NO_FATAL_FAILURE(OpenFilledDialog());
-    EXPECT_EQ(SendMessageW(ChildWithId(dialog, IDC_SPECIFIC_FILE), BM_GETCHECK, 0, 0), BST_CHECKED);
-    EXPECT_EQ(TextOf(ChildWithId(dialog, IDC_FILE_NAME)), sample.path);
-    Search(sample.ident);
-    ASSERT_EQ(ListRows(airports), 1);
-    PressButton(dialog, IDC_ALL_SCENERY);
-    EXPECT_TRUE(WaitUntil([&] { return ListRows(airports) == 0; }));
-    EXPECT_TRUE(WaitUntil([&] { return Item(nullptr, L"Canada") != nullptr; }));
-    EXPECT_FALSE(IsWindowEnabled(ChildWithId(dialog, IDC_OPEN_FILE)));
-}
-
-TEST_F(OpenAirportTest, SwitchingToASingleFileEmptiesTheDialogUntilOneIsOpened) {
-    const SampleAirport sample = FindSample("hub");
-    Start();
-    ASSERT_NO_FATAL_FAILURE(OpenFilledDialog());
-    PressButton(dialog, IDC_SPECIFIC_FILE);
-    ASSERT_TRUE(WaitUntil([&] { return IsWindowEnabled(ChildWithId(dialog, IDC_OPEN_FILE)) != 0; }));
-    ASSERT_NO_FATAL_FAILURE(ChooseFile(sample.path));
-    ASSERT_TRUE(WaitUntil([&] { return NextTreeItem(places, TVGN_ROOT) != nullptr; }));
-    PressButton(dialog, IDC_ALL_SCENERY);
-    ASSERT_TRUE(WaitUntil([&] { return Item(nullptr, L"Canada") != nullptr; }));
-    Search(sample.ident);
-    ASSERT_EQ(ListRows(airports), 1);
-    PressButton(dialog, IDC_SPECIFIC_FILE);
-    SettlePosted(agent);
-    EXPECT_EQ(ListRows(airports), 0);
-    EXPECT_EQ(NextTreeItem(places, TVGN_ROOT), nullptr);
-    EXPECT_EQ(TextOf(ChildWithId(dialog, IDC_FILE_NAME)), sample.path);
-    Search(sample.ident);
-    EXPECT_EQ(ListRows(airports), 0);
-}
-
 TEST_F(OpenAirportTest, TheListTellsWhatItsColumnsAre) {
     Start();
     ASSERT_NO_FATAL_FAILURE(OpenFilledDialog());
@@ -470,40 +281,6 @@ TEST_F(OpenAirportTest, ABoxShowsHowFarTheCollectionIsAndNeverTakesTheActivation
     EXPECT_TRUE(WaitUntil([&] { return GetForegroundWindow() == dialog; }));
 }
 
-TEST_F(OpenAirportTest, ASingleFileIsRefusedWithItsReason) {
-    const SampleAirport sample = FindSample("hub");
-    const std::wstring text = PutText(L"text.bgl", "no scenery at all, but long enough to be taken for a header");
-    const std::wstring none = sample.path.substr(0, sample.path.find_last_of(L'\\')) + L"\\nv9Namw0.bgl";
-    const std::wstring held = PutAddOn(sample.path, L"held.bgl");
-    Start();
-    ASSERT_NO_FATAL_FAILURE(OpenFilledDialog());
-    PressButton(dialog, IDC_SPECIFIC_FILE);
-    ASSERT_TRUE(WaitUntil([&] { return IsWindowEnabled(ChildWithId(dialog, IDC_OPEN_FILE)) != 0; }));
-    ExpectRefusal(text, L"Selected file  " + text + L"  is not in recognised AFD format");
-    ASSERT_NE(GetFileAttributesW(none.c_str()), INVALID_FILE_ATTRIBUTES);
-    ExpectRefusal(none, L"Selected file  " + none + L"  does not contain any airports");
-    const HANDLE lock = CreateFileW(held.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-    ASSERT_NE(lock, INVALID_HANDLE_VALUE);
-    ExpectRefusal(held, L"Unable to open file \"" + held + L"\"");
-    CloseHandle(lock);
-    ASSERT_NO_FATAL_FAILURE(ChooseFile(held));
-    EXPECT_TRUE(WaitUntil([&] { return NextTreeItem(places, TVGN_ROOT) != nullptr; }));
-}
-
-TEST_F(OpenAirportTest, WithoutASimulatorTheLibraryIsEmptyAndSingleFilesOpen) {
-    const SampleAirport sample = FindSample("hub");
-    Start(L"", "[General]\r\nNextUpdateNotice=9999\r\nOverrideFSFolder=C:\\UiTest\\None\r\n");
-    ASSERT_NO_FATAL_FAILURE(OpenDialog());
-    PressButton(dialog, IDC_SPECIFIC_FILE);
-    ASSERT_TRUE(WaitUntil([&] { return IsWindowEnabled(ChildWithId(dialog, IDC_OPEN_FILE)) != 0; }));
-    EXPECT_EQ(NextTreeItem(places, TVGN_ROOT), nullptr);
-    ASSERT_NO_FATAL_FAILURE(ChooseFile(sample.path));
-    ASSERT_TRUE(WaitUntil([&] { return NextTreeItem(places, TVGN_ROOT) != nullptr; }));
-    SetText(field, sample.ident);
-    PressButton(dialog, IDOK);
-    ExpectOpened(sample.ident);
-}
-
 TEST_F(OpenAirportTest, TheSavePromptComesFirst) {
     StartWithSample("hub");
     CreateNode(mainWindow, IDT_NORMAL_NODE);
@@ -548,74 +325,6 @@ TEST_F(OpenAirportTest, YesSavesBeforeTheDialogComes) {
     EXPECT_EQ(Cell(0, 1), L"Mod");
     Search(L"WN76");
     EXPECT_EQ(ListRows(airports), 1) << "the file holds the saved airport only";
-}
-
-TEST_F(OpenAirportTest, OpenedAirportsComeToTheTopOfTheFileMenu) {
-    Start();
-    for (const wchar_t* ident : { L"KSEA", L"CYYJ", L"KSEA" }) {
-        ASSERT_NO_FATAL_FAILURE(OpenFilledDialog());
-        SetText(field, ident);
-        PressButton(dialog, IDOK);
-        ExpectOpened(ident);
-    }
-    EXPECT_EQ(RecentTexts(), (std::vector<std::wstring>{ L"&1  KSEA", L"&2  CYYJ" }));
-    PostCommand(mainWindow, IDM_RECENT_FIRST + 1);
-    EXPECT_TRUE(WaitForTitle(L"Tarvo    CYYJ")) << Utf8(Title());
-    EXPECT_EQ(RecentTexts(), (std::vector<std::wstring>{ L"&1  CYYJ", L"&2  KSEA" }));
-    EXPECT_FALSE(IsGreyed(IDM_RECENT_FIRST));
-}
-
-TEST_F(OpenAirportTest, RecentAirportsAreThereAfterARestart) {
-    Start();
-    ASSERT_NO_FATAL_FAILURE(OpenFilledDialog());
-    SetText(field, L"CYYJ");
-    PressButton(dialog, IDOK);
-    ExpectOpened(L"CYYJ");
-    EXPECT_EQ(CloseProgram(), 0u);
-    DetachAgent(&agent);
-    EndProgram(&program);
-    Start(L"", nullptr);
-    EXPECT_EQ(RecentTexts(), std::vector<std::wstring>{ L"&1  CYYJ" });
-    PostCommand(mainWindow, IDM_RECENT_FIRST);
-    EXPECT_TRUE(WaitForTitle(L"Tarvo    CYYJ")) << Utf8(Title());
-}
-
-TEST_F(OpenAirportTest, ARecentAirportThatItsFileDoesNotHoldAnyMoreLeavesNoneOpen) {
-    const SampleAirport sample = FindSample("hub");
-    const std::wstring file = PutAddOn(sample.path, L"changed.bgl");
-    Start();
-    for (const wchar_t* ident : { L"KSEA", L"CYYJ" }) {
-        ASSERT_NO_FATAL_FAILURE(OpenFilledDialog());
-        SetText(field, ident);
-        PressButton(dialog, IDOK);
-        ExpectOpened(ident);
-    }
-    PutAddOn(std::wstring(kSimulatorFolder) + L"\\Scenery\\Namw\\Scenery\\AP916120.bgl", L"changed.bgl");
-    PostCommand(mainWindow, IDM_RECENT_FIRST + 1);
-    const Box box = MessageBoxUp();
-    EXPECT_EQ(box.text, L"Selected file  " + file + L"  does not contain airport KSEA");
-    Answer(box, IDOK);
-    EXPECT_EQ(Title(), L"Tarvo        ");
-    EXPECT_TRUE(IsGreyed(IDM_SAVE));
-}
-
-TEST_F(OpenAirportTest, ARecentAirportWhoseFileHasGoneIsNamedAndTheOpenOneStays) {
-    const SampleAirport sample = FindSample("hub");
-    const std::wstring file = PutAddOn(sample.path, L"gone.bgl");
-    Start();
-    for (const wchar_t* ident : { L"KSEA", L"CYYJ" }) {
-        ASSERT_NO_FATAL_FAILURE(OpenFilledDialog());
-        SetText(field, ident);
-        PressButton(dialog, IDOK);
-        ExpectOpened(ident);
-    }
-    ASSERT_TRUE(DeleteFileW(file.c_str()));
-    PostCommand(mainWindow, IDM_RECENT_FIRST + 1);
-    const Box box = MessageBoxUp();
-    EXPECT_EQ(box.text, L"Unable to open file \"" + file + L"\"");
-    Answer(box, IDOK);
-    EXPECT_NE(Title().find(L"CYYJ"), std::wstring::npos) << Utf8(Title());
-    EXPECT_FALSE(IsGreyed(IDM_SAVE));
 }
 
 }  // namespace ui

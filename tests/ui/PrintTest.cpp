@@ -6,6 +6,7 @@
 #include "PageSetupIds.h"
 #include "ProgramParts.h"
 #include "Resource.h"
+#include "StandInBrowser.h"
 #include "TestPrinter.h"
 #include "UiHarness.h"
 
@@ -103,6 +104,12 @@ protected:
         SendMessageW(field, EM_SETSEL, 0, -1);
         SendMessageW(field, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text));
     }
+    // Border, title and a scale.
+    static void ChooseAll(HWND dialog, const wchar_t* scale) {
+        Tick(dialog, IDC_PRINT_BORDER);
+        Tick(dialog, IDC_PRINT_TITLE);
+        TypeScale(dialog, scale);
+    }
     // Into the field, and out of it by the Tab key.
     void TypeScaleAndLeave(HWND dialog, const wchar_t* text) {
         const HWND field = GetDlgItem(dialog, IDC_PRINT_SCALE);
@@ -115,6 +122,19 @@ protected:
 
     std::unique_ptr<TestPrinter> printer;
 };
+
+TEST_F(PrintTest, F1InPageSetupOpensTheTopicOfPrinting) {
+    const StandInBrowser browser;
+    ASSERT_NO_FATAL_FAILURE(StartWithPrinter());
+    const HWND dialog = OpenSetup();
+    ASSERT_NE(dialog, nullptr);
+    ASSERT_TRUE(BringToFront(dialog));
+    PostMessageW(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(GetDlgItem(dialog, IDC_PRINT_SCALE)), TRUE);
+    ASSERT_TRUE(WaitUntil([&] { return FocusOf(agent) == GetDlgItem(dialog, IDC_PRINT_SCALE); }));
+    TapKey(VK_F1);
+    EXPECT_TRUE(browser.WaitForOpened("file:///C:/UiTest/Tarvo/ReadMe.htm#Printing\n")) << browser.Opened();
+    CloseDialog(dialog, IDCANCEL);
+}
 
 TEST_F(PrintTest, WithoutAnAirportThereIsNothingToPrint) {
     Start();
@@ -142,9 +162,7 @@ TEST_F(PrintTest, ThePageIsMeasured) {
     StartWithPrinter();
     HWND dialog = OpenSetup();
     ASSERT_NE(dialog, nullptr);
-    Tick(dialog, IDC_PRINT_BORDER);
-    Tick(dialog, IDC_PRINT_TITLE);
-    TypeScale(dialog, L"1500");
+    ChooseAll(dialog, L"1500");
     const bool metric = TextOf(GetDlgItem(dialog, IDC_PRINT_SCALE_LABEL)) == L"S&cale (ft/cm):";
     CloseDialog(dialog, IDOK);
     ASSERT_FALSE(metric) << "the numbers are for inches";
@@ -238,9 +256,7 @@ TEST_F(PrintTest, SettingsStayUntilTheProgramEndsAndCancelForgetsThem) {
     StartWithPrinter();
     HWND dialog = OpenSetup();
     ASSERT_NE(dialog, nullptr);
-    Tick(dialog, IDC_PRINT_BORDER);
-    Tick(dialog, IDC_PRINT_TITLE);
-    TypeScale(dialog, L"1500");
+    ChooseAll(dialog, L"1500");
     CloseDialog(dialog, IDOK);
     ASSERT_NE(dialog = OpenSetup(), nullptr);
     EXPECT_TRUE(IsChecked(dialog, IDC_PRINT_BORDER));

@@ -70,6 +70,13 @@ inline std::wstring StatusText(HWND mainWindow, StatusPart part) {
     return text;
 }
 
+// The position that is read out when the pointer is so many pixels right of the middle of the map.
+inline std::wstring PositionBeside(HWND mainWindow, int dx) {
+    const POINT middle = MapMiddle(mainWindow);
+    SendMouse(mainWindow, WM_MOUSEMOVE, middle.x + dx, middle.y);
+    return StatusText(mainWindow, kPositionPart);
+}
+
 // Presses a toolbar button as the mouse does: a greyed one then does nothing.
 inline void ClickToolButton(HWND mainWindow, int id) {
     const HWND toolbar = ToolbarWith(mainWindow, id);

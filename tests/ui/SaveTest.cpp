@@ -3,6 +3,7 @@
 
 #include "ProgramParts.h"
 #include "Resource.h"
+#include "UiFiles.h"
 #include "UiHarness.h"
 
 namespace ui {
@@ -10,18 +11,6 @@ namespace ui {
 constexpr wchar_t kWorkFolder[] = L"C:\\UiTest\\Work";
 constexpr wchar_t kQuestion[] = L"Do you want to save changes to the current facility ?";
 constexpr wchar_t kSaveTitle[] = L"Save Airport File";
-
-std::string ReadBytes(const std::wstring& path) {
-    std::string bytes;
-    if (FILE* file = _wfopen(path.c_str(), L"rb")) {
-        char buffer[4096];
-        for (size_t got; (got = fread(buffer, 1, sizeof buffer, file)) > 0;) bytes.append(buffer, got);
-        fclose(file);
-    }
-    return bytes;
-}
-
-bool Exists(const std::wstring& path) { return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES; }
 
 class SaveTest : public UiTest {
 protected:
@@ -34,7 +23,7 @@ protected:
 
     // The file holds this airport alone: of one with several the program would warn. Made once in a run.
     void MakeSingle(const std::wstring& path) {
-        if (Exists(path)) return;
+        if (IsThere(path)) return;
         ASSERT_NO_FATAL_FAILURE(StartWithSample("hub"));
         PostCommand(mainWindow, IDM_SAVE_AS);
         const HWND dialog = Dialog(kSaveTitle);
@@ -132,16 +121,16 @@ TEST_F(SaveTest, AnExistingFileIsReplacedOnlyWithConsent) {
     const HWND question = DialogOtherThan(dialog);
     ASSERT_NE(question, nullptr);
     CloseDialog(question, IDNO);
-    EXPECT_EQ(ReadBytes(In(L"new.bgl")), "old");
+    EXPECT_EQ(BytesOf(In(L"new.bgl")), "old");
     CloseDialog(dialog, IDCANCEL);
     EXPECT_NE(Title().find(L"stock airport"), std::wstring::npos);
 }
 
 TEST_F(SaveTest, AFileOfOurOwnIsSavedWithoutADialog) {
     StartModified();
-    const std::string before = ReadBytes(In(L"TV2_own.bgl"));
+    const std::string before = BytesOf(In(L"TV2_own.bgl"));
     ClickToolButton(mainWindow, IDT_SAVE);
-    EXPECT_NE(ReadBytes(In(L"TV2_own.bgl")), before);
+    EXPECT_NE(BytesOf(In(L"TV2_own.bgl")), before);
     EXPECT_EQ(CloseProgram(), 0u);
 }
 
@@ -158,22 +147,22 @@ TEST_F(SaveTest, ExitAsksAndCancelKeepsTheAirport) {
 
 TEST_F(SaveTest, NoDropsTheChanges) {
     StartModified();
-    const std::string before = ReadBytes(In(L"TV2_own.bgl"));
+    const std::string before = BytesOf(In(L"TV2_own.bgl"));
     PostCommand(mainWindow, IDM_EXIT);
     AnswerPrompt(IDNO);
     DWORD exitCode = 1;
     EXPECT_TRUE(WaitForExit(program, &exitCode));
     EXPECT_EQ(exitCode, 0u);
-    EXPECT_EQ(ReadBytes(In(L"TV2_own.bgl")), before);
+    EXPECT_EQ(BytesOf(In(L"TV2_own.bgl")), before);
 }
 
 TEST_F(SaveTest, YesSavesAndThenCloses) {
     StartModified();
-    const std::string before = ReadBytes(In(L"TV2_own.bgl"));
+    const std::string before = BytesOf(In(L"TV2_own.bgl"));
     PostCommand(mainWindow, IDM_CLOSE);
     AnswerPrompt(IDYES);
     EXPECT_TRUE(WaitUntil([&] { return Title() == L"Tarvo        "; })) << Utf8(Title());
-    EXPECT_NE(ReadBytes(In(L"TV2_own.bgl")), before);
+    EXPECT_NE(BytesOf(In(L"TV2_own.bgl")), before);
 }
 
 TEST_F(SaveTest, YesSavesAndGoesOnNoGoesOnAndCancelKeepsTheAirport) {
@@ -190,7 +179,7 @@ TEST_F(SaveTest, YesSavesAndGoesOnNoGoesOnAndCancelKeepsTheAirport) {
     for (const Case& row : cases) {
         SCOPED_TRACE(row.name);
         ASSERT_NO_FATAL_FAILURE(StartModified());
-        const std::string before = ReadBytes(In(L"TV2_own.bgl"));
+        const std::string before = BytesOf(In(L"TV2_own.bgl"));
         const std::wstring title = Title();
         const Picture map = GrabMap(mainWindow);
         PostCommand(mainWindow, row.command);
@@ -201,7 +190,7 @@ TEST_F(SaveTest, YesSavesAndGoesOnNoGoesOnAndCancelKeepsTheAirport) {
             ExpectNewAirportDialog(ident);
         else
             ExpectExit();
-        EXPECT_EQ(ReadBytes(In(L"TV2_own.bgl")) != before, row.button == IDYES);
+        EXPECT_EQ(BytesOf(In(L"TV2_own.bgl")) != before, row.button == IDYES);
         DetachAgent(&agent);
         EndProgram(&program);
     }
@@ -222,7 +211,7 @@ TEST_F(SaveTest, YesWithoutAFileNameKeepsTheAirportWhenTheDialogIsCancelled) {
 
 TEST_F(SaveTest, AFileHeldByAnotherProgramStaysAndTheUserIsTold) {
     StartModified();
-    const std::string before = ReadBytes(In(L"TV2_own.bgl"));
+    const std::string before = BytesOf(In(L"TV2_own.bgl"));
     const HANDLE held = CreateFileW(In(L"TV2_own.bgl").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     ASSERT_NE(held, INVALID_HANDLE_VALUE);
     PostCommand(mainWindow, IDM_SAVE);
@@ -231,21 +220,21 @@ TEST_F(SaveTest, AFileHeldByAnotherProgramStaysAndTheUserIsTold) {
     EXPECT_EQ(box.buttons, std::vector<int>{ IDOK });
     CloseHandle(held);
     Answer(box, IDOK);
-    EXPECT_EQ(ReadBytes(In(L"TV2_own.bgl")), before);
+    EXPECT_EQ(BytesOf(In(L"TV2_own.bgl")), before);
     PostCommand(mainWindow, IDM_EXIT);  // and the airport still counts as changed
     AnswerPrompt(IDCANCEL);
 }
 
 TEST_F(SaveTest, AReadOnlyFileStays) {
     StartModified();
-    const std::string before = ReadBytes(In(L"TV2_own.bgl"));
+    const std::string before = BytesOf(In(L"TV2_own.bgl"));
     ASSERT_TRUE(SetFileAttributesW(In(L"TV2_own.bgl").c_str(), FILE_ATTRIBUTE_READONLY));
     PostCommand(mainWindow, IDM_SAVE);
     const Box box = MessageBoxUp();
     EXPECT_EQ(box.text, L"ERROR: Unable to create .bgl file");
     Answer(box, IDOK);
     SetFileAttributesW(In(L"TV2_own.bgl").c_str(), FILE_ATTRIBUTE_NORMAL);
-    EXPECT_EQ(ReadBytes(In(L"TV2_own.bgl")), before);
+    EXPECT_EQ(BytesOf(In(L"TV2_own.bgl")), before);
     WIN32_FIND_DATAW found;
     const HANDLE search = FindFirstFileW(In(L"~tv*").c_str(), &found);
     EXPECT_EQ(search, INVALID_HANDLE_VALUE) << "a sibling was left behind";
@@ -254,7 +243,7 @@ TEST_F(SaveTest, AReadOnlyFileStays) {
 
 TEST_F(SaveTest, AStockFileIsNeverOverwritten) {
     const SampleAirport sample = FindSample("hub");
-    const std::string before = ReadBytes(sample.path);
+    const std::string before = BytesOf(sample.path);
     StartWithSample("hub");
     PostCommand(mainWindow, IDM_SAVE_AS);
     const HWND dialog = Dialog(kSaveTitle);
@@ -265,7 +254,7 @@ TEST_F(SaveTest, AStockFileIsNeverOverwritten) {
     const Box box = MessageBoxUp();
     EXPECT_EQ(box.text.substr(0, 7), L"ERROR: ");
     Answer(box, IDOK);
-    EXPECT_EQ(ReadBytes(sample.path), before);
+    EXPECT_EQ(BytesOf(sample.path), before);
 }
 
 }  // namespace ui

@@ -5,6 +5,7 @@
 #include "ProgramParts.h"
 #include "Resource.h"
 #include "UiAgent.h"
+#include "UiFiles.h"
 #include "UiHarness.h"
 
 namespace ui {
@@ -18,23 +19,12 @@ constexpr wchar_t kSavedSpecs[] = L"C:\\UiTest\\ParkingSpecs.saved";
 constexpr wchar_t kPrompt[] = L"Do you want to save changes to the current facility ?";
 constexpr WPARAM kBackupTimer = 3;
 
-std::string BytesOf(const std::wstring& path) {
-    std::string bytes;
-    if (FILE* file = _wfopen(path.c_str(), L"rb")) {
-        for (int c; (c = fgetc(file)) != EOF;) bytes += static_cast<char>(c);
-        fclose(file);
-    }
-    return bytes;
-}
-
 void PutBytes(const std::wstring& path, const std::string& bytes) {
     FILE* file = _wfopen(path.c_str(), L"wb");
     ASSERT_NE(file, nullptr);
     fwrite(bytes.data(), 1, bytes.size(), file);
     fclose(file);
 }
-
-bool IsThere(const std::wstring& path) { return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES; }
 
 std::vector<std::wstring> FilesLike(const wchar_t* pattern) {
     std::vector<std::wstring> names;
@@ -103,6 +93,13 @@ protected:
         EXPECT_EQ(box.text, kPrompt);
         PressButton(box.window, button);
         ASSERT_TRUE(WaitUntilGone(box.window));
+    }
+    // The program ends without saving, and nothing is left to recover.
+    void ExpectGivenUp() {
+        PostCommand(mainWindow, IDM_EXIT);
+        AnswerPrompt(IDNO);
+        EXPECT_TRUE(HasEnded());
+        EXPECT_FALSE(IsThere(kBackup));
     }
     bool WaitForNotice(const std::wstring& start) {
         return WaitUntil([&] { return StatusText(mainWindow, kNoticePart).starts_with(start); });
@@ -226,10 +223,7 @@ TEST_F(SessionTest, ARecoveredAirportStaysUntilItIsGivenUpAtThePrompt) {
     SettlePosted(agent);
     EXPECT_TRUE(WaitForTitle(sample.ident));
     EXPECT_TRUE(IsThere(kBackup));
-    PostCommand(mainWindow, IDM_EXIT);
-    AnswerPrompt(IDNO);
-    EXPECT_TRUE(HasEnded());
-    EXPECT_FALSE(IsThere(kBackup));
+    ExpectGivenUp();
 }
 
 TEST_F(SessionTest, TheFileOfTheCommandLineWaitsForTheRecoveredAirport) {
@@ -295,10 +289,7 @@ TEST_F(SessionTest, AnUnchangedAirportIsNotBackedUpAndTheEndRemovesTheBackup) {
     CreateNode(mainWindow, IDT_NORMAL_NODE);
     TickBackup();
     EXPECT_TRUE(IsThere(kBackup));
-    PostCommand(mainWindow, IDM_EXIT);
-    AnswerPrompt(IDNO);
-    EXPECT_TRUE(HasEnded());
-    EXPECT_FALSE(IsThere(kBackup));
+    ExpectGivenUp();
 }
 
 TEST_F(SessionTest, ClosingAnAirportRemovesTheFileInTheRootAndNotTheBackup) {
@@ -356,80 +347,6 @@ TEST_F(SessionTest, ADroppedFileMayHaveALongPath) {
     Start();
     ASSERT_TRUE(DropFile(agent, path));
     EXPECT_TRUE(WaitForTitle(L"( file far.bgl )")) << Utf8(Title());
-}
-
-TEST_F(SessionTest, TheLockKeepsTheMapInPlaceButLetsItZoom) {
-    StartWithSample("grass");
-    const POINT middlePixel = MapMiddle(mainWindow);
-    const int x = middlePixel.x, y = middlePixel.y;
-    const auto at = [&](int dx) {
-        SendMouse(mainWindow, WM_MOUSEMOVE, x + dx, y);
-        return StatusText(mainWindow, kPositionPart);
-    };
-    Command(IDM_LOCK);
-    EXPECT_TRUE(IsChecked(IDM_LOCK));
-    EXPECT_EQ(ToolButtonState(ToolbarOf(mainWindow), IDT_LOCK), TBSTATE_ENABLED | TBSTATE_CHECKED);
-    const std::wstring middle = at(0), right = at(90);
-    PostKey(mainWindow, VK_LEFT);
-    PostKey(mainWindow, VK_END);
-    PostKey(mainWindow, VK_HOME);
-    SettlePosted(agent);
-    SendWheel(mainWindow, x, y, 120, MK_CONTROL);
-    EXPECT_EQ(at(0), middle);
-    EXPECT_EQ(at(90), right);
-    SendWheel(mainWindow, x, y, 120);
-    EXPECT_EQ(at(100), right) << "a locked map zooms";
-    ClickToolButton(mainWindow, IDT_LOCK);
-    EXPECT_FALSE(IsChecked(IDM_LOCK));
-    PostKey(mainWindow, VK_LEFT);
-    EXPECT_TRUE(WaitUntil([&] { return at(0) != middle; }));
-}
-
-TEST_F(SessionTest, TheWheelKeepsWhatIsLeftOfANotch) {
-    StartWithSample("grass");
-    const POINT middlePixel = MapMiddle(mainWindow);
-    const int x = middlePixel.x, y = middlePixel.y;
-    const auto at = [&](int dx) {
-        SendMouse(mainWindow, WM_MOUSEMOVE, x + dx, y);
-        return StatusText(mainWindow, kPositionPart);
-    };
-    const std::wstring outside = at(81);
-    SendWheel(mainWindow, x, y, 200);
-    EXPECT_EQ(at(90), outside) << "one step for 200";
-    SendWheel(mainWindow, x, y, 39);
-    EXPECT_EQ(at(90), outside);
-    SendWheel(mainWindow, x, y, 1);
-    EXPECT_EQ(at(100), outside) << "the 80 that were left and 40 more are a step";
-}
-
-TEST_F(SessionTest, PGoesFromNoLabelsToTypesToCodesToNone) {
-    Start();
-    const auto press = [&] {
-        PostKey(mainWindow, 'P');
-        SettlePosted(agent);
-        return (IsChecked(IDM_LABEL_TYPES) ? 1 : 0) + (IsChecked(IDM_LABEL_CODES) ? 2 : 0);
-    };
-    EXPECT_EQ(press(), 1);
-    EXPECT_EQ(press(), 2);
-    EXPECT_EQ(press(), 0);
-    EXPECT_EQ(press(), 1);
-}
-
-TEST_F(SessionTest, ARightClickOnTheMapOpensItsMenu) {
-    StartWithSample("grass");
-    const RECT area = MapArea(mainWindow);
-    POINT at = { area.left + 100, area.top + 100 };
-    ClientToScreen(mainWindow, &at);
-    PostMessageW(mainWindow, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(mainWindow), MAKELPARAM(at.x, at.y));
-    const HWND menu = WaitForWindow(program.id, L"#32768", nullptr);
-    ASSERT_NE(menu, nullptr) << "no menu";
-    RECT place{};
-    GetWindowRect(menu, &place);
-    EXPECT_EQ(place.left, at.x);
-    EXPECT_EQ(place.top, at.y);
-    PostMessageW(mainWindow, WM_KEYDOWN, VK_ESCAPE, 1);
-    EXPECT_TRUE(WaitUntil([&] { return !IsWindowVisible(menu); }));
-    EXPECT_TRUE(SettlePosted(agent));
 }
 
 TEST_F(SessionTest, ShuttingDownAsksAndThenSavesTheSettings) {

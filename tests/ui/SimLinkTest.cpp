@@ -63,7 +63,6 @@ protected:
         return CountColour(GrabMap(mainWindow), box, kSelectedNode) > 0;
     }
 
-    bool CanUndo() { return !IsGreyed(IDM_UNDO); }
     void PressInSimulator(uint32_t slot) {
         simulator->PressKey(slot);
         ASSERT_TRUE(WaitUntil([&] { return simulator->Slot(slot) <= 0xFFFFFF; })) << "the press is not seen";

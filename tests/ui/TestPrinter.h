@@ -9,6 +9,8 @@
 #include <cstdio>
 #include <string>
 
+#include "UiFiles.h"
+
 namespace ui {
 
 // A sheet of A4 with a quarter of an inch that cannot be printed on.
@@ -91,15 +93,7 @@ public:
     bool IsThere() const { return handle != nullptr; }
 
     // What has arrived so far; complete when it ends with its last line.
-    std::string Document() const {
-        std::string text;
-        if (FILE* file = _wfopen(port.c_str(), L"rb")) {
-            char buffer[65536];
-            for (size_t got; (got = fread(buffer, 1, sizeof buffer, file)) > 0;) text.append(buffer, got);
-            fclose(file);
-        }
-        return text;
-    }
+    std::string Document() const { return BytesOf(port); }
     void Forget() { DeleteFileW(port.c_str()); }
 
 private:

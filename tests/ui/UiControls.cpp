@@ -147,9 +147,4 @@ void PickInListBox(HWND box, int index) {
     NotifyOwner(box, LBN_SELCHANGE);
 }
 
-void PickTab(HWND sheet, int index) {
-    SendMessageW(sheet, PSM_SETCURSEL, static_cast<WPARAM>(index), 0);
-    Settle(sheet);
-}
-
 }  // namespace ui

@@ -40,6 +40,5 @@ std::wstring ComboText(HWND combo, int index);
 // As a user would: the owner is told, which the selecting message alone does not do.
 void PickInCombo(HWND combo, int index);
 void PickInListBox(HWND box, int index);
-void PickTab(HWND sheet, int index);  // page of a property sheet
 
 }  // namespace ui

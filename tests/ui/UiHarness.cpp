@@ -3,6 +3,8 @@
 
 #include <cstdio>
 
+#include "UiFiles.h"
+
 namespace ui {
 namespace {
 
@@ -13,20 +15,11 @@ bool WriteTextFile(const wchar_t* path, const char* text) {
     return (fclose(file) == 0) && written;
 }
 
-std::string ReadTextFile(const std::wstring& path) {
-    std::string text;
-    if (FILE* file = _wfopen(path.c_str(), L"rb")) {
-        for (int c; (c = fgetc(file)) != EOF;) text += static_cast<char>(c);
-        fclose(file);
-    }
-    return text;
-}
-
 }  // namespace
 
 // Lines of sample.txt: name=relative path|identifier
 SampleAirport FindSample(const std::string& name) {
-    std::string list = "\n" + ReadTextFile(std::wstring(kSimulatorFolder) + L"\\sample.txt");
+    std::string list = "\n" + BytesOf(std::wstring(kSimulatorFolder) + L"\\sample.txt");
     size_t start = list.find("\n" + name + "=");
     if (start == std::string::npos) return {};
     start += name.size() + 2;
@@ -122,13 +115,6 @@ void UiTest::CloseDialog(HWND dialog, int button) {
     PressButton(dialog, button);
     ASSERT_TRUE(WaitUntilGone(dialog)) << "the dialog stays open";
     Settle(mainWindow);
-}
-
-void UiTest::Screenshot(const std::wstring& path) {
-    ASSERT_TRUE(BringToFront(mainWindow));
-    ParkPointer();
-    Picture picture = GrabStable([&] { return GrabWindow(mainWindow); });
-    ASSERT_TRUE(SaveBmp(picture, path)) << Utf8(path);
 }
 
 DWORD UiTest::CloseProgram() {

@@ -8,6 +8,7 @@
 
 #include <string>
 
+#include "Resource.h"
 #include "UiControls.h"
 #include "UiDriver.h"
 #include "UiInput.h"
@@ -45,6 +46,7 @@ protected:
     UINT State(UINT id) const { return MenuState(agent, id); }
     bool IsGreyed(UINT id) const;
     bool IsChecked(UINT id) const;
+    bool CanUndo() const { return !IsGreyed(IDM_UNDO); }
     std::wstring Title() const { return TextOf(mainWindow); }
     bool WaitForTitle(const std::wstring& part) const { return WaitForTitlePart(mainWindow, part); }
 
@@ -55,8 +57,7 @@ protected:
     void Press(HWND dialog, int button) { PressButton(dialog, button); }
     void CloseDialog(HWND dialog, int button);  // presses and waits until it is gone
 
-    void Screenshot(const std::wstring& path);  // BMP of the main window with its frame
-    DWORD CloseProgram();                       // WM_CLOSE; exit code, or 0xFFFFFFFF when it does not end
+    DWORD CloseProgram();  // WM_CLOSE; exit code, or 0xFFFFFFFF when it does not end
 
     Program program;
     HWND mainWindow = nullptr;

@@ -33,10 +33,7 @@ protected:
 
     template <class Change>
     bool Edit(Change change) {
-        const AirportFields shown = LoadAirportFields(airport);
-        AirportFields entered = shown;
-        change(entered);
-        return StoreAirportFields(shown, entered, airport, &bad);
+        return OkAfter<LoadAirportFields, StoreAirportFields>(airport, change);
     }
 
     SceneryObject* airport = nullptr;

@@ -11,6 +11,7 @@
 #include <random>
 
 #include "bgl/OpenAirport.h"
+#include "fakes/AirportFixture.h"
 #include "fakes/BuildObjects.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/RandomAirport.h"
@@ -21,18 +22,15 @@ namespace {
 
 using namespace model;
 
-class AirportWriter : public testing::Test {
+class AirportWriter : public AirportFixture {
 protected:
     void SetUp() override {
-        ResetFakes();
-        ClearModel();
-        airport = build::Airport("KSEA");
+        AirportFixture::SetUp();
         auto& record = PayloadAs<AirportRecord>(airport);
         record.longitude = 0x07B12FA6;
         record.latitude = 0x07908B15;
         record.altitude = 132000;
     }
-    void TearDown() override { ClearModel(); }
 
     AirportRecord& Record() const { return PayloadAs<AirportRecord>(airport); }
     static std::vector<ByteList> Bodies(uint16_t id) { return PartsWithId(AirportPartsOf(BuildFile()), id); }
@@ -40,7 +38,6 @@ protected:
         const std::vector<ByteList> bodies = Bodies(id);
         return bodies.size() == 1 ? HexOf(bodies[0]) : std::to_string(bodies.size()) + " records";
     }
-    SceneryObject* airport = nullptr;
 };
 
 std::string Same(std::string_view digits) { return HexOf(Hex(digits)); }
@@ -139,8 +136,7 @@ TEST_F(AirportWriter, NameOfTenCharactersGetsARecordOf16BytesWithoutAZero) {
 
 TEST_F(AirportWriter, NamesOf47And48CharactersReadBackWhole) {
     for (size_t length : { 46u, 47u, 48u }) {
-        ClearModel();
-        build::Airport("KSEA");
+        BeginAgain();
         const std::string name(length, 'x');
         SetAirportName(name);
         ASSERT_TRUE(bgl::OpenAirportBytes(BuildFile(), ""));
@@ -262,8 +258,7 @@ TEST_F(AirportWriter, SurfaceRecordSizesRoundDown) {
         size_t size;
     } cases[] = { { 0, 0, 12 }, { 1, 0, 20 }, { 3, 1, 44 - 6 + 6 }, { 4, 2, 56 } };
     for (const auto& c : cases) {
-        ClearModel();
-        build::Airport("KSEA");
+        BeginAgain();
         SceneryObject* apron = build::Append(kApron, 29 + 8u * c.vertices + 6u * c.triangles);
         PayloadAs<ApronHead>(apron).vertexCount = c.vertices;
         PayloadAs<ApronHead>(apron).triangleCount = c.triangles;

@@ -76,10 +76,7 @@ protected:
 
     template <class Change>
     bool Edit(Change change) {
-        const EdgeLightsFields shown = LoadEdgeLightsFields(lights);
-        EdgeLightsFields entered = shown;
-        change(entered);
-        return StoreEdgeLightsFields(shown, entered, lights, &bad);
+        return OkAfter<LoadEdgeLightsFields, StoreEdgeLightsFields>(lights, change);
     }
     SceneryObject* lights = nullptr;
 };

@@ -125,6 +125,34 @@ TEST_F(ApronToolTest, APressOnAnEdgeInsertsAVertexThere) {
     ExpectOneAction(before);
 }
 
+TEST_F(ApronToolTest, AnApronThatLostItsCornersIsFoundAndMended) {
+    SceneryObject* apron = SquareApron();
+    SetTool(Tool::Pointer);
+    Paint();
+    Click({ -100, -100 });
+    Click({ 100, 100 }, { .shift = true });
+    EXPECT_EQ(DeleteSelected(), 1);
+    ASSERT_EQ(Copied(HeadOf(apron).outlineCount), 2);
+    EXPECT_EQ(Copied(HeadOf(apron).triangleCount), 0);
+    InsertAt({ 20, -20 });  // on what was the diagonal
+    ASSERT_EQ(Copied(HeadOf(apron).outlineCount), 3);
+    SetTool(Tool::Pointer);
+    Drag({ 20, -20 }, { 80, 80 });
+    ASSERT_EQ(Copied(HeadOf(apron).triangleCount), 1);
+    RecordingCanvas page;
+    Paint(&page);
+    EXPECT_EQ(page.FilledWith(ApronColour(0)).size(), 1u);
+}
+
+TEST_F(ApronToolTest, WhatIsLeftOfAnApronCanBeDeletedByClickAndKey) {
+    build::Apron({ build::Encoded({ 50, 50 }) });
+    SetTool(Tool::Pointer);
+    Paint();
+    Click({ 50, 50 });
+    EXPECT_EQ(DeleteSelected(), 1);
+    EXPECT_EQ(CountKind(kApron), 0u);
+}
+
 TEST_F(ApronToolTest, TheClosingEdgeIsAnEdgeToo) {
     SceneryObject* apron = SquareApron();
     InsertAt({ -100, 10 });
@@ -149,7 +177,7 @@ TEST_F(ApronToolTest, TooManyApronsAreRefused) {
     fake.remark.clear();
     Escape();
     EXPECT_EQ(CountKind(kApron), 255u);
-    EXPECT_NE(fake.remark, "");
+    EXPECT_EQ(fake.remark, "A scenery file can hold no more than 255 aprons");
     EXPECT_FALSE(HasOutline() || CanEscape());
 }
 

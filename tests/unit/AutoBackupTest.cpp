@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <utility>
 
 #include "app/Airport.h"
 #include "app/AppState.h"
@@ -143,6 +144,15 @@ TEST_F(AutoBackup, WhatHadToWaitIsWrittenOnceTheAirportIsAtRest) {
     EXPECT_TRUE(Exists("AutoBackupTemp.bgl"));
     app::WriteDueAutoBackup();
     EXPECT_EQ(fakeShell.waitCursors, 1) << "written again though nothing is due";
+}
+
+TEST_F(AutoBackup, NothingToWriteIsAFailureToo) {
+    OpenModified();
+    model::SceneryObject* airport = std::exchange(model::state.airport, nullptr);
+    app::WriteAutoBackup();
+    model::state.airport = airport;
+    EXPECT_EQ(fakeShell.notice, "Autobackup failed: there is no airport");
+    EXPECT_FALSE(Exists("AutoBackupTemp.bgl"));
 }
 
 TEST_F(AutoBackup, AWriteThatFailsLeavesTheBackupBefore) {

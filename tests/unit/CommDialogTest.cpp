@@ -22,10 +22,7 @@ protected:
 
     template <class Change>
     bool Edit(Change change) {
-        const CommFields shown = LoadCommFields(comm);
-        CommFields entered = shown;
-        change(entered);
-        return StoreCommFields(shown, entered, comm, &bad);
+        return OkAfter<LoadCommFields, StoreCommFields>(comm, change);
     }
     SceneryObject* comm = nullptr;
 };

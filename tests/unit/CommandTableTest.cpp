@@ -16,6 +16,7 @@
 #include "fakes/BuildObjects.h"
 #include "fakes/FakeEditors.h"
 #include "fakes/FakePlatform.h"
+#include "fakes/FakePrinter.h"
 #include "fakes/FakeShell.h"
 #include "map/MapView.h"
 #include "map/Tools.h"
@@ -91,8 +92,8 @@ void DescribeFakes(std::ostream* out) {
     const FakeShell& shell = fakeShell;
     *out << shell.saveQuestions.size() << ' ' << shell.texts.size() << ' ' << shell.documents.size() << ' '
          << shell.openDialogs << ' ' << shell.optionsDialogs << ' ' << shell.aircraftEditors.size() << ' '
-         << shell.pageSetups << ' ' << shell.prints << ' ' << shell.pictureQuestions.size() << ' ' << shell.faultFinders
-         << ' ' << shell.closeRequests << '\n'
+         << shell.pageSetups << ' ' << fakePrinter.steps.size() << ' ' << shell.pictureQuestions.size() << ' '
+         << shell.faultFinders << ' ' << shell.closeRequests << '\n'
          << fake.messages.size() << ' ' << fake.placedAircraft.size() << ' ' << fakeEditors.opened.size() << ' '
          << fakeEditors.lists.size() << '\n';
 }

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+
 #include "fakes/ToolFixture.h"
 #include "map/LightStrips.h"
 #include "model/EdgeLights.h"
@@ -46,6 +48,18 @@ TEST_F(EdgeLightsToolTest, ASecondStripJoinsTheSameObject) {
     EXPECT_TRUE(StripAt(Lights(), 1).segmentSelected);
     Undo();
     EXPECT_EQ(File(), before);
+}
+
+TEST_F(EdgeLightsToolTest, TooManyStripsAreRefused) {
+    Drag({ -100, 0 }, { 100, 0 });
+    const EdgeLightStrip strip = StripsOf(Lights())[0];
+    ResizePayload(Lights(), static_cast<uint32_t>(sizeof(EdgeLightsHead) + 32767 * sizeof strip));
+    PayloadAs<EdgeLightsHead>(Lights()).stripCount = 32767;
+    for (size_t i = 0; i < 32767; ++i)
+        std::memcpy(Lights()->payload + sizeof(EdgeLightsHead) + i * sizeof strip, &strip, sizeof strip);
+    Drag({ -100, 100 }, { 100, 100 });
+    EXPECT_EQ(StripCount(Lights()), 32767u);
+    EXPECT_EQ(fake.remark, "A scenery file can hold no more strips of apron edge lights");
 }
 
 TEST_F(EdgeLightsToolTest, AnEndOnAnEndIsExactlyThere) {

@@ -46,6 +46,16 @@ protected:
             EXPECT_EQ(object->historyNext, nullptr);
         }
     }
+    static void ExpectUndoes(const Objects& before, const Objects& after, int rounds) {
+        for (int round = 0; round < rounds; ++round) {
+            Undo();
+            ExpectList(before);
+            Redo();
+            ExpectList(after);
+        }
+        Undo();
+        ExpectList(before);
+    }
     static int ChainLength(const SceneryObject* entry) {
         int length = 0;
         for (; entry; entry = entry->historyNext) ++length;
@@ -157,14 +167,7 @@ TEST_F(EditHistory, UndoAndRedoOfADeletionAtHeadMiddleTailAndAlone) {
             BeginAction();
             DeleteObject(all[place]);
             ExpectList(rest);
-            for (int round = 0; round < 3; ++round) {
-                Undo();
-                ExpectList(all);
-                Redo();
-                ExpectList(rest);
-            }
-            Undo();
-            ExpectList(all);
+            ExpectUndoes(all, rest, 3);
         }
     }
 }
@@ -215,13 +218,7 @@ TEST_F(EditHistory, NeighboursDeletedTogetherInAnyOrderComeBackInPlace) {
         for (int i = 0; i < 5; ++i) all.push_back(build::Node());
         BeginAction();
         for (size_t place : order) DeleteObject(all[place]);
-        const Objects rest = build::List();
-        Undo();
-        ExpectList(all);
-        Redo();
-        ExpectList(rest);
-        Undo();
-        ExpectList(all);
+        ExpectUndoes(all, build::List(), 1);
     }
 }
 

@@ -23,10 +23,7 @@ protected:
 
     template <class Change>
     bool Edit(Change change) {
-        const HelipadFields shown = LoadHelipadFields(pad);
-        HelipadFields entered = shown;
-        change(entered);
-        return StoreHelipadFields(shown, entered, pad, &bad);
+        return OkAfter<LoadHelipadFields, StoreHelipadFields>(pad, change);
     }
     SceneryObject* pad = nullptr;
 };

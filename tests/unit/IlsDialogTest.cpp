@@ -39,10 +39,7 @@ protected:
     }
     template <class Change>
     bool Edit(SceneryObject* ils, Change change) {
-        const IlsFields shown = LoadIlsFields(ils);
-        IlsFields entered = shown;
-        change(entered);
-        return StoreIlsFields(shown, entered, ils, &bad);
+        return OkAfter<LoadIlsFields, StoreIlsFields>(ils, change);
     }
     SceneryObject *airport = nullptr, *runway = nullptr;
     uint32_t seed = 0;

@@ -41,10 +41,7 @@ protected:
     // OK after `change` was made to the fields shown.
     template <class Change>
     bool Edit(SceneryObject* object, Change change) {
-        const LinkFields shown = LoadLinkFields(object);
-        LinkFields entered = shown;
-        change(entered);
-        return StoreLinkFields(shown, entered, object, &bad);
+        return OkAfter<LoadLinkFields, StoreLinkFields>(object, change);
     }
 
     SceneryObject *blank = nullptr, *alpha = nullptr, *runway = nullptr, *a = nullptr, *b = nullptr, *link = nullptr;

@@ -4,6 +4,8 @@
 
 #include <cstring>
 #include <iterator>
+#include <map>
+#include <string>
 
 #include "fakes/FakeTransport.h"
 
@@ -77,27 +79,26 @@ protected:
 };
 
 TEST_F(LinkIpcTest, EveryErrorHasItsTextByCode) {
-    constexpr const char* kTexts[] = {
-        "Okay",
-        "Attempt to Open when already Open",
-        "Cannot link to FSUIPC or WideClient",
-        "Failed to Register common message with Windows",
-        "Failed to create Atom for mapping filename",
-        "Failed to create a file mapping object",
-        "Failed to open a view to the file map",
-        "Incorrect version of FSUIPC, or not FSUIPC",
-        "Sim is not version requested",
-        "Call cannot execute, link not Open",
-        "Call cannot execute: no requests accumulated",
-        "IPC timed out all retries",
-        "IPC sendmessage failed all retries",
-        "IPC request contains bad data",
-        "Maybe running on WideClient, but FS not running on Server, or wrong FSUIPC",
-        "Read or Write request cannot be added, memory for Process is full",
+    const std::map<int, std::string> texts = {
+        { 0, "Okay" },
+        { 1, "Attempt to Open when already Open" },
+        { 2, "Cannot link to FSUIPC or WideClient" },
+        { 3, "Failed to Register common message with Windows" },
+        { 4, "Failed to create Atom for mapping filename" },
+        { 5, "Failed to create a file mapping object" },
+        { 6, "Failed to open a view to the file map" },
+        { 7, "Incorrect version of FSUIPC, or not FSUIPC" },
+        { 8, "Sim is not version requested" },
+        { 9, "Call cannot execute, link not Open" },
+        { 10, "Call cannot execute: no requests accumulated" },
+        { 11, "IPC timed out all retries" },
+        { 12, "IPC sendmessage failed all retries" },
+        { 13, "IPC request contains bad data" },
+        { 14, "Maybe running on WideClient, but FS not running on Server, or wrong FSUIPC" },
+        { 15, "Read or Write request cannot be added, memory for Process is full" },
     };
-    static_assert(std::size(kTexts) == simlink::kIpcErrors);
-    for (int code = 0; code < simlink::kIpcErrors; ++code)
-        EXPECT_STREQ(ErrorText(static_cast<IpcError>(code)), kTexts[code]);
+    ASSERT_EQ(texts.size(), size_t{ simlink::kIpcErrors });
+    for (const auto& [code, text] : texts) EXPECT_EQ(ErrorText(static_cast<IpcError>(code)), text);
 }
 
 TEST_F(LinkIpcTest, OpensAndKnowsBothVersions) {

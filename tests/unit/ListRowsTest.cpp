@@ -253,6 +253,24 @@ TEST_F(ListRowsTest, TypingTakesOneBlankForTheBlanksOfARow) {
     EXPECT_EQ(RowBeginningWith(rows, 0, "gated"), -1);
 }
 
+TEST_F(ListRowsTest, TypingGoesOnWithTheWordUntilThereIsAPause) {
+    const std::vector<ListRow> rows = { { "Alpha", nullptr }, { "Beta", nullptr }, { "Bravo", nullptr } };
+    TypedWord word;
+    EXPECT_EQ(RowAfterTyping(rows, -1, "b", 5000, &word), 1);
+    EXPECT_EQ(RowAfterTyping(rows, 1, "r", 6000, &word), 2);
+    EXPECT_EQ(RowAfterTyping(rows, 2, "x", 6500, &word), 2) << "no row goes on so";
+    EXPECT_EQ(word.text, "brx");
+    EXPECT_EQ(RowAfterTyping(rows, 2, "b", 7501, &word), 1) << "a new word begins behind the selected row";
+    EXPECT_EQ(RowAfterTyping(rows, 1, "e", 7502, &word), 1) << "a longer one at it";
+}
+
+TEST_F(ListRowsTest, TheClockOfTypingMayWrap) {
+    const std::vector<ListRow> rows = { { "Alpha", nullptr }, { "Apron", nullptr } };
+    TypedWord word;
+    EXPECT_EQ(RowAfterTyping(rows, -1, "a", 0xFFFFFF00, &word), 0);
+    EXPECT_EQ(RowAfterTyping(rows, 0, "p", 0x00000010, &word), 1);
+}
+
 TEST_F(ListRowsTest, ShortFrequenciesKeepTheWidthOfTheirColumn) {
     SceneryObject* vor = build::Vor();
     As<model::VorDmePayload>(vor).body.frequency = 99500000;

@@ -188,14 +188,8 @@ TEST_F(MoveDragTest, StripsThatWereJoinedStayJoined) {
 
 TEST_F(MoveDragTest, OfAnIlsTheSelectedPartsMove) {
     layers.navaids = true;
-    SceneryObject* ils = build::Ils("IABC", { 0, 100 });
+    SceneryObject* ils = build::IlsWithParts("IABC", { 0, 100 }, { 120, 0 }, { 200, 0 });
     auto& payload = PayloadAs<IlsPayload>(ils);
-    payload.body.flags = kHasGlideSlope | kHasDme;
-    const EncodedPoint slope = build::Encoded({ 120, 0 }), dme = build::Encoded({ 200, 0 });
-    payload.glideSlope.longitude = slope.longitude;
-    payload.glideSlope.latitude = slope.latitude;
-    payload.dme.longitude = dme.longitude;
-    payload.dme.latitude = dme.latitude;
     payload.selectedParts = kGlideSlopePart;
     ils->flags |= kSelected;
     BeginMove(PixelOf({ 0, 0 }));
@@ -204,7 +198,7 @@ TEST_F(MoveDragTest, OfAnIlsTheSelectedPartsMove) {
     EXPECT_LT(DistanceTo(ils, { 0, 100 }), 0.1);
     const auto& now = PayloadAs<IlsPayload>(ils);
     EXPECT_LT(DistanceOf({ now.glideSlope.longitude, now.glideSlope.latitude }, { 150, 0 }), kNear);
-    EXPECT_EQ(Copied(now.dme.longitude), dme.longitude);
+    EXPECT_EQ(Copied(now.dme.longitude), build::Encoded({ 200, 0 }).longitude);
 }
 
 TEST_F(MoveDragTest, AVorTakesItsDmeWithIt) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "bgl/OpenAirport.h"
+#include "fakes/AirportFixture.h"
 #include "fakes/BuildObjects.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/SceneryBytes.h"
@@ -134,18 +135,15 @@ TEST(NameList, DamageAtEveryByteIsSurvived) {
     }
 }
 
-class NamesOfAnAirport : public testing::Test {
+class NamesOfAnAirport : public AirportFixture {
 protected:
     void SetUp() override {
-        ResetFakes();
-        model::ClearModel();
-        build::Airport("KSEA");
+        AirportFixture::SetUp();
         model::state.country = "\xD6sterreich";  // Windows-1252
         model::state.state = "Tirol";
         model::state.city = std::string("Inns\0bruck", 10);
         model::SetAirportName("Kranebitten");
     }
-    void TearDown() override { model::ClearModel(); }
 };
 
 TEST_F(NamesOfAnAirport, AreNotLostOnSaving) {

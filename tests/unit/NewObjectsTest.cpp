@@ -101,8 +101,16 @@ TEST_F(NewObjectsTest, TooManySpotsAreRefused) {
     for (uint32_t i = 0; i < 4096; ++i) build::Spot({ 5000, 0 });
     Click({ 0, 0 });
     EXPECT_EQ(CountKind(kParkingSpot), 4096u);
-    EXPECT_NE(fake.remark, "");
+    EXPECT_EQ(fake.remark, "A scenery file can hold no more than 4096 parking spots");
     EXPECT_FALSE(CanUndo());
+}
+
+TEST_F(NewObjectsTest, LinksHaveRoomUpToWhatAFileCanCount) {
+    for (uint32_t i = 0; i < 65534; ++i) AppendObject(CreateObject(kTaxiLink, sizeof(TaxiLinkPayload)));
+    EXPECT_TRUE(HasRoomFor(kTaxiLink));
+    EXPECT_EQ(fake.remark, "");
+    EXPECT_FALSE(HasRoomFor(kTaxiLink, 2));
+    EXPECT_EQ(fake.remark, "A scenery file can hold no more than 65535 taxi links");
 }
 
 TEST_F(NewObjectsTest, WhatIsMadeIsTheOnlySelection) {

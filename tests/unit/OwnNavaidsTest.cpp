@@ -5,6 +5,7 @@
 #include "bgl/Navaids.h"
 #include "bgl/OpenAirport.h"
 #include "bgl/RecordIds.h"
+#include "fakes/AirportFixture.h"
 #include "fakes/BuildObjects.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/RandomAirport.h"
@@ -14,15 +15,8 @@ namespace {
 
 using namespace model;
 
-class OwnNavaids : public testing::Test {
+class OwnNavaids : public AirportFixture {
 protected:
-    void SetUp() override {
-        ResetFakes();
-        ClearModel();
-        build::Airport("KSEA");
-    }
-    void TearDown() override { ClearModel(); }
-
     static SceneryObject* Vor(std::string_view ident, uint32_t column, uint32_t region = 0) {
         SceneryObject* vor = build::Vor();
         SetEncodedPosition(vor, { 0x08000000, column << 21 | 0x1234 });

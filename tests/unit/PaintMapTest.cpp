@@ -152,6 +152,40 @@ TEST_F(PaintMapTest, AnApronInItsMakingIsNotDrawn) {
     EXPECT_FALSE(IsDrawn(apron));
 }
 
+TEST_F(PaintMapTest, WhatIsLeftOfAnApronIsSeenOnTopWhetherSelectedOrNot) {
+    const EncodedPoint west = build::Encoded({ -50, 0 }), east = build::Encoded({ 50, 0 });
+    for (const std::vector<EncodedPoint>& corners : { std::vector{ west, east }, std::vector{ west } }) {
+        ClearModel();
+        WideRunway();
+        Open();
+        SceneryObject* apron = build::Apron(corners);
+        for (const uint32_t selected : { 0u, kSelected | kWholeSelected }) {
+            apron->flags = kApron | selected;
+            RecordingCanvas page;
+            Paint(&page);
+            EXPECT_TRUE(IsDrawn(apron));
+            EXPECT_EQ(PartsOf(apron).apron.size(), corners.size());
+            EXPECT_TRUE(page.FilledWith(ApronColour(0)).empty());
+            std::vector<CanvasCall> marks;
+            for (const CanvasCall& call : page.StrokedWith(InkOf(Ink::SelectedOutline))) {
+                if (call.name == "polygon" && call.points.size() == 4) marks.push_back(call);
+            }
+            ASSERT_EQ(marks.size(), corners.size());
+            for (const CanvasCall& mark : marks)
+                EXPECT_EQ(mark.brush, InkOf(selected ? Ink::SelectedFill : Ink::Background));
+            EXPECT_GT(page.FirstWith(InkOf(Ink::SelectedOutline)), page.FirstWith(RunwayColour(4)));
+        }
+    }
+}
+
+TEST_F(PaintMapTest, AnApronWithoutCornersIsNotDrawn) {
+    SceneryObject* apron = build::Apron({});
+    apron->flags |= kSelected | kWholeSelected;
+    PaintOpen();
+    EXPECT_FALSE(IsDrawn(apron));
+    EXPECT_EQ(log.FirstWith(InkOf(Ink::SelectedOutline)), -1);
+}
+
 TEST_F(PaintMapTest, AnUnselectedApronHasABlackOutline) {
     ConcreteApron({ -300, -300 }, { 300, 300 });
     PaintOpen();

@@ -26,10 +26,7 @@ protected:
 
     template <class Change>
     bool Edit(SceneryObject* spot, Change change) {
-        const ParkingFields shown = LoadParkingFields(spot);
-        ParkingFields entered = shown;
-        change(entered);
-        return StoreParkingFields(shown, entered, spot, &bad);
+        return OkAfter<LoadParkingFields, StoreParkingFields>(spot, change);
     }
 };
 

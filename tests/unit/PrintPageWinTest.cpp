@@ -22,17 +22,11 @@ constexpr map::PrintDevice kFine = { 5100, 6600, 150, 150, 4800, 6300, 600, 600 
 // The printable area of a printer as a picture.
 struct Sheet {
     explicit Sheet(const map::PrintDevice& device) : width(device.width), height(device.height) {
-        BITMAPINFO info{};
-        info.bmiHeader.biSize = sizeof info.bmiHeader;
-        info.bmiHeader.biWidth = width;
-        info.bmiHeader.biHeight = -height;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
-        void* memory = nullptr;
-        bitmap = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &memory, nullptr, 0);
+        const platform::PixelBitmap made = platform::MakePixelBitmap(width, height);
+        bitmap = made.handle;
+        pixels = made.pixels;
         dc = CreateCompatibleDC(nullptr);
         before = SelectObject(dc, bitmap);
-        pixels = static_cast<const uint32_t*>(memory);
         PatBlt(dc, 0, 0, width, height, WHITENESS);
     }
     ~Sheet() {

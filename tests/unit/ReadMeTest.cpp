@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <regex>
 #include <set>
 #include <string>
@@ -112,6 +113,44 @@ TEST_F(ReadMeTest, EveryDialogWithAHelpButtonHasATopic) {
         }
     }
     for (const std::string& dialog : dialogs) ADD_FAILURE() << dialog << " is opened nowhere";
+}
+
+// How many dialogs each topic serves: those that stand beside it in the sources, or the one whose file names it.
+std::map<std::string, size_t> DialogsOfTopics() {
+    std::map<std::string, size_t> topics;
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(Checkout() / "src")) {
+        if (entry.path().extension() != ".cpp") continue;
+        const std::string source = ReadText(entry.path());
+        const std::vector<std::string> beside =
+            AllMatches(source, "IDD_[A-Z_]+[,;]\\s*(?:editor\\.topic = )?\"#([A-Z][A-Za-z]+)\"");
+        for (const std::string& topic : beside) ++topics[topic];
+        const std::vector<std::string> named = AllMatches(source, "\"#([A-Z][A-Za-z]+)\"");
+        for (const std::string& topic : std::set<std::string>(named.begin(), named.end())) {
+            if (std::find(beside.begin(), beside.end(), topic) == beside.end()) ++topics[topic];
+        }
+    }
+    return topics;
+}
+
+// What the page says about a topic: from its heading to the next one of the same or a higher rank.
+std::string SectionOf(const std::string& page, const std::string& topic) {
+    const size_t name = page.find(" id=\"" + topic + "\"");
+    if (name == std::string::npos || name < 3) return {};
+    const char rank = page[name - 1];
+    size_t end = name;
+    do end = page.find("<h", end + 1);
+    while (end != std::string::npos && !(page[end + 2] >= '1' && page[end + 2] <= rank));
+    return page.substr(name, end - name);
+}
+
+TEST_F(ReadMeTest, EveryTopicOfADialogHasAPictureForEachDialogThatItServes) {
+    const std::map<std::string, size_t> topics = DialogsOfTopics();
+    ASSERT_TRUE(topics.contains("Navaids")) << "the sources were not searched";
+    EXPECT_GE(topics.at("Navaids"), 7u);
+    EXPECT_GE(topics.at("Runways"), 2u);
+    EXPECT_TRUE(topics.contains("RunwayLights") && topics.contains("FaultFinder"));
+    for (const auto& [topic, dialogs] : topics)
+        EXPECT_GE(AllMatches(SectionOf(page, topic), "(<img )").size(), dialogs) << topic;
 }
 
 // Width and height of a PNG file, from its first chunk; 0 for anything else.

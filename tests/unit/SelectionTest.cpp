@@ -32,15 +32,8 @@ protected:
         return spot;
     }
     static SceneryObject* Ils() {
-        SceneryObject* ils = build::Ils("IABC", { 0, 100 });
-        auto& payload = PayloadAs<IlsPayload>(ils);
-        payload.localizer.width = 5;
-        payload.body.flags = kHasGlideSlope | kHasDme;
-        const EncodedPoint slope = build::Encoded({ 120, 0 }), dme = build::Encoded({ 200, 0 });
-        payload.glideSlope.longitude = slope.longitude;
-        payload.glideSlope.latitude = slope.latitude;
-        payload.dme.longitude = dme.longitude;
-        payload.dme.latitude = dme.latitude;
+        SceneryObject* ils = build::IlsWithParts("IABC", { 0, 100 }, { 120, 0 }, { 200, 0 });
+        PayloadAs<IlsPayload>(ils).localizer.width = 5;
         return ils;
     }
     static SceneryObject* Strip() {
@@ -303,6 +296,26 @@ TEST_F(SelectionTest, AnApronIsSelectedWholeOrByVertex) {
     SelectAt(PixelOf({ 0, 0 }), true);
     SelectAt(PixelOf({ 0, 0 }), true);
     EXPECT_EQ(apron->flags & (kSelected | kWholeSelected), 0u);
+}
+
+TEST_F(SelectionTest, WhatIsLeftOfAnApronIsSelectedByItsLineOrItsCorners) {
+    SceneryObject* apron = build::Apron({ build::Encoded({ -100, 0 }), build::Encoded({ 100, 0 }) });
+    Paint();
+    SelectAt(PixelOf({ 0, 0 }), false);
+    EXPECT_EQ(apron->flags & (kSelected | kWholeSelected), kSelected | kWholeSelected);
+    SelectAt(PixelOf({ 100, 0 }), false);
+    EXPECT_EQ(apron->flags & (kSelected | kWholeSelected), kSelected);
+    EXPECT_TRUE(IsVertexSelected(apron, 1));
+    EXPECT_EQ(PickedAt({ 0, 20 }), nullptr);
+    EXPECT_EQ(PickedAt({ 120, 0 }), nullptr);
+}
+
+TEST_F(SelectionTest, TheLastCornerOfAnApronCanBeSelected) {
+    SceneryObject* apron = build::Apron({ build::Encoded({ 100, 0 }) });
+    Paint();
+    EXPECT_EQ(PickedAt({ 0, 0 }), nullptr);
+    SelectAt(PixelOf({ 100, 0 }), false);
+    EXPECT_TRUE(IsVertexSelected(apron, 0));
 }
 
 TEST_F(SelectionTest, DeselectingAnApronForgetsItsVertices) {

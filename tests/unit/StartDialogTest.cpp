@@ -21,10 +21,7 @@ protected:
 
     template <class Change>
     bool Edit(Change change) {
-        const StartFields shown = LoadStartFields(start);
-        StartFields entered = shown;
-        change(entered);
-        return StoreStartFields(shown, entered, start, &bad);
+        return OkAfter<LoadStartFields, StoreStartFields>(start, change);
     }
     SceneryObject* start = nullptr;
 };

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "fakes/MapFixture.h"
@@ -204,6 +205,85 @@ TEST_F(TaxiwaySurfaceTest, JunctionsOfAnyShapeHaveNoGaps) {
         }
         for (double degrees = 0; degrees < 360; degrees += 5) {
             ASSERT_TRUE(IsPavedAt(Around(degrees, narrowest * 0.2))) << "round " << round << " at " << degrees;
+        }
+    }
+}
+
+// Links that branch from up to three nodes, and what pavement they excuse.
+struct Branches {
+    struct Stop {
+        build::Place at;
+        double widest = 0;  // half width of a link there, metres
+    };
+    struct Line {
+        size_t from, to;
+        double half;
+    };
+    std::vector<Stop> stops = { {} };
+    std::vector<Line> lines;
+};
+
+void AddBranch(Branches* branches, Random* random, build::Place step) {
+    const size_t from = Below(random, static_cast<uint32_t>(std::min<size_t>(branches->stops.size(), 3)));
+    const size_t to = branches->stops.size();
+    const build::Place start = branches->stops[from].at;
+    const double half = (4.0 + Below(random, OneIn(random, 2) ? 6 : 26)) / 2;
+    branches->stops.push_back({ { start.east + step.east, start.north + step.north } });
+    branches->lines.push_back({ from, to, half });
+    for (const size_t end : { from, to }) branches->stops[end].widest = std::max(branches->stops[end].widest, half);
+}
+
+// A fillet, of 1.2 times both half widths, comes within half of its radius of the edges; the bend behind a node lies at
+// most a tenth farther out than the widest link.
+constexpr double kFilletReach = 1.2 / 2, kBend = 1.1;
+constexpr double kOutline = 0.5;  // metres: rounding to pixels and the pen
+
+bool IsNear(const Branches::Stop& stop, build::Place place) {
+    return std::hypot(place.east - stop.at.east, place.north - stop.at.north) <= stop.widest * kBend + kOutline;
+}
+
+bool IsBeside(const Branches& branches, const Branches::Line& line, build::Place place) {
+    const Branches::Stop &a = branches.stops[line.from], &b = branches.stops[line.to];
+    const double east = b.at.east - a.at.east, north = b.at.north - a.at.north, length = std::hypot(east, north);
+    const double dx = place.east - a.at.east, dy = place.north - a.at.north;
+    const double along = (dx * east + dy * north) / length, off = std::abs(dx * north - dy * east) / length;
+    const double both = line.half + std::max(a.widest, b.widest);
+    return along >= 0 && along <= length && off <= line.half + kFilletReach * both + kOutline;
+}
+
+bool MayBePaved(const Branches& branches, build::Place place) {
+    return std::ranges::any_of(branches.stops, [&](const auto& stop) { return IsNear(stop, place); }) ||
+           std::ranges::any_of(branches.lines, [&](const auto& line) { return IsBeside(branches, line, place); });
+}
+
+TEST_F(TaxiwaySurfaceTest, JunctionsOfAnyShapePaveNothingFarFromTheirLinks) {
+    Random random = { 11 };
+    for (int round = 0; round < 500; ++round) {
+        ClearModel();
+        Open();
+        Branches branches;
+        for (uint32_t count = 1 + Below(&random, 6); count > 0; --count) {
+            const double degrees = Below(&random, 360), length = 10.0 + Below(&random, 60);
+            AddBranch(&branches, &random, Around(degrees, length));
+        }
+        std::vector<SceneryObject*> nodes;
+        for (const Branches::Stop& stop : branches.stops) nodes.push_back(build::Node(stop.at));
+        for (const Branches::Line& line : branches.lines) {
+            const bool back = OneIn(&random, 2);
+            Taxiway(nodes[back ? line.to : line.from], nodes[back ? line.from : line.to], 2 * line.half);
+        }
+        PaintPavement();
+        ASSERT_FALSE(figures.empty());
+        for (const auto& figure : figures) {
+            const auto [left, right] = std::ranges::minmax(figure, {}, &Pixel::x);
+            const auto [top, bottom] = std::ranges::minmax(figure, {}, &Pixel::y);
+            for (int x = left.x; x <= right.x; x += 3) {
+                for (int y = top.y; y <= bottom.y; y += 3) {
+                    const build::Place place = { (x - kWidth / 2) / 4.0, (kHeight / 2 - y) / 4.0 };
+                    ASSERT_TRUE(MayBePaved(branches, place) || Winding({ x, y }, figure) == 0)
+                        << "round " << round << " at " << place.east << " m east, " << place.north << " m north";
+                }
+            }
         }
     }
 }

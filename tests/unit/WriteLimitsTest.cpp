@@ -6,6 +6,7 @@
 #include "bgl/AirportWriter.h"
 #include "bgl/Cells.h"
 #include "bgl/OpenAirport.h"
+#include "fakes/AirportFixture.h"
 #include "fakes/BuildObjects.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/RandomAirport.h"
@@ -75,14 +76,8 @@ constexpr LimitCase kCases[] = {
 INSTANTIATE_TEST_SUITE_P(EachKind, WriteLimits, testing::ValuesIn(kCases),
                          [](const auto& limit) { return limit.param.name; });
 
-class OtherLimits : public testing::Test {
+class OtherLimits : public AirportFixture {
 protected:
-    void SetUp() override {
-        ResetFakes();
-        ClearModel();
-        build::Airport("KSEA");
-    }
-    void TearDown() override { ClearModel(); }
     static std::string Refusal() {
         ByteList bytes;
         std::string refusal;
@@ -103,8 +98,7 @@ TEST_F(OtherLimits, EdgeLightsMayHave65535EdgesOnFewVertices) {
     std::vector<EdgeLightStrip> strips(65535, Strip(1, 2));
     build::EdgeLights(strips);
     EXPECT_EQ(Refusal(), "");
-    ClearModel();
-    build::Airport("KSEA");
+    BeginAgain();
     strips.push_back(Strip(1, 2));
     build::EdgeLights(strips);
     EXPECT_EQ(Refusal(),
@@ -117,8 +111,7 @@ TEST_F(OtherLimits, EdgeLightsMayHave65535Vertices) {
     strips.push_back(Strip(0, 65534));
     build::EdgeLights(strips);
     EXPECT_EQ(Refusal(), "");
-    ClearModel();
-    build::Airport("KSEA");
+    BeginAgain();
     strips.push_back(Strip(0, 65535));
     build::EdgeLights(strips);
     EXPECT_EQ(Refusal(),
@@ -147,8 +140,7 @@ TEST_F(OtherLimits, NavaidsOfOneSectionMayLieInEightCells) {
 TEST_F(OtherLimits, MarkersAndNdbsCountForThemselves) {
     for (uint32_t column = 0; column < 9; ++column) PutIntoCell(build::Ndb(), column);
     EXPECT_NE(Refusal().find("The NDBs of the airport"), std::string::npos);
-    ClearModel();
-    build::Airport("KSEA");
+    BeginAgain();
     for (uint32_t column = 0; column < 9; ++column)
         PutIntoCell(build::Append(kMarkerBeacon, sizeof(MarkerBeaconPayload)), column);
     EXPECT_NE(Refusal().find("The marker beacons of the airport"), std::string::npos);
