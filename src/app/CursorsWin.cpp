@@ -61,6 +61,7 @@ HCURSOR CursorFor(map::CursorShape shape, bool night, int dpi) {
 }
 
 void FreeCursors() {
+    SetCursor(LoadCursorW(nullptr, IDC_ARROW));  // one of them may be set
     for (auto& pair : cursors) {
         for (HCURSOR& cursor : pair) {
             if (cursor) DestroyCursor(cursor);

@@ -4,7 +4,7 @@
 
 namespace app {
 
-enum class PrintStep { Done, Cancelled, Failed };  // cancelled by the user
+enum class PrintStep { Done, Cancelled, Failed };  // what was cancelled needs no words to the user
 
 // As long as no page setup was shown: map::print.paper becomes that of the default printer, without a dialog.
 void LearnPaper();

@@ -20,7 +20,10 @@ void ReleasePrinter() {
 
 void ForgetPrinter() { fakePrinter.steps.push_back("ForgetPrinter"); }
 
-void ShowPrinting(bool underWay) { fakePrinter.underWay = underWay; }
+void ShowPrinting(bool underWay) {
+    fakePrinter.steps.push_back(underWay ? "Disable" : "Enable");
+    fakePrinter.underWay = underWay;
+}
 
 bool BeginDocument() {
     fakePrinter.steps.push_back("BeginDocument");

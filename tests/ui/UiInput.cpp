@@ -22,7 +22,7 @@ void SendKeyInput(WORD key, bool up) {
 }
 
 // The X server echoes each real move a few milliseconds later; a second move before the echo leaves stale
-// mouse messages behind it. There is no state to wait for, so this is the one fixed pause.
+// mouse messages behind it. Nothing tells whether the echo is still to come, so this is the one fixed pause.
 void LetPointerEcho() { Sleep(15); }
 
 // Again when the late echo of an earlier move has taken the pointer back.
@@ -32,12 +32,13 @@ void SendPointer(POINT to) {
     input.mi.dx = (to.x * 65536 + 32768) / GetSystemMetrics(SM_CXSCREEN);
     input.mi.dy = (to.y * 65536 + 32768) / GetSystemMetrics(SM_CYSCREEN);
     input.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE;
-    WaitUntil([&] {
+    const bool arrived = WaitUntil([&] {
         SendInput(1, &input, sizeof input);
         LetPointerEcho();
         POINT now = {};
         return GetCursorPos(&now) && now.x == to.x && now.y == to.y;
     });
+    if (!arrived) fprintf(stderr, "the pointer does not come to %ld, %ld\n", to.x, to.y);
 }
 
 Picture Grab(HDC source, const RECT& rect) {

@@ -43,6 +43,8 @@ TEST(CursorPictures, ARimOfTheOtherShadeRunsAroundEveryLine) {
         for (int y = 0; y < kCursorSize; ++y) {
             for (int x = 0; x < kCursorSize; ++x) {
                 lines += PixelAt(picture, x, y) == line;
+                const bool border = x == 0 || y == 0 || x == kCursorSize - 1 || y == kCursorSize - 1;
+                ASSERT_FALSE(border && PixelAt(picture, x, y) == line) << x << ' ' << y;
                 if (PixelAt(picture, x, y) != 0) continue;
                 for (const auto& [dx, dy] : { std::pair{ 1, 0 }, { -1, 0 }, { 0, 1 }, { 0, -1 } }) {
                     if (x + dx < 0 || y + dy < 0 || x + dx >= kCursorSize || y + dy >= kCursorSize) continue;
