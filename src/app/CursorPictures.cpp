@@ -20,7 +20,7 @@ struct Spot {
 constexpr Spot kTip = { 1, 1 }, kMiddle = { 15, 15 };  // hot spots of the arrow and of pictures about their middle
 constexpr Spot kCross = { 9, 9 };                      // where the cross of the tools that place something is open
 constexpr Spot kBeside = { 19, 18 };                   // what such a tool places is drawn there
-constexpr int kArm = 9, kGap = 2;                      // of the cross: pixels from its middle
+constexpr int kArm = 8, kGap = 2;                      // of the cross: pixels from its middle
 
 constexpr int kPlainDpi = 96, kHalfwayDpi = 47;  // half a size more still gets the smaller picture
 constexpr int kMostCursorTimes = 8;
