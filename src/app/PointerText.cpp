@@ -25,13 +25,23 @@ using model::SceneryObject;
 
 namespace {
 
-std::string NodeText(const SceneryObject* node) {
+const char* NodeKind(const SceneryObject* node) {
     switch (PayloadAs<model::TaxiNodeRecord>(node).type) {
-    case model::kHoldShortNode: return "Hold-short node";
-    case model::kIlsHoldShortNode: return "ILS hold-short node";
-    default: return "Node";
+    case model::kHoldShortNode: return "Hold-short node ";
+    case model::kIlsHoldShortNode: return "ILS hold-short node ";
+    default: return "Node ";
     }
 }
+
+// Nodes are numbered by their order, from 0, as links in a file do.
+int NumberOfNode(const SceneryObject* node) {
+    int number = 0;
+    for (const SceneryObject* o = model::state.head; o && o != node; o = o->next)
+        number += KindOf(o) == model::kTaxiNode;
+    return number;
+}
+
+std::string NodeText(const SceneryObject* node) { return NodeKind(node) + std::to_string(NumberOfNode(node)); }
 
 std::string RunwayText(const SceneryObject* runway) {
     return "Runway " + dialogs::EndName(runway, dialogs::kBaseEnd) + "/" +

@@ -12,6 +12,7 @@
 #include "bgl/AirportWriter.h"
 #include "bgl/SceneryStructure.h"
 #include "bgl/StockFiles.h"
+#include "map/ApronTool.h"
 #include "model/ObjectList.h"
 #include "platform/Platform.h"
 
@@ -70,6 +71,7 @@ bool SaveAirportAs() {
 }
 
 bool SavePrompt() {
+    if (model::state.loaded) map::CloseOutline();  // an apron that is drawn but not closed is a change too
     if (!model::state.loaded || !model::state.modified) return true;
     const platform::Answer answer = platform::ShowMessage("Do you want to save changes to the current facility ?",
                                                           platform::Buttons::YesNoCancel, platform::Icon::Exclamation);

@@ -9,6 +9,7 @@
 #include "dialogs/DialogHost.h"
 #include "dialogs/Editors.h"
 #include "dialogs/EditorWin.h"
+#include "dialogs/OverMap.h"
 #include "model/Records.h"
 #include "platform/DialogWin.h"
 
@@ -73,6 +74,7 @@ bool EditAirport(SceneryObject* airport) { return RunEditor(kEditor, airport); }
 
 // The map has no place to click on yet.
 bool RunNewAirport() {
+    if (overMap.open) return false;
     SceneryObject* airport = MakeNewAirport();
     const AirportFields shown = LoadAirportFields(airport);
     Editor editor = EditorFor(kEditor, shown, airport);

@@ -37,6 +37,6 @@ constexpr ObjectEditor<CommFields> kEditor = {
 
 bool EditComm(SceneryObject* comm) { return RunEditor(kEditor, comm); }
 
-bool InsertCommDialog() { return EditComm(InsertComm()); }
+bool InsertCommDialog() { return InsertAndEdit(InsertComm, EditComm); }
 
 }  // namespace dialogs

@@ -85,6 +85,7 @@ INT_PTR CALLBACK EditorProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lPa
 }  // namespace
 
 bool RunEditor(const Editor& editor) {
+    if (overMap.open) return false;  // the open one has its preview and its record
     overMap = { true, {} };
     ShowDialogState();
     const INT_PTR result = platform::RunDialogOverMap(editor.resource, EditorProc, const_cast<Editor*>(&editor));

@@ -34,7 +34,8 @@ struct Editor {
     std::function<INT_PTR(HWND, NMHDR*)> notify;       // WM_NOTIFY
 };
 
-// Whether it was closed by OK. Cancel takes back every preview and drops the record that was made for the dialog.
+// Whether it was closed by OK; only one is open at a time. Cancel takes back every preview and drops the record that
+// was made for the dialog.
 bool RunEditor(const Editor& editor);
 
 // Stores, or sends the user to the refused field; whether all was stored. The dialog stays open.

@@ -67,6 +67,7 @@ bool Commit(Edits* edits) {
     if (edits->added.empty() && edits->drafts.empty()) return false;
     map::HoldShortSides sides = map::NoteHoldShorts();
     sides.erase(edits->turned);
+    SceneryObject* provisional = model::state.provisional;
     model::BeginAction();
     for (ObjectPtr& object : edits->added) model::AddObject(object.release());
     for (Draft& draft : edits->drafts) {
@@ -76,6 +77,7 @@ bool Commit(Edits* edits) {
             RecordChange(edits, &draft);
     }
     map::FollowHoldShorts(sides);
+    if (provisional && !IsProvisional(provisional) && model::IsSelected(provisional)) SelectOnly(provisional);
     *edits = {};
     platform::RequestRepaint();
     return true;

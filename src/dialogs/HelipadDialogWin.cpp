@@ -52,6 +52,6 @@ constexpr ObjectEditor<HelipadFields> kEditor = {
 
 bool EditHelipad(SceneryObject* helipad) { return EditPlace(kEditor, helipad); }
 
-bool InsertHelipadDialog() { return EditHelipad(InsertHelipad()); }
+bool InsertHelipadDialog() { return InsertAndEdit(InsertHelipad, EditHelipad); }
 
 }  // namespace dialogs

@@ -23,7 +23,7 @@ namespace {
 
 using model::TaxiLinkPayload;
 
-constexpr Quantity kLinkWidth = { "width", Unit::TaxiLength, 0, 1000, 0, 0 };
+constexpr Quantity kLinkWidth = { "width", Unit::TaxiLength, 0.1, 1000, 0, 0 };
 constexpr uint32_t kLinkTypes[] = { model::kRunwayLink, model::kTaxiwayLink, model::kApronRouteLink,
                                     model::kClosedLink };
 

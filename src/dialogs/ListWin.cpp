@@ -153,6 +153,7 @@ bool IsHeld(const Window& window) {
 bool HasProperties(const Window& window) { return GetDlgItem(window.dialog, IDC_LIST_PROPERTIES) != nullptr; }
 
 void OnTyped(Window* window, wchar_t character) {
+    if (IsHeld(*window)) return;
     const std::string typed = platform::Utf8FromWide({ &character, 1 });
     const int selected = SelectedRow(window->list);
     const int row = RowAfterTyping(window->rows, selected, typed, GetTickCount(), &window->typed);

@@ -36,6 +36,6 @@ constexpr ObjectEditor<NdbFields> kEditor = {
 
 bool EditNdb(SceneryObject* ndb) { return RunEditor(kEditor, ndb); }
 
-bool InsertNdbDialog() { return EditNdb(InsertNdb()); }
+bool InsertNdbDialog() { return InsertAndEdit(InsertNdb, EditNdb); }
 
 }  // namespace dialogs

@@ -32,7 +32,7 @@ CoordinateTexts ShowPoint(EncodedPoint point) {
 
 bool ReadPoint(const CoordinateTexts& shown, const CoordinateTexts& entered, EncodedPoint* point, BadField* bad,
                int part) {
-    model::LatLon position;
+    model::LatLon position = model::BglToLatLon({ point->latitude, point->longitude });
     model::CoordinateField wrong = model::CoordinateField::None;
     switch (model::ParseLatLon(entered, shown, &position, &wrong)) {
     case model::ParseResult::Unchanged: return true;
@@ -42,7 +42,8 @@ bool ReadPoint(const CoordinateTexts& shown, const CoordinateTexts& entered, Enc
     case model::ParseResult::Changed: break;
     }
     const model::BglPoint code = model::LatLonToBgl(position);
-    *point = { code.lonCode, code.latCode };
+    if (entered.longitude != shown.longitude) point->longitude = code.lonCode;
+    if (entered.latitude != shown.latitude) point->latitude = code.latCode;
     return true;
 }
 

@@ -22,7 +22,7 @@ void SetPoint(model::SceneryObject* object, model::EncodedPoint point);
 // Both texts are empty at the placeholder.
 CoordinateTexts ShowPoint(model::EncodedPoint point);
 
-// Unchanged texts leave *point alone. False after an error, which has been shown.
+// An unchanged text leaves its coordinate of *point alone. False after an error, which has been shown.
 bool ReadPoint(const CoordinateTexts& shown, const CoordinateTexts& entered, model::EncodedPoint* point, BadField* bad,
                int part = 0);
 

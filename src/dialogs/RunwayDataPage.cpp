@@ -58,6 +58,8 @@ RunwayAreaPart PartAt(const SceneryObject* object, size_t offset) {
     return part;
 }
 
+constexpr uint16_t kSurfaceCode = 0xFF;  // the bits above are carried
+
 // A part that comes into being gets the runway's surface and width; one of no length is absent, and an
 // absent part is all zero.
 bool StorePart(const Quantity& quantity, const std::string& shown, const std::string& entered, size_t offset,
@@ -68,7 +70,7 @@ bool StorePart(const Quantity& quantity, const std::string& shown, const std::st
     if (!ReadQuantity(quantity, shown, entered, &length)) return false;
     const RunwayRecord& body = model::PayloadAs<RunwayPayload>(draft).body;
     if (part.length == 0) {
-        part.surface = body.surface;
+        part.surface = body.surface & kSurfaceCode;
         part.width = body.width;
     }
     part.length = static_cast<float>(length);
@@ -102,12 +104,14 @@ bool StoreParts(const RunwayFields& shown, const RunwayFields& entered, SceneryO
     return true;
 }
 
+void StoreSurface(const RunwayFields& shown, const RunwayFields& entered, SceneryObject* draft) {
+    if (entered.surface < 0 || entered.surface == shown.surface) return;
+    auto& body = model::PayloadAs<RunwayPayload>(draft).body;
+    body.surface = static_cast<uint16_t>((body.surface & ~kSurfaceCode) | entered.surface);
+}
+
 void StoreChoices(const RunwayFields& shown, const RunwayFields& entered, SceneryObject* draft) {
     auto& body = model::PayloadAs<RunwayPayload>(draft).body;
-    if (entered.surface >= 0 && entered.surface != shown.surface) {
-        constexpr uint16_t kCarried = 0xFF00;  // no part of the code
-        body.surface = static_cast<uint16_t>((body.surface & kCarried) | entered.surface);
-    }
     uint32_t pattern = body.pattern;
     for (size_t end = 0; end < 2; ++end) {
         const RunwayEndFields &was = shown.ends[end], &is = entered.ends[end];
@@ -144,7 +148,7 @@ void LoadDataPage(const SceneryObject* runway, RunwayFields* fields) {
     fields->position = ShowPoint(PointOf(runway));
     LoadNumbers<RunwayFields>(kFirstRows, runway, fields);
     LoadNumbers<RunwayFields>(kLastRows, runway, fields);
-    fields->surface = SurfaceIndex(body.surface & 0xFF);
+    fields->surface = SurfaceIndex(body.surface & kSurfaceCode);
     for (size_t end = 0; end < 2; ++end) {
         RunwayEndFields& to = fields->ends[end];
         to.number = RunwayNumberIndex(runway->payload[kEndPlaces[end].number]);
@@ -159,6 +163,7 @@ void LoadDataPage(const SceneryObject* runway, RunwayFields* fields) {
 }
 
 bool StoreDataPage(const RunwayFields& shown, const RunwayFields& entered, SceneryObject* draft, BadField* bad) {
+    StoreSurface(shown, entered, draft);  // new parts of the ends take it over
     if (!ReadPosition(shown.position, entered.position, draft, bad) ||
         !StoreNumbers<RunwayFields>(kFirstRows, shown, entered, draft, bad) ||
         !StoreParts(shown, entered, draft, bad) || !StoreNumbers<RunwayFields>(kLastRows, shown, entered, draft, bad))

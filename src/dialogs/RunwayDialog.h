@@ -72,6 +72,9 @@ std::string MagneticHeadingText(const std::string& heading);  // empty when the 
 // "16L": the name of an end as its designator boxes stand. A code that is no choice of theirs keeps its name.
 std::string NameOfEnd(const RunwayEndFields& fields, const SceneryObject* runway, int end);
 
+// Whether there is a unit: with the system "none" its other fields are neither judged nor stored.
+bool HasVasiUnit(const VasiFields& fields);
+
 // The user chooses a system where there was none: the other fields of the unit, if all are zero, become
 // those of a usual installation for a runway of that width.
 void ChooseVasiSystem(VasiFields* fields, int system, const std::string& runwayWidth);

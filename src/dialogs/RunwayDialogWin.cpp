@@ -111,6 +111,6 @@ bool EditRunway(SceneryObject* runway) {
     return RunEditor(editor);
 }
 
-bool InsertRunwayDialog() { return EditRunway(InsertRunway()); }
+bool InsertRunwayDialog() { return InsertAndEdit(InsertRunway, EditRunway); }
 
 }  // namespace dialogs

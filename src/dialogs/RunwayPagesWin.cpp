@@ -223,6 +223,8 @@ VasiFields ReadVasiUnit(HWND page, int unit) {
 
 void ShowVasiUnit(HWND page, int unit, const VasiFields& fields) {
     ShowFields(page, kVasiTable, fields, unit * IDC_NEXT_VASI);
+    for (const auto& row : kVasiTexts)
+        platform::EnableField(page, row.control + unit * IDC_NEXT_VASI, HasVasiUnit(fields));
 }
 
 int RunwayControl(const BadField& bad) {

@@ -21,8 +21,8 @@ RunwayFields ReadRunwayPages(const RunwayPages& pages);
 // The name of an end has changed: in the titles of what belongs to it.
 void ShowEndName(const RunwayPages& pages, int end, const std::string& name);
 
-VasiFields ReadVasiUnit(HWND page, int unit);  // `unit` as in BadField::part
-void ShowVasiUnit(HWND page, int unit, const VasiFields& fields);
+VasiFields ReadVasiUnit(HWND page, int unit);                      // `unit` as in BadField::part
+void ShowVasiUnit(HWND page, int unit, const VasiFields& fields);  // greyed where there is none
 
 // The control of a field that was refused, on the page that PageOf tells.
 int RunwayControl(const BadField& bad);

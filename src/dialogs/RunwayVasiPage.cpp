@@ -52,12 +52,16 @@ bool ReadOne(const Quantity& quantity, const std::string& shown, const std::stri
     return false;
 }
 
-bool IsChanged(const VasiFields& shown, const VasiFields& entered) {
-    return (entered.system >= 0 && entered.system != shown.system) || entered.distance != shown.distance ||
-           entered.offset != shown.offset || entered.spacing != shown.spacing || entered.slope != shown.slope;
+void RemoveUnit(size_t offset, SceneryObject* draft) {
+    const VasiPart absent = {};
+    std::memcpy(draft->payload + offset, &absent, sizeof absent);
 }
 
 bool StoreUnit(const VasiFields& shown, const VasiFields& entered, size_t offset, SceneryObject* draft, BadField* bad) {
+    if (!HasVasiUnit(entered)) {
+        if (HasVasiUnit(shown)) RemoveUnit(offset, draft);
+        return true;
+    }
     VasiPart unit = UnitAt(draft, offset);
     const VasiPart before = unit;
     const double half = model::PayloadAs<RunwayPayload>(draft).body.length / 2.0;
@@ -73,7 +77,6 @@ bool StoreUnit(const VasiFields& shown, const VasiFields& entered, size_t offset
     if (entered.offset != shown.offset) unit.biasX = static_cast<float>(sideways);
     if (entered.spacing != shown.spacing) unit.spacing = static_cast<float>(spacing);
     if (entered.slope != shown.slope) unit.pitch = static_cast<float>(slope);
-    if (unit.type == 0 && IsChanged(shown, entered)) unit = {};
     std::memcpy(draft->payload + offset, &unit, sizeof unit);
     return true;
 }
@@ -98,6 +101,8 @@ bool StoreVasiPage(const RunwayFields& shown, const RunwayFields& entered, Scene
     bad->part = 0;
     return true;
 }
+
+bool HasVasiUnit(const VasiFields& fields) { return fields.system != 0; }
 
 void KeepVasiDistances(double oldLength, SceneryObject* draft) {
     const double growth = (model::PayloadAs<RunwayPayload>(draft).body.length - oldLength) / 2;

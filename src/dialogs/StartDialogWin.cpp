@@ -45,6 +45,6 @@ constexpr ObjectEditor<StartFields> kEditor = {
 
 bool EditStart(SceneryObject* start) { return EditPlace(kEditor, start); }
 
-bool InsertStartDialog() { return EditStart(InsertStart()); }
+bool InsertStartDialog() { return InsertAndEdit(InsertStart, EditStart); }
 
 }  // namespace dialogs

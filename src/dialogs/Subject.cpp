@@ -5,6 +5,7 @@
 #include <cassert>
 #include <cstring>
 
+#include "dialogs/OverMap.h"
 #include "map/LightStrips.h"
 #include "map/MapView.h"
 #include "map/Selection.h"
@@ -39,6 +40,11 @@ SceneryObject* MakeProvisional(uint32_t kind, size_t payloadSize) {
 }
 
 bool IsProvisional(const SceneryObject* object) { return object && object == model::state.provisional; }
+
+bool InsertAndEdit(SceneryObject* (*make)(), bool (*edit)(SceneryObject* object)) {
+    SceneryObject* made = overMap.open ? nullptr : make();
+    return made && edit(made);
+}
 
 int32_t AirportAltitude() {
     return model::state.airport ? model::PayloadAs<model::AirportRecord>(model::state.airport).altitude : 0;
@@ -90,7 +96,7 @@ void UndoPreviewIn(SceneryObject* copy, const SceneryObject* live) {
 
 void SelectSubject(SceneryObject* object, bool extend) {
     if (!model::IsSelected(object)) {
-        if (!extend) map::DeselectAll();
+        if (!extend && !IsProvisional(object)) map::DeselectAll();
         SelectWhole(object);
     }
     platform::RequestRepaint();

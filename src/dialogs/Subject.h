@@ -19,6 +19,10 @@ using model::SceneryObject;
 SceneryObject* MakeProvisional(uint32_t kind, size_t payloadSize);
 bool IsProvisional(const SceneryObject* object);
 
+// An Insert command: what `make` makes is opened in its dialog, unless `make` refuses (null) or another dialog is open.
+// Whether it was closed by OK.
+bool InsertAndEdit(SceneryObject* (*make)(), bool (*edit)(SceneryObject* object));
+
 // The elevation of the airport, which new records start with; millimetres.
 int32_t AirportAltitude();
 
@@ -34,7 +38,8 @@ void EndPreview();                                                   // every mo
 void UndoPreviewIn(SceneryObject* copy, const SceneryObject* live);  // the same in a copy of `live`
 
 // Before a dialog opens: unless the object is selected already or `extend` (Shift or Ctrl is held), all
-// else is deselected first; then the object is selected with all its parts.
+// else is deselected first; then the object is selected with all its parts. Beside a provisional record all stays
+// selected until it is recorded (Commit): Cancel leaves the selection as it was.
 void SelectSubject(SceneryObject* object, bool extend);
 
 // Selects the object with all its parts, and nothing else.

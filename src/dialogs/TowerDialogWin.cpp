@@ -30,9 +30,6 @@ constexpr ObjectEditor<TowerFields> kEditor = {
 
 bool EditTower(SceneryObject* tower) { return EditPlace(kEditor, tower); }
 
-bool InsertTowerDialog() {
-    SceneryObject* tower = InsertTower();
-    return tower && EditTower(tower);
-}
+bool InsertTowerDialog() { return InsertAndEdit(InsertTower, EditTower); }
 
 }  // namespace dialogs

@@ -96,7 +96,10 @@ bool StoreVorFields(const VorFields& shown, const VorFields& entered, SceneryObj
         return false;
     payload.body.frequency = frequency;
     if (otherParts) StoreParts(entered.parts, &payload);
-    if (!StoreNumbers<VorFields>(kDmeRows, shown, entered, draft, bad) || !RequirePosition(draft, "the VOR", bad))
+    // The range of a DME that is off is not read.
+    const bool hasDme = HasDmePart(entered.parts >= 0 ? entered.parts : shown.parts);
+    if ((hasDme && !StoreNumbers<VorFields>(kDmeRows, shown, entered, draft, bad)) ||
+        !RequirePosition(draft, "the VOR", bad))
         return false;
     if (entered.vorClass >= 0 && entered.vorClass != shown.vorClass) payload.body.type = kClassCodes[entered.vorClass];
     Commit(&edits);

@@ -73,6 +73,6 @@ bool EditVor(SceneryObject* vor) {
     return RunEditor(editor);
 }
 
-bool InsertVorDialog() { return EditVor(InsertVor()); }
+bool InsertVorDialog() { return InsertAndEdit(InsertVor, EditVor); }
 
 }  // namespace dialogs

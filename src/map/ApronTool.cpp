@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "map/ApronShape.h"
+#include "map/MapHost.h"
 #include "map/MapView.h"
 #include "map/NewObjects.h"
 #include "map/Placing.h"
@@ -25,7 +26,13 @@ using model::EncodedPoint;
 
 namespace {
 
-constexpr size_t kMostCorners = 65535;
+constexpr size_t kMostCorners = 4096;  // of a concave outline that is triangulated; files may have more
+
+bool HasRoomForCorner(size_t corners) {
+    if (corners < kMostCorners) return true;
+    ShowRemark("An apron can have no more than 4096 corners");
+    return false;
+}
 
 bool Same(EncodedPoint a, EncodedPoint b) { return a.longitude == b.longitude && a.latitude == b.latitude; }
 
@@ -74,8 +81,10 @@ bool PlaceOnEdge(const Edge& edge, Pixel at, LatLon* place) {
 
 void AddOutlinePoint(Pixel at) {
     LatLon place;
-    if (tools.outline.size() >= kMostCorners || !PlaceUnder(at, &place)) return;
+    if (!PlaceUnder(at, &place)) return;
     if (!tools.outline.empty() && Same(Encode(place), Encode(tools.outline.back()))) return;
+    if (!HasRoomForCorner(tools.outline.size())) return;
+    if (tools.outline.empty()) DeselectAll();  // Del must not take what nobody thinks of any more
     tools.outline.push_back(place);
     platform::RequestRepaint();  // the area is part of the map
 }
@@ -118,8 +127,9 @@ void InsertApronPoint(Pixel at) {
     if (!FindEdge(at, &edge) || !PlaceOnEdge(edge, at, &place)) return;
     std::vector<EncodedPoint> outline = model::ApronOutline(edge.apron);
     const EncodedPoint corner = Encode(place);
-    if (outline.size() >= kMostCorners || edge.corner >= outline.size()) return;
+    if (edge.corner >= outline.size()) return;
     if (Same(corner, outline[edge.corner]) || Same(corner, outline[(edge.corner + 1) % outline.size()])) return;
+    if (!HasRoomForCorner(outline.size())) return;
     outline.insert(outline.begin() + static_cast<std::ptrdiff_t>(edge.corner) + 1, corner);
     DeselectAll();
     SceneryObject* edited = model::CopyWithOutline(edge.apron, outline);

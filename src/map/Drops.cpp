@@ -51,7 +51,7 @@ void ShowNetwork() {
 }  // namespace
 
 void DropNode(LatLon position) {
-    if (!IsPlaceable(&position) || IsTaken(position) || !HasRoomFor(model::kTaxiNode)) return;
+    if (!IsPlaceable(&position) || IsTaken(position) || !HasRoomForNode(position)) return;
     Begin();
     AddNode(position, tools.nodeKind);
     ShowNetwork();

@@ -31,7 +31,7 @@ constexpr float kBrightness = 1, kLimit = 800;  // as the simulator's own strips
 constexpr uint32_t kMostStrips = 32767;         // two vertices each, as many as a file can number
 
 StripDrag drag;
-Pixel pressed;
+PressPlace pressed;
 EncodedPoint first;  // where the strip begins
 
 SceneryObject* Lights() { return model::FirstOfKind(model::state.head, model::kApronEdgeLights); }
@@ -63,7 +63,7 @@ bool FindPoint(Pixel at, EncodedPoint* point) {
 LatLon Decode(EncodedPoint point) { return model::BglToLatLon({ point.latitude, point.longitude }); }
 
 bool MakesStrip(EncodedPoint last, Pixel pointer) {
-    return IsDrag(pressed, pointer) && (last.longitude != first.longitude || last.latitude != first.latitude);
+    return IsPulled(pressed, pointer) && (last.longitude != first.longitude || last.latitude != first.latitude);
 }
 
 EdgeLightStrip StripTo(EncodedPoint last) {
@@ -120,7 +120,7 @@ const StripDrag& CurrentStripDrag() { return drag; }
 
 bool BeginStrip(Pixel at) {
     drag = {};
-    pressed = at;
+    pressed = PressedAt(at);
     drag.active = FindPoint(at, &first);
     drag.from = Decode(first);
     model::state.busy = drag.active;

@@ -160,6 +160,8 @@ bool SnapToLinks(LatLon* point, const SceneryObject* except) {
     return true;
 }
 
+size_t CountLinksUnder(LatLon point, const SceneryObject* except) { return LinksUnder(point, nullptr, except).size(); }
+
 void JoinNodeIntoLinks(SceneryObject* node, const SceneryObject* except) {
     const LatLon place = model::PositionOf(node);
     std::vector<Passing> passing = LinksUnder(place, node, except);

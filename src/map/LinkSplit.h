@@ -2,6 +2,8 @@
 // caller has begun the user action.
 #pragma once
 
+#include <cstddef>
+
 #include "model/Geodesy.h"
 #include "model/SceneryObject.h"
 
@@ -25,6 +27,9 @@ void SplitLink(model::SceneryObject* link, model::SceneryObject* node);
 // Moves the point onto the links that pass under it: onto one of them, or to where the two nearest cross. False when
 // none passes.
 bool SnapToLinks(model::LatLon* point, const model::SceneryObject* except);
+
+// How many links a node at the place would split, each into two.
+size_t CountLinksUnder(model::LatLon point, const model::SceneryObject* except = nullptr);
 
 // Splits every link that passes under the node, which moves onto them, and turns the hold-short markings at their ends.
 // The order of the list makes no difference. `except` stays whole.

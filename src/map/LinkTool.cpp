@@ -35,7 +35,7 @@ namespace {
 constexpr double kHandleDistance = 8;  // pixels from the edge of the end's symbol
 
 LinkDrag drag;
-Pixel pressed;
+PressPlace pressed;
 
 // As painted; while the layer has only just been switched on, as it will be.
 int32_t RadiusOf(const SceneryObject* object) {
@@ -82,7 +82,7 @@ bool IsTooShort(const LinkEnd& to) {
 bool IsBackAtStart(const LinkEnd& to, Pixel pointer) {
     if (to.object && (to.object == drag.from.object || to.object == MovingEnd())) return true;
     if (drag.from.object && !drag.link) return false;
-    return !IsDrag(pressed, pointer) || IsTooShort(to);
+    return !IsPulled(pressed, pointer) || IsTooShort(to);
 }
 
 // Something else may have deleted what the drag holds on to.
@@ -90,8 +90,28 @@ bool IsDragValid() { return (!drag.from.object || IsInList(drag.from.object)) &&
 
 uint32_t NewNodes(const LinkEnd& to) { return (drag.from.object ? 0u : 1u) + (to.object ? 0u : 1u); }
 
+// With those that are split at the new ends.
+size_t NewLinks(const LinkEnd& to) {
+    size_t count = drag.link ? 0 : 1;
+    if (!drag.from.object) count += CountLinksUnder(drag.from.position);
+    if (!to.object) count += CountLinksUnder(to.position, drag.link);
+    return count;
+}
+
+// A re-attached link brings its name along, but for one that comes to a spot.
+bool LosesName(const LinkEnd& to) { return drag.link && IsSpot(to.object) && !IsSpot(MovingEnd()); }
+
+bool HasName(const LinkEnd& to) {
+    if (drag.link && !LosesName(to)) return true;
+    const bool isParking = IsSpot(drag.from.object) || IsSpot(to.object);
+    return HasNameFor(isParking ? model::kParkingLink : tools.linkKind);
+}
+
+bool HasRoomForEnd(const LinkEnd& to) {
+    return HasRoomFor(model::kTaxiNode, NewNodes(to)) && HasRoomFor(model::kTaxiLink, NewLinks(to)) && HasName(to);
+}
+
 void MakeLink(LinkEnd to) {
-    if (!HasRoomFor(model::kTaxiLink)) return;
     model::BeginAction();
     DeselectAll();
     LinkEnd from = drag.from;
@@ -115,11 +135,13 @@ void Reattach(LinkEnd to) {
     SceneryObject *const stays = drag.from.object, *const left = MovingEnd();
     if (!to.object) to.object = AddNode(to.position, model::kNormalNode, drag.link);
     RemoveOtherLinks(stays, to.object, drag.link);
-    SceneryObject* blank = IsSpot(to.object) && !IsSpot(left) ? model::BlankDesignatorForEdit() : nullptr;
+    SceneryObject* blank = LosesName(to) ? model::BlankDesignatorForEdit() : nullptr;
     SceneryObject* edited = model::CopyObject(drag.link);
     edited->flags |= model::kSelected | model::kNewLink;
     auto* link = &PayloadAs<TaxiLinkPayload>(edited);
     drag.atStart ? SetEnds(link, to.object, stays, blank) : SetEnds(link, stays, to.object, blank);
+    if (model::LinkTypeOf(*link) == model::kRunwayLink && !TakeRunwayUnder(link))
+        ShowRemark("No runway lies under the link");
     model::ModifyObject(edited, drag.link);
     for (SceneryObject* end : { left, stays, to.object }) UpdateHoldShort(end);
 }
@@ -133,7 +155,7 @@ double HandleDistance(const SceneryObject* end) {
 }  // namespace
 
 SceneryObject* LinkEndObjectAt(Pixel at) {
-    if (!layers.network) return nullptr;
+    if (!layers.network && !drag.active) return nullptr;
     SceneryObject* node = ObjectOfKindAt(model::kTaxiNode, 1, at);
     return node ? node : ObjectOfKindAt(model::kParkingSpot, 0, at);
 }
@@ -152,7 +174,7 @@ const LinkDrag& CurrentLinkDrag() { return drag; }
 
 bool BeginLink(Pixel at) {
     drag = {};
-    pressed = at;
+    pressed = PressedAt(at);
     drag.active = FindEnd(at, &drag.from);
     model::state.busy = drag.active;
     return drag.active;
@@ -202,7 +224,7 @@ bool BeginReattach(Pixel at) {
     drag.atStart = handle.atStart;
     drag.from.object = handle.atStart ? payload.end : payload.start;
     drag.from.position = model::PositionOf(drag.from.object);
-    pressed = at;
+    pressed = PressedAt(at);
     model::state.busy = true;
     return true;
 }
@@ -221,13 +243,15 @@ void FinishLink(Pixel pointer) {
     LinkEnd to;
     if (!valid || !FindEnd(pointer, &to)) return CancelLink();
     if (IsBackAtStart(to, pointer)) {
-        if (IsDrag(pressed, pointer) && IsTooShort(to)) ShowRemark("A taxi link is at least 20 feet long");
+        if (IsPulled(pressed, pointer) && IsTooShort(to)) ShowRemark("A taxi link is at least 20 feet long");
         return CancelLink();
     }
     if (IsSpot(drag.from.object) && IsSpot(to.object))
         ShowRemark("A taxi link cannot join two parking spots");
-    else if (HasRoomFor(model::kTaxiNode, NewNodes(to)))
+    else if (HasRoomForEnd(to)) {
         drag.link ? Reattach(to) : MakeLink(to);
+        layers.network = true;  // nothing is made unseen
+    }
     ForgetLink();
     platform::RequestRepaint();
 }

@@ -16,7 +16,8 @@ struct LinkEnd {
     bool onLink = false;                     // a link there would be split
 };
 
-// The node or spot at the pixel; null when there is none, or the layer is hidden.
+// The node or spot at the pixel; null when there is none, or the layer is hidden. A layer hidden since the drag began
+// counts as shown: a release must not make a second node on top of one.
 model::SceneryObject* LinkEndObjectAt(model::Pixel at);
 
 // Null unless a link is the one selected object.

@@ -18,7 +18,7 @@ namespace map {
 namespace {
 
 GuidelineDrag drag;
-Pixel pressed;
+PressPlace pressed;
 
 SceneryObject* MarkerAt(Pixel at) {
     for (SceneryObject* o = model::FirstOfKind(model::state.head, model::kReferenceMarker); o;
@@ -36,7 +36,7 @@ bool FindEnd(Pixel at, SceneryObject** marker, LatLon* place) {
 }
 
 bool MakesGuideline(const SceneryObject* marker, Pixel pointer) {
-    return IsDrag(pressed, pointer) && (!marker || marker != drag.fromMarker);
+    return IsPulled(pressed, pointer) && (!marker || marker != drag.fromMarker);
 }
 
 }  // namespace
@@ -61,7 +61,7 @@ const GuidelineDrag& CurrentGuidelineDrag() { return drag; }
 
 bool BeginGuideline(Pixel at) {
     drag = {};
-    pressed = at;
+    pressed = PressedAt(at);
     drag.active = FindEnd(at, &drag.fromMarker, &drag.from);
     model::state.busy = drag.active;
     return drag.active;

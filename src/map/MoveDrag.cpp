@@ -28,6 +28,8 @@ using model::SceneryObject;
 
 namespace {
 
+constexpr double kNoMove = 0.001;  // metres
+
 struct MovedObject {
     SceneryObject* object;
     std::vector<uint32_t> points;  // that move
@@ -138,6 +140,13 @@ void AdjustStrips(SceneryObject* lights, const SceneryObject* before) {
     model::SetStrips(lights, strips);
 }
 
+// A map that was moved under the drag, and back, leaves a rounding that is no move.
+model::Local OffsetTo(LatLon place) {
+    const double north = (place.lat - move.from.lat) * model::kNorthSouthRadius;
+    const double east = (place.lon - move.from.lon) * std::cos(place.lat) * model::kEastWestRadius;
+    return std::hypot(east, north) < kNoMove ? model::Local{} : model::LatLonToLocal(move.from, place);
+}
+
 void Record(const MovedObject& moved) {
     SceneryObject* edited = model::CopyObject(moved.object);
     if (!ShiftPoints(edited, moved.points, move.offset) ||
@@ -162,7 +171,7 @@ void BeginMove(Pixel press) {
 
 void FollowMove(Pixel pointer) {
     if (!move.moving) return;
-    const model::Local offset = model::LatLonToLocal(move.from, UnderPixel(pointer));
+    const model::Local offset = OffsetTo(UnderPixel(pointer));
     if (!std::isfinite(offset.east) || !std::isfinite(offset.north)) return;
     DropForeignObjects();
     if (ShiftAll(offset))

@@ -41,6 +41,7 @@ constexpr KindLimit kLimits[] = {
     { model::kParkingSpot, model::kMostSpots, "A scenery file can hold no more than 4096 parking spots" },
     { model::kTaxiLink, model::kMostLinks, "A scenery file can hold no more than 65535 taxi links" },
     { model::kApron, model::kMostCounted, "A scenery file can hold no more than 255 aprons" },
+    { model::kTaxiDesignator, model::kMostDesignators, "A scenery file can hold no more than 256 taxiway names" },
 };
 
 constexpr double kRadius[] = { 20, 20, 10, 14, 18, 50, 44, 26, 31, 38, 54, 20 };  // metres, by type code
@@ -97,13 +98,15 @@ SceneryObject* CurrentDesignator(uint32_t kind) {
     return nullptr;
 }
 
+void NameAfter(TaxiLinkPayload* link, SceneryObject* runway) {
+    link->designator = runway;
+    link->width = PayloadAs<model::RunwayPayload>(runway).body.width;
+}
+
 void NameRunwayLink(TaxiLinkPayload* link) {
-    const std::vector<model::RunwayArea> areas = model::RunwayAreas();
-    const model::RunwayArea* area =
-        model::RunwayUnder(areas, model::PositionOf(link->start), model::PositionOf(link->end));
-    link->designator = area ? area->runway : CurrentDesignator(model::kRunway);
-    if (!area) ShowRemark("No runway lies under the new link");
-    if (link->designator) link->width = PayloadAs<model::RunwayPayload>(link->designator).body.width;
+    if (TakeRunwayUnder(link)) return;
+    ShowRemark("No runway lies under the new link");
+    if (SceneryObject* runway = CurrentDesignator(model::kRunway)) NameAfter(link, runway);
 }
 
 void NameLink(TaxiLinkPayload* link, uint32_t type) {
@@ -114,12 +117,30 @@ void NameLink(TaxiLinkPayload* link, uint32_t type) {
 
 }  // namespace
 
-bool HasRoomFor(uint32_t kind, uint32_t count) {
+bool HasRoomFor(uint32_t kind, size_t count) {
     const auto limit =
         std::find_if(std::begin(kLimits), std::end(kLimits), [kind](const KindLimit& row) { return row.kind == kind; });
     if (limit == std::end(kLimits) || model::CountKind(kind) + count <= limit->most) return true;
     ShowRemark(limit->remark);
     return false;
+}
+
+bool HasRoomForNode(model::LatLon position) {
+    return HasRoomFor(model::kTaxiNode) && HasRoomFor(model::kTaxiLink, CountLinksUnder(position));
+}
+
+bool HasNameFor(uint32_t type) {
+    if (type == model::kRunwayLink || model::BlankDesignator()) return true;
+    const bool hasName = type != model::kParkingLink && CurrentDesignator(model::kTaxiDesignator);
+    return hasName || HasRoomFor(model::kTaxiDesignator);
+}
+
+bool TakeRunwayUnder(TaxiLinkPayload* link) {
+    const std::vector<model::RunwayArea> areas = model::RunwayAreas();
+    const model::RunwayArea* area =
+        model::RunwayUnder(areas, model::PositionOf(link->start), model::PositionOf(link->end));
+    if (area) NameAfter(link, area->runway);
+    return area != nullptr;
 }
 
 SceneryObject* AddNode(model::LatLon position, uint8_t type, const SceneryObject* except) {

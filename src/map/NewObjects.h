@@ -2,15 +2,26 @@
 // begun the user action. What is made is selected. Positions are placeable (Placing.h).
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 #include "model/Geodesy.h"
+#include "model/Records.h"
 #include "model/SceneryObject.h"
 
 namespace map {
 
 // Whether a scenery file can hold that many more objects of the kind; else a remark says so.
-bool HasRoomFor(uint32_t kind, uint32_t count = 1);
+bool HasRoomFor(uint32_t kind, size_t count = 1);
+
+// Whether a node fits there, with the links that it splits; else a remark says what is too many.
+bool HasRoomForNode(model::LatLon position);
+
+// Whether a new link of the type has a name, or there is room for the blank one; else a remark says so.
+bool HasNameFor(uint32_t type);
+
+// The runway link takes the name and the width of the runway under it; false, and nothing changes, where there is none.
+bool TakeRunwayUnder(model::TaxiLinkPayload* link);
 
 // A node of the type. Links that pass under it are split at it; `except` stays whole.
 model::SceneryObject* AddNode(model::LatLon position, uint8_t type, const model::SceneryObject* except = nullptr);

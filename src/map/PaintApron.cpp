@@ -50,13 +50,14 @@ void PaintApronOnTop(const Painter& painter, const SceneryObject* apron) {
     if (!model::IsSelected(apron) && PartsOf(apron).apron.size() >= kFewestCorners) return;
     std::vector<Point> points = OnScreen(ApronOutline(apron));
     points.push_back(points.front());
-    Stroke(painter, 2, InkOf(Ink::SelectedOutline));
+    const Colour outline = OutlineInk(apron, Ink::ApronOutline);
+    Stroke(painter, 2, outline);
     StrokeLines(painter.canvas, points);
     points.pop_back();
     for (size_t i = 0; i < points.size(); ++i) {
         if (!Contains(painter.clip, points[i])) continue;
         const bool lit = IsWholeSelected(apron) || IsVertexSelected(apron, static_cast<uint32_t>(i));
-        Fill(painter, InkOf(lit ? Ink::SelectedFill : Ink::Background), InkOf(Ink::SelectedOutline));
+        Fill(painter, InkOf(lit ? Ink::SelectedFill : Ink::Background), outline);
         const Point reach = Point{ 1, 1 } * FromScreen(kVertexReach), across = TurnedRight(reach);
         const std::array corners = { points[i] - reach, points[i] + across, points[i] + reach, points[i] - across };
         FillPolygon(painter.canvas, corners);

@@ -46,4 +46,13 @@ bool IsDrag(Pixel from, Pixel to) {
     return apart(from.x, to.x) || apart(from.y, to.y);
 }
 
+PressPlace PressedAt(Pixel at) { return { at, UnderPixel(at) }; }
+
+// On a map that stands still whole pixels are compared: close up, the ground is not exact enough for a click.
+bool IsPulled(const PressPlace& press, Pixel to) {
+    const LatLon now = UnderPixel(press.at);
+    if (now.lat == press.place.lat && now.lon == press.place.lon) return IsDrag(press.at, to);
+    return model::DistanceBetween(press.place, UnderPixel(to)) * view.pixelsPerMetre >= kDragThreshold;
+}
+
 }  // namespace map

@@ -28,4 +28,14 @@ bool IsTowerPlaced(const model::SceneryObject* tower);
 // At least kDragThreshold pixels apart in x or y.
 bool IsDrag(model::Pixel from, model::Pixel to);
 
+// Where a drag began: the map may move under it.
+struct PressPlace {
+    model::Pixel at;
+    model::LatLon place;
+};
+PressPlace PressedAt(model::Pixel at);
+
+// Whether the pointer is as far from the place that was pressed as a drag needs, wherever the map shows that now.
+bool IsPulled(const PressPlace& press, model::Pixel to);
+
 }  // namespace map

@@ -41,11 +41,12 @@ bool PressHandle(Pixel at) {
 }
 
 void Begin() {
-    if (!IsInList(state.handle) && state.armed == PointerDrag::Turn) return CancelPointer();
     state.drag = state.armed;
     state.clickSelects = false;
     switch (state.drag) {
-    case PointerDrag::Turn: BeginTurn(state.handle); break;
+    case PointerDrag::Turn:
+        if (!BeginTurn(state.handle)) CancelPointer();
+        break;
     case PointerDrag::Move: BeginMove(state.press); break;
     case PointerDrag::Box: BeginBox(state.press); break;
     default: break;

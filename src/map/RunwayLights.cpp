@@ -1,9 +1,9 @@
 // RunwayLights.cpp - edge, threshold, end, touchdown zone and centre-line lights of a runway, to scale.
 //
-// Spacings follow FAA AC 150/5340-30. Edge lights turn yellow over the last 2000 feet of a runway with
-// precision markings, centre-line lights alternate with red from 3000 feet before the end and are all red
-// over the last 1000 feet where the record says so; both as a landing pilot sees them, so each half of the
-// runway is lit for those coming from the other end.
+// Spacings follow FAA AC 150/5340-30. Edge lights turn yellow over the last 2000 feet (half of a shorter
+// runway) where the markings are those of a precision runway, centre-line lights alternate with red from
+// 3000 feet before the end and are all red over the last 1000 feet where the record says so; both as a
+// landing pilot sees them, so each half of the runway is lit for those coming from the other end.
 #include <algorithm>
 #include <cmath>
 
@@ -29,12 +29,12 @@ constexpr double kFullWidth = Feet(150);  // of a runway whose touchdown zone li
 constexpr double kLampRadius = 0.5;       // metres
 
 void EdgeLights(const Lamps& lamps, const RunwayShape& runway) {
-    const bool caution = (runway.marks & kPrecision) != 0 && runway.length > 2 * kCautionZone;
+    const double caution = runway.marks & kPrecision ? std::min(kCautionZone, runway.length / 2) : 0;
     const double half = runway.width / 2 + kEdgeOffset;
     const int spaces = SpacesAlong(runway.length, kEdgeSpacing);
     for (int i = 0; i <= spaces; ++i) {
         const double along = runway.length * i / spaces;
-        const bool yellow = caution && std::min(along, runway.length - along) < kCautionZone;
+        const bool yellow = std::min(along, runway.length - along) < caution;
         for (const double across : { -half, half }) {
             PaintLamp(lamps, At(runway.ends[0].frame, across, along), yellow ? Ink::LightYellow : Ink::LightWhite);
         }

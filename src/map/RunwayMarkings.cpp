@@ -139,10 +139,22 @@ double StolMark(const MarkPainter& marks, const RunwayEnd& end, double from) {
     return from + kGlyphHeight * size;
 }
 
+// Of a runway too short for the usual place, by the distance there is to land: ICAO Annex 14, table 5-1. Metres from the
+// landing threshold.
+double ShortAimingStart(double landingDistance) {
+    constexpr struct { double below, start; } kRows[] = { { 800, 150 }, { 1200, 250 }, { 2400, 300 } };
+    for (const auto& row : kRows) {
+        if (landingDistance < row.below) return row.start;
+    }
+    return 400;
+}
+
 void AimingPoint(const MarkPainter& marks, const RunwayEnd& end) {
     const double length = marks.runway->length >= kLongRunway ? kAimingLength : kShortAimingLength;
-    const double near = end.displaced + kAimingStart, shrink = Shrink(*marks.runway);
-    if (near + length > marks.runway->length / 2) return;
+    const double limit = marks.runway->length / 2 - length, shrink = Shrink(*marks.runway);
+    double near = end.displaced + kAimingStart;
+    if (near > limit) near = end.displaced + ShortAimingStart(marks.runway->length - end.displaced);
+    if (near > limit) return;
     BarPair(marks, end.frame, kInnerEdge * shrink, kAimingWidth * shrink, near, length);
 }
 
@@ -203,6 +215,15 @@ void ClosedCross(const MarkPainter& marks, const RunwayEnd& end) {
     }
 }
 
+bool HasStripes(const RunwayShape& runway, const RunwayEnd& end) {
+    return (runway.marks & kThresholdStripes) && end.displaced + kStripeStart + kStripeLength < runway.length / 2;
+}
+
+double DesignationStart(const RunwayShape& runway, const RunwayEnd& end) {
+    const bool striped = HasStripes(runway, end);
+    return end.displaced + (striped ? kStripeStart + kStripeLength + kDesignationGap : kPlainDesignationStart);
+}
+
 // Everything at one end, from the threshold inward. Returns where its centre line may begin.
 double MarkEnd(const MarkPainter& marks, const RunwayEnd& end) {
     const uint16_t flags = marks.runway->marks;
@@ -210,12 +231,12 @@ double MarkEnd(const MarkPainter& marks, const RunwayEnd& end) {
     if (!end.marked) return end.displaced;
     const double limit = marks.runway->length / 2;
     double at = end.displaced;
-    if ((flags & kThresholdStripes) && at + kStripeStart + kStripeLength < limit) {
+    if (HasStripes(*marks.runway, end)) {
         ThresholdStripes(marks, end);
         at += kStripeStart + kStripeLength;
     }
-    const double gap = at > end.displaced ? kDesignationGap : kPlainDesignationStart;
-    if ((flags & kDesignation) && at + gap + 3 * kGlyphHeight < limit) at = Designation(marks, end, at + gap);
+    if ((flags & kDesignation) && HasRoomForDesignation(*marks.runway, end))
+        at = Designation(marks, end, DesignationStart(*marks.runway, end));
     if (end.stol && at + kDesignationGap + kGlyphHeight < limit) at = StolMark(marks, end, at + kDesignationGap);
     if (flags & kAimingPoints) AimingPoint(marks, end);
     if (flags & kTouchdownMarks) TouchdownZone(marks, end);
@@ -253,6 +274,10 @@ void EdgeLines(const MarkPainter& marks) {
 }
 
 }  // namespace
+
+bool HasRoomForDesignation(const RunwayShape& runway, const RunwayEnd& end) {
+    return DesignationStart(runway, end) + 3 * kGlyphHeight < runway.length / 2;
+}
 
 double DesignationSize(double runwayWidth) {
     return std::min(1.0, runwayWidth * kNumberShare / GlyphLineWidth(2, 1, kDigitGap));

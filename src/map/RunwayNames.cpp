@@ -19,7 +19,7 @@ constexpr double kShortestRunway = 60;              // pixels; shorter ones get 
 constexpr int kNameHeight = 14, kNameDistance = 4;  // pixels
 
 bool IsPaintReadable(const RunwayShape& runway, const RunwayEnd& end) {
-    if (!(runway.marks & kDesignation) || !end.marked) return false;
+    if (!(runway.marks & kDesignation) || !end.marked || !HasRoomForDesignation(runway, end)) return false;
     return DesignationSize(runway.width) * kGlyphHeight * view.pixelsPerMetre >= FromScreen(kReadableGlyph);
 }
 

@@ -46,6 +46,9 @@ double PavedReach(const RunwayEnd& end);  // metres of pavement outside the runw
 // The painted designation's share of its full size, for a runway of that width.
 double DesignationSize(double runwayWidth);
 
+// Whether the runway is long enough for the designation of that end, behind the other marks of its threshold.
+bool HasRoomForDesignation(const RunwayShape& runway, const RunwayEnd& end);
+
 // Corners of a rectangle of the frame, in order around it.
 std::array<Point, 4> Rectangle(const GroundFrame& frame, double left, double right, double near, double far);
 

@@ -43,7 +43,7 @@ void ShowLayerOf(Tool tool) {
 void PressNodes(Pixel at, KeyState) {
     LatLon position;
     if (LinkEndObjectAt(at) || !PlaceUnder(at, &position)) return;
-    if (!HasRoomFor(model::kTaxiNode)) return;
+    if (!HasRoomForNode(position)) return;
     DeselectAll();  // what is selected afterwards is what was made
     model::BeginAction();
     AddNode(position, tools.nodeKind);
@@ -209,8 +209,8 @@ bool CanEscape() { return (tools.pressed && Row().drags) || HasOutline(); }
 
 void Escape() {
     if (tools.pressed) return CancelDrag();
-    if (CanCloseOutline()) CloseOutline();
-    DropOutline();  // what could not be closed; a remark has said why
+    if (CanCloseOutline()) return CloseOutline();
+    DropOutline();
 }
 
 bool ReadOutOrigin(LatLon* origin) {

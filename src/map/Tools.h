@@ -69,8 +69,8 @@ void CancelDrag();
 // Of a tool that draws by a drag: what is under way is dropped without an edit.
 void DropDrawing(bool underWay);
 
-// Esc: cancels a drag; else closes the apron outline, or drops it when it has fewer than three corners or the file has
-// no room for another apron.
+// Esc: cancels a drag; else closes the apron outline, or drops it when it has fewer than three corners. Where the file
+// has no room for another apron the outline stays.
 bool CanEscape();
 void Escape();
 

@@ -75,6 +75,16 @@ bool PutBack() {
     return true;
 }
 
+// By its bytes: a heading that is no number equals nothing, not even itself.
+void Record() {
+    SceneryObject* edited = model::CopyObject(turn.object);
+    SetHeading(edited, turn.heading);
+    if (std::memcmp(edited->payload, turn.object->payload, edited->payloadSize) == 0) return model::FreeObject(edited);
+    model::BeginAction();
+    model::ModifyObject(edited, turn.object);
+    platform::RequestRepaint();
+}
+
 std::vector<SceneryObject*> AllTurnable() {
     std::vector<SceneryObject*> found;
     for (SceneryObject* o = model::state.head; o; o = o->next) {
@@ -118,9 +128,11 @@ SceneryObject* TurnHandleAt(Pixel at) {
     return nullptr;
 }
 
-void BeginTurn(SceneryObject* object) {
+bool BeginTurn(SceneryObject* object) {
+    if (!IsInList(object) || !CanTurn(object)) return false;
     turn = { object, HeadingOf(object), HeadingOf(object) };
     model::state.busy = true;
+    return true;
 }
 
 void FollowTurn(Pixel pointer) {
@@ -134,13 +146,7 @@ void FollowTurn(Pixel pointer) {
 }
 
 void FinishTurn() {
-    if (turn.object && PutBack() && turn.heading != turn.home) {
-        SceneryObject* edited = model::CopyObject(turn.object);
-        SetHeading(edited, turn.heading);
-        model::BeginAction();
-        model::ModifyObject(edited, turn.object);
-        platform::RequestRepaint();
-    }
+    if (turn.object && PutBack()) Record();
     ForgetTurn();
 }
 

@@ -22,8 +22,8 @@ std::vector<model::SceneryObject*> TurnableObjects();
 model::Point TurnHandleOf(const model::SceneryObject* object);  // on the screen; the object has one
 model::SceneryObject* TurnHandleAt(model::Pixel at);            // null: none there
 
-void BeginTurn(model::SceneryObject* object);
-void FollowTurn(model::Pixel pointer);  // the object faces the pointer
+bool BeginTurn(model::SceneryObject* object);  // false when it has gone, or its layer is hidden
+void FollowTurn(model::Pixel pointer);         // the object faces the pointer
 void FinishTurn();
 void CancelTurn();
 void ForgetTurn();

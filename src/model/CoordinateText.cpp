@@ -100,11 +100,20 @@ const char* ParseCoordinate(std::string_view text, const CoordinateRules& rules,
     SkipAnyOf(&text, " :'");
     const double seconds = TakeNumber(&text);
     if (seconds >= 60) return rules.tooManyMinutes;
+    SkipAnyOf(&text, " *:'\"");
+    if (!text.empty()) return rules.badFormat;  // half of what was typed must not count as all
     const double total = seconds / 3600 + minutes / 60 + degrees;
     if (total >= rules.degreeLimit) return rules.tooManyDegrees;  // fractions of a degree and minutes besides
     const double sign = letter == rules.positive ? 1 : -1;
     *radians = total * sign * kRadiansPerDegree;
     return nullptr;
+}
+
+// A text as shown leaves the coordinate alone. An empty one is none: both must be entered.
+const char* ReadCoordinate(const std::string& entered, const std::string& shown, const CoordinateRules& rules,
+                           double* radians) {
+    if (entered == shown && !shown.empty()) return nullptr;
+    return ParseCoordinate(entered, rules, radians);
 }
 
 }  // namespace
@@ -118,12 +127,12 @@ ParseResult ParseLatLon(const CoordinateTexts& entered, const CoordinateTexts& s
                         CoordinateField* badField) {
     *badField = CoordinateField::None;
     if (entered.latitude == shown.latitude && entered.longitude == shown.longitude) return ParseResult::Unchanged;
-    LatLon read;
-    const char* error = ParseCoordinate(entered.latitude, kLatitudeRules, &read.lat);
+    LatLon read = *position;
+    const char* error = ReadCoordinate(entered.latitude, shown.latitude, kLatitudeRules, &read.lat);
     const CoordinateRules* rules = &kLatitudeRules;
     *badField = CoordinateField::Latitude;
     if (!error) {
-        error = ParseCoordinate(entered.longitude, kLongitudeRules, &read.lon);
+        error = ReadCoordinate(entered.longitude, shown.longitude, kLongitudeRules, &read.lon);
         rules = &kLongitudeRules;
         *badField = CoordinateField::Longitude;
     }

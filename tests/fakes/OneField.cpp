@@ -35,8 +35,7 @@ void AddRecords(const std::string& before, const std::vector<FoundRecord>& recor
         const std::string name = before + InHex("%04X", record.id) + "#" + std::to_string(counts[record.id]++);
         const size_t size = std::min(BodySize(record.id), record.body.size());
         (*parts)[name] = ByteList(record.body.begin(), record.body.begin() + static_cast<ptrdiff_t>(size));
-        for (const FoundRecord& inner : RecordsIn(std::span(record.body).subspan(size)))
-            (*parts)[name + "/" + InHex("%04X", inner.id)] = inner.body;
+        AddRecords(name + "/", RecordsIn(std::span(record.body).subspan(size)), parts);
     }
 }
 
@@ -46,14 +45,19 @@ uint8_t Allowed(const Place& place, size_t at) {
     return static_cast<uint8_t>(bits);
 }
 
-// A point that the dialogs show and read back without a loss, so that each of its two fields can be changed alone.
-EncodedPoint Typed(int thousandths) {
+// A point that the texts of the dialogs cannot hold: a field that is read back when only the other was changed shows.
+EncodedPoint Untyped(int thousandths) {
     char latitude[32], longitude[32];
     std::snprintf(latitude, sizeof latitude, "N47* %07.4f'", 5 + thousandths / 1000.0);
     std::snprintf(longitude, sizeof longitude, "W122* %07.4f'", 5 + thousandths / 1000.0);
     EncodedPoint point{};
     dialogs::BadField bad;
     EXPECT_TRUE(dialogs::ReadPoint({}, { latitude, longitude }, &point, &bad));
+    ++point.latitude;
+    ++point.longitude;
+    EncodedPoint again{};
+    EXPECT_TRUE(dialogs::ReadPoint({}, dialogs::ShowPoint(point), &again, &bad));
+    EXPECT_TRUE(again.latitude != point.latitude && again.longitude != point.longitude);
     return point;
 }
 
@@ -62,7 +66,7 @@ int placed;  // objects so far
 template <class Record>
 Record& Add(uint32_t kind) {
     SceneryObject* object = build::Append(kind, sizeof(Record));
-    dialogs::SetPoint(object, Typed(++placed * 10));
+    dialogs::SetPoint(object, Untyped(++placed * 10));
     return PayloadAs<Record>(object);
 }
 
@@ -121,7 +125,7 @@ void AddRunway(uint8_t number) {
 void AddPlaces() {
     for (int i = 0; i < 2; ++i) Add<HelipadRecord>(kHelipad) = { 4, 0xC1, 0xA5A5A5A5, 0, 0, 120000, 15, 15, 33.5F };
     for (SceneryObject* pad = FirstOfKind(state.head, kHelipad); pad; pad = NextOfKind(pad, kHelipad))
-        dialogs::SetPoint(pad, Typed(++placed * 10));
+        dialogs::SetPoint(pad, Untyped(++placed * 10));
     for (const uint32_t hertz : { 118300000u, 121900000u }) {
         auto& comm = PayloadAs<CommFrequencyRecord>(build::Append(kCommFrequency, sizeof(CommFrequencyRecord)));
         comm.type = 6;
@@ -152,7 +156,7 @@ SceneryObject* AddSpot(std::initializer_list<std::string_view> codes) {
         (record.packed & 0xFF000000) | kNumber << kParkingNumberShift | kType << kParkingTypeShift | kPushback | kArea;
     record.radius = static_cast<float>(map::DefaultSpotRadius(kType));
     record.heading = 12.25F;
-    dialogs::SetPoint(spot, Typed(++placed * 10));
+    dialogs::SetPoint(spot, Untyped(++placed * 10));
     return spot;
 }
 
@@ -176,11 +180,11 @@ void AddNetwork() {
     AddLink(b, a, kRunwayLink, NextOfKind(FirstOfKind(state.head, kRunway), kRunway));
     AddLink(a, spot, kParkingLink, blank);
     for (int i = 0; i < 2; ++i) {
-        auto& head = PayloadAs<ApronHead>(build::Apron({ Typed(0), Typed(100), Typed(200) }));
+        auto& head = PayloadAs<ApronHead>(build::Apron({ Untyped(0), Untyped(100), Untyped(200) }));
         head.outlineSurface = head.surface = 4;
         head.drawFlags = 0xFE;
     }
-    const EncodedPoint from = Typed(0), to = Typed(1000), other = Typed(700);
+    const EncodedPoint from = Untyped(0), to = Untyped(1000), other = Untyped(700);
     SceneryObject* lights =
         build::EdgeLights({ { 31, from.longitude, from.latitude, to.longitude, to.latitude, 0, 0, 0 },
                             { 31, to.longitude, from.latitude, other.longitude, to.latitude, 0, 0, 0 } });
@@ -209,7 +213,7 @@ void AddIls(const char* ident, uint8_t number, uint8_t flags, uint32_t region) {
     ils.localizer = { number, 0, number * 10.25F, 4.5F };
     SetName(ils.name, number == 9 ? "ILS/DME 9" : "ILS/DME 16");
     if ((flags & kHasGlideSlope) == 0) return;
-    const EncodedPoint slope = Typed(++placed * 10), dme = Typed(++placed * 10);
+    const EncodedPoint slope = Untyped(++placed * 10), dme = Untyped(++placed * 10);
     ils.glideSlope = { 0xA5A5, slope.longitude, slope.latitude, 123000, 18520, 3 };
     ils.dme = { 0x5A5A, dme.longitude, dme.latitude, 124000, 18520 };
 }
@@ -260,7 +264,7 @@ FileParts PartsOf(const ByteList& file) {
         for (const FoundSubsection& subsection : section.subsections) {
             table = Join({ table, U32(subsection.id), U32(subsection.recordCount) });
             if (std::ranges::find(kIndexSections, section.type) != std::end(kIndexSections))
-                parts[before] = subsection.bytes;
+                parts[before] = Join({ parts[before], subsection.bytes });
             else if (section.type != 0x03)
                 AddRecords(before + ":", RecordsIn(subsection.bytes), &parts);
             else

@@ -11,7 +11,7 @@
 #include "fakes/SceneryBytes.h"
 
 // A file by its records: the id in hex and the number among those of that id, "0004#1" the second runway; with what
-// lies inside a record by itself, "0004#1/0005". Records of other sections than the airport's have the section before:
+// lies inside a record by itself, "0004#1/0005#0". Records of other sections than the airport's have the section before:
 // "13:0013#0". Indices and the list of names are one part each.
 using FileParts = std::map<std::string, ByteList>;
 FileParts PartsOf(const ByteList& file);

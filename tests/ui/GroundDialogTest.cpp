@@ -52,6 +52,8 @@ TEST_F(GroundDialogTest, FieldsOfALinkAreKept) {
     HWND dialog = OpenByDoubleClick(middle, kLink);
     ASSERT_NE(dialog, nullptr);
     Choose(dialog, IDC_LINK_SURFACE, 4);
+    Enter(dialog, IDC_LINK_WIDTH, L"0");
+    ExpectRefusal(dialog, "ERROR: The width must be a number from 1 to 3280 feet", IDC_LINK_WIDTH);
     Enter(dialog, IDC_LINK_WIDTH, L"120");
     Toggle(dialog, IDC_RIGHT_DASHED);
     Toggle(dialog, IDC_CENTRE_LIGHTS);

@@ -18,6 +18,7 @@ TEST_F(RunwayPagesTest, ARefusedFieldOfAnotherPageIsBroughtUp) {
                   IDC_STROBES + IDC_SECOND_END);
     EXPECT_EQ(PageOf(dialog), kLights);
     Enter(dialog, IDC_STROBES + IDC_SECOND_END, L"0");
+    Choose(dialog, IDC_VASI_SYSTEM + 3 * IDC_NEXT_VASI, 8);
     Enter(dialog, IDC_VASI_SLOPE + 3 * IDC_NEXT_VASI, L"91");
     ExpectRefusal(dialog, "ERROR: The VASI slope must be a number from 0 to 90 degrees",
                   IDC_VASI_SLOPE + 3 * IDC_NEXT_VASI);
@@ -81,7 +82,10 @@ TEST_F(RunwayPagesTest, AChosenVasiSystemFillsItsUnitAndAHeadingItsMagneticOne) 
     StartOnGround();
     const HWND dialog = InsertPlaced();
     ASSERT_NE(dialog, nullptr);
+    EXPECT_FALSE(IsWindowEnabled(ChildWithId(dialog, IDC_VASI_DISTANCE)));
     Choose(dialog, IDC_VASI_SYSTEM, 8);
+    EXPECT_TRUE(IsWindowEnabled(ChildWithId(dialog, IDC_VASI_DISTANCE)));
+    EXPECT_FALSE(IsWindowEnabled(ChildWithId(dialog, IDC_VASI_SLOPE + IDC_NEXT_VASI)));
     EXPECT_EQ(Shown(dialog, IDC_VASI_DISTANCE), "1000");
     EXPECT_EQ(Shown(dialog, IDC_VASI_SLOPE), "3.00");
     EXPECT_EQ(Shown(dialog, IDC_VASI_DISTANCE + IDC_NEXT_VASI), "0");

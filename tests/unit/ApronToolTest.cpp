@@ -178,7 +178,40 @@ TEST_F(ApronToolTest, TooManyApronsAreRefused) {
     Escape();
     EXPECT_EQ(CountKind(kApron), 255u);
     EXPECT_EQ(fake.remark, "A scenery file can hold no more than 255 aprons");
-    EXPECT_FALSE(HasOutline() || CanEscape());
+    EXPECT_EQ(tools.outline.size(), 3u);
+}
+
+TEST_F(ApronToolTest, TheFirstCornerDeselectsSoThatDelTakesNothingAway) {
+    SceneryObject* node = build::Node({ 200, 200 });
+    node->flags |= kSelected;
+    Click({ 0, 0 });
+    EXPECT_FALSE(IsSelected(node));
+    EXPECT_EQ(DeleteSelected(), 0);
+    node->flags |= kSelected;  // on purpose
+    Click({ 100, 0 });
+    EXPECT_TRUE(IsSelected(node));
+}
+
+TEST_F(ApronToolTest, AnOutlineHasAtMost4096Corners) {
+    tools.outline.assign(4095, build::At({ 0, 0 }));
+    Click({ 100, 0 });
+    EXPECT_EQ(tools.outline.size(), 4096u);
+    EXPECT_EQ(fake.remark, "");
+    Click({ 100, 100 });
+    EXPECT_EQ(tools.outline.size(), 4096u);
+    EXPECT_EQ(fake.remark, "An apron can have no more than 4096 corners");
+}
+
+TEST_F(ApronToolTest, AnApronOf4096CornersOrMoreGetsNoOther) {
+    std::vector<EncodedPoint> corners(4096, build::Encoded({ -100, -100 }));
+    corners[4095] = build::Encoded({ 100, -100 });
+    SceneryObject* apron = build::Apron(corners);
+    const ByteList before = File();
+    InsertAt({ 0, -100 });
+    EXPECT_EQ(fake.remark, "An apron can have no more than 4096 corners");
+    EXPECT_EQ(Copied(HeadOf(apron).outlineCount), 4096);
+    EXPECT_EQ(File(), before);
+    EXPECT_FALSE(CanUndo());
 }
 
 TEST_F(ApronToolTest, WhereTwoApronsMeetTheSelectedOneGetsTheCorner) {

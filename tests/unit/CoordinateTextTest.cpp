@@ -146,12 +146,25 @@ TEST_F(CoordinateText, EvenNonsenseIsUnchangedWhenItIsWhatWasShown) {
     EXPECT_EQ(ParseLatLon({ "?", "!" }, { "?", "!" }, &position, &badField), ParseResult::Unchanged);
 }
 
-TEST_F(CoordinateText, OneChangedTextIsEnoughToReadBoth) {
-    const CoordinateTexts shown = { "N10.000000", "W20.000000" };
-    EXPECT_EQ(ParseLatLon({ "N10.000000", "W20.5" }, shown, &position, &badField), ParseResult::Changed);
-    EXPECT_NEAR(North(), 10, 1e-12);
+TEST_F(CoordinateText, ATextAsShownLeavesItsCoordinateAloneAndIsNotJudged) {
+    const CoordinateTexts shown = { "N90.000000", "W180.000000" };
+    position = { 0.5, 1.5 };
+    EXPECT_EQ(ParseLatLon({ "N90.000000", "W20.5" }, shown, &position, &badField), ParseResult::Changed);
+    EXPECT_EQ(position.lat, 0.5);
     EXPECT_NEAR(West(), 20.5, 1e-12);
-    EXPECT_EQ(ParseLatLon({ "N10.0", "W20.000000" }, shown, &position, &badField), ParseResult::Changed);
+    position = { 0.5, 1.5 };
+    EXPECT_EQ(ParseLatLon({ "N10.0", "W180.000000" }, shown, &position, &badField), ParseResult::Changed);
+    EXPECT_NEAR(North(), 10, 1e-12);
+    EXPECT_EQ(position.lon, 1.5);
+    EXPECT_TRUE(fake.messages.empty());
+}
+
+TEST_F(CoordinateText, WhereNothingWasShownBothTextsMustBeEntered) {
+    EXPECT_EQ(ParseLatLon({ "N10", "" }, {}, &position, &badField), ParseResult::Error);
+    EXPECT_EQ(badField, CoordinateField::Longitude);
+    EXPECT_EQ(ParseLatLon({ "", "W20" }, {}, &position, &badField), ParseResult::Error);
+    EXPECT_EQ(badField, CoordinateField::Latitude);
+    EXPECT_EQ(fake.messages.size(), 2u);
 }
 
 TEST_F(CoordinateText, LettersGiveTheSignAndMayBeLowerCase) {
@@ -180,15 +193,19 @@ TEST_F(CoordinateText, SeparatorsMayRepeat) {
     EXPECT_NEAR(West(), 1 + 2.0 / 60 + 3.0 / 3600, 1e-12);
 }
 
-TEST_F(CoordinateText, WhatFollowsTheSecondsIsIgnored) {
-    ASSERT_EQ(Parse("N51:30:36 north", "W1\" and so on"), ParseResult::Changed);
+TEST_F(CoordinateText, BlanksAndMarksMayFollowTheLastNumber) {
+    ASSERT_EQ(Parse("N51:30:36 \"' ", "W1*'\" :"), ParseResult::Changed);
     EXPECT_NEAR(North(), 51.51, 1e-12);
     EXPECT_NEAR(West(), 1, 1e-12);
 }
 
-TEST_F(CoordinateText, MinusSignsEndTheNumbersAndAreNotRead) {
-    ASSERT_EQ(Parse("N51:-30", "W1"), ParseResult::Changed);
-    EXPECT_NEAR(North(), 51, 1e-12);
+TEST_F(CoordinateText, AnythingElseBehindTheLastNumberIsABadFormat) {
+    for (const char* text : { "N47 abc", "N47* 30,5'", "N51:-30", "N51:30:36 north", "N51:30:36:1", "N51 30 36\t",
+                              "N51\xC2\xB0 30'", "N51e1" })
+        ExpectRefused(text, "W1", CoordinateField::Latitude, kBadLatitude);
+    for (const char* text : { "W1\" and so on", "W1,5", "W1* 30' N" })
+        ExpectRefused("N1", text, CoordinateField::Longitude, kBadLongitude);
+    ExpectRefused("N91 abc", "W1", CoordinateField::Latitude, kLatitudeDegrees);  // what comes first is judged first
 }
 
 TEST_F(CoordinateText, OnlyThirtyCharactersAreRead) {

@@ -84,6 +84,17 @@ TEST_F(EdgeLightsToolTest, AClickMakesNoStrip) {
     EXPECT_FALSE(CanUndo() || state.busy);
 }
 
+TEST_F(EdgeLightsToolTest, AStripPulledWithTheMapMayEndAtThePixelWhereItBegan) {
+    Paint();
+    const Pixel at = PixelOf({ 0, 0 });
+    OnButtonDown(at, {});
+    OnMouseMove({ at.x + 50, at.y }, {});
+    PanStep(PanDirection::Up);
+    OnButtonUp(at, {});
+    ASSERT_NE(Lights(), nullptr);
+    EXPECT_NEAR(DistanceBetween(StripAt(Lights(), 0).start, StripAt(Lights(), 0).end), kHeight * 0.05, 2);
+}
+
 TEST_F(EdgeLightsToolTest, BackAtTheSameEndThereIsNoStrip) {
     Drag({ -100, 0 }, { 100, 0 });
     Drag({ 97, 0 }, { 103, 0 });  // both at the end of the first

@@ -1,5 +1,6 @@
 #include "dialogs/Edits.h"
 
+#include "dialogs/OverMap.h"
 #include "dialogs/PositionField.h"
 #include "dialogs/Subject.h"
 #include "fakes/DialogFixture.h"
@@ -158,6 +159,43 @@ TEST_F(EditsTest, TheSubjectReplacesTheSelectionUnlessItIsPartOfItOrAKeyIsHeld) 
     EXPECT_FALSE(model::IsSelected(a));
     EXPECT_TRUE(model::IsSelected(b));
     EXPECT_EQ(state.undoHead, nullptr);
+}
+
+TEST_F(EditsTest, CancelOfAnInsertedRecordLeavesTheSelectionAsItWas) {
+    SceneryObject *a = build::Node(), *b = build::Node();
+    a->flags |= model::kSelected;
+    SceneryObject* made = MakeProvisional(model::kTaxiNode, sizeof(model::TaxiNodeRecord));
+    SelectSubject(made, false);
+    EXPECT_TRUE(model::IsSelected(made));
+    CancelDialog();
+    EXPECT_TRUE(model::IsSelected(a));
+    EXPECT_FALSE(model::IsSelected(b));
+}
+
+TEST_F(EditsTest, AnInsertedRecordThatIsRecordedIsSelectedAlone) {
+    SceneryObject *a = build::Node(), *b = build::Node();
+    a->flags |= model::kSelected;
+    b->flags |= model::kSelected;
+    SceneryObject* made = MakeProvisional(model::kTaxiNode, sizeof(model::TaxiNodeRecord));
+    SelectSubject(made, false);
+    DraftOf(&edits, made);
+    TypeOf(DraftOf(&edits, b)) = 2;
+    EXPECT_TRUE(Commit(&edits));
+    EXPECT_FALSE(model::IsSelected(a));
+    EXPECT_FALSE(model::IsSelected(b));
+    EXPECT_TRUE(model::IsSelected(made));
+}
+
+TEST_F(EditsTest, ARecordIsInsertedOnlyWhileNoOtherDialogIsOpen) {
+    const auto make = [] { return MakeProvisional(model::kTaxiNode, sizeof(model::TaxiNodeRecord)); };
+    const auto edit = [](SceneryObject* object) { return IsProvisional(object); };
+    overMap.open = true;
+    EXPECT_FALSE(InsertAndEdit(make, edit));
+    overMap = {};
+    EXPECT_EQ(state.provisional, nullptr);
+    EXPECT_TRUE(InsertAndEdit(make, edit));
+    CancelDialog();
+    EXPECT_FALSE(InsertAndEdit([]() -> SceneryObject* { return nullptr; }, edit)) << "it was refused";
 }
 
 TEST_F(EditsTest, AnApronThatBecomesTheSubjectIsSelectedAsAWhole) {

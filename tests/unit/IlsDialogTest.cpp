@@ -285,9 +285,17 @@ TEST_F(IlsDialog, PartsAreSwitchedByTheirFlagsAndKeepTheirBytes) {
     EXPECT_TRUE(Edit(ils, [](IlsFields& entered) {
         entered.glideSlope = false;
         entered.slopePitch = "rubbish of a part that is off";
+        entered.slopePosition.latitude = "N1";
     }));
     EXPECT_EQ(Ils(ils).body.flags, 0x35);
-    EXPECT_TRUE(Edit(ils, [](IlsFields& entered) { entered.glideSlope = true; }));
+    EXPECT_TRUE(Edit(ils, [](IlsFields& entered) {
+        entered.glideSlope = true;
+        entered.dme = false;
+        entered.dmeRange = "rubbish";
+        entered.dmeElevation = "1";
+    }));
+    EXPECT_EQ(Ils(ils).body.flags, 0x2D);
+    EXPECT_TRUE(Edit(ils, [](IlsFields& entered) { entered.dme = true; }));
     EXPECT_EQ(Bytes(ils), slope);
 }
 

@@ -113,17 +113,23 @@ TEST_F(LinkDialog, AWidthInFeetIsMultipliedByTheFoot) {
     EXPECT_TRUE(Edit(link, [](LinkFields& fields) { fields.width = "100"; }));
     EXPECT_EQ(Width(link), 30.48F);
     app::settings.metric = true;
-    EXPECT_TRUE(Edit(link, [](LinkFields& fields) { fields.width = "0"; }));
-    EXPECT_EQ(Width(link), 0);
+    EXPECT_TRUE(Edit(link, [](LinkFields& fields) { fields.width = "7.5"; }));
+    EXPECT_EQ(Width(link), 7.5F);
 }
 
-TEST_F(LinkDialog, AWidthThatIsNoNumberIsRefused) {
-    for (const char* text : { "75 ft", "", "-1", "4000" }) {
+TEST_F(LinkDialog, AWidthThatIsNoNumberOrNoneIsRefused) {
+    for (const char* text : { "75 ft", "", "-1", "0", "0.0", "4000" }) {
         EXPECT_FALSE(Edit(link, [&](LinkFields& fields) { fields.width = text; })) << text;
         EXPECT_EQ(bad.field, Field::Width);
-        EXPECT_EQ(LastMessage(), "ERROR: The width must be a number from 0 to 3280 feet");
+        EXPECT_EQ(LastMessage(), "ERROR: The width must be a number from 1 to 3280 feet");
     }
     EXPECT_EQ(Actions(), 0);
+}
+
+TEST_F(LinkDialog, AnUntouchedWidthOfNothingStays) {
+    Link(link).width = 0;
+    EXPECT_TRUE(Edit(link, [](LinkFields& fields) { fields.surface = 7; }));
+    EXPECT_EQ(Width(link), 0);
 }
 
 TEST_F(LinkDialog, OnlyTheChangedFieldsGoToTheOtherSelectedLinks) {

@@ -398,4 +398,125 @@ TEST_F(LinkToolTest, ATooShortLinkIsRefusedWithARemark) {
     EXPECT_EQ(fake.remark, "");
 }
 
+TEST_F(LinkToolTest, ALayerHiddenUnderTheDragIsStillReleasedOn) {
+    SceneryObject* a = build::Node({ -100, 0 });
+    SceneryObject* b = build::Node({ 100, 0 });
+    Paint();
+    Press({ -100, 0 });
+    DragTo({ 0, 0 });
+    layers.network = false;
+    Paint();
+    DragTo({ 100, 0 });
+    EXPECT_EQ(CurrentLinkDrag().to.object, b);
+    Release({ 100, 0 });
+    EXPECT_EQ(CountKind(kTaxiNode), 2u);
+    EXPECT_NE(Between(a, b), nullptr);
+    EXPECT_TRUE(layers.network) << "nothing is made unseen";
+}
+
+TEST_F(LinkToolTest, ALayerHiddenUnderAReattachIsStillReleasedOn) {
+    SceneryObject* a = build::Node({ -100, 0 });
+    SceneryObject* link = build::Link(a, build::Node({ 100, 0 }));
+    SceneryObject* c = build::Node({ 0, 150 });
+    SetTool(Tool::Pointer);
+    link->flags |= kSelected;
+    Paint();
+    Point nearStart, nearEnd;
+    ASSERT_TRUE(LinkHandlesOf(link, &nearStart, &nearEnd));
+    OnButtonDown({ int(nearEnd.x), int(nearEnd.y) }, {});
+    layers.network = false;
+    Paint();
+    DragTo({ 0, 150 });
+    Release({ 0, 150 });
+    EXPECT_EQ(Copied(LinkOf(link).end), c);
+    EXPECT_EQ(CountKind(kTaxiNode), 3u);
+    EXPECT_TRUE(layers.network);
+}
+
+TEST_F(LinkToolTest, ALinkPulledWithTheMapMayEndAtThePixelWhereItBegan) {
+    Paint();
+    const Pixel at = PixelOf({ 0, 0 });
+    OnButtonDown(at, {});
+    OnMouseMove({ at.x + 50, at.y }, {});
+    PanStep(PanDirection::Right);
+    OnMouseMove(at, {});
+    OnButtonUp(at, {});
+    ASSERT_EQ(CountKind(kTaxiLink), 1u);
+    EXPECT_NEAR(
+        DistanceBetween(PositionOf(Copied(LinkOf(state.tail).start)), PositionOf(Copied(LinkOf(state.tail).end))),
+        kWidth * 0.05, 2);
+}
+
+TEST_F(LinkToolTest, AReattachedRunwayLinkTakesTheRunwayUnderIt) {
+    SceneryObject* old = build::Runway(36, 0, { -300, 0 });
+    SceneryObject* runway = build::Runway(36, 1);
+    PayloadAs<RunwayPayload>(runway).body.width = 61;
+    build::Node({ 0, 100 });
+    SceneryObject* link = build::Link(build::Node({ 0, -100 }), build::Node({ -200, -100 }), kRunwayLink, old);
+    const ByteList before = File();
+    PullEnd(link, false, { 0, 100 });
+    EXPECT_EQ(Copied(LinkOf(link).designator), runway);
+    EXPECT_EQ(Copied(LinkOf(link).width), 61);
+    EXPECT_EQ(fake.remark, "");
+    ExpectOneAction(before);
+}
+
+TEST_F(LinkToolTest, AReattachedRunwayLinkBesideAllRunwaysKeepsItsNameAndARemarkSaysSo) {
+    SceneryObject* runway = build::Runway(36, 0, { -300, 0 });
+    SceneryObject* link = build::Link(build::Node({ 0, -100 }), build::Node({ 100, -100 }), kRunwayLink, runway);
+    build::Node({ 0, 100 });
+    PullEnd(link, false, { 0, 100 });
+    EXPECT_EQ(Copied(LinkOf(link).designator), runway);
+    EXPECT_EQ(Copied(LinkOf(link).width), 23);
+    EXPECT_EQ(fake.remark, "No runway lies under the link");
+}
+
+TEST_F(LinkToolTest, ABlankNameIsNotMadeBeyondTheMostNames) {
+    for (int i = 0; i < 256; ++i) build::Designator("A");
+    const ByteList before = File();
+    Drag({ -100, 0 }, { 100, 0 });
+    EXPECT_EQ(File(), before);
+    EXPECT_EQ(fake.remark, "A scenery file can hold no more than 256 taxiway names");
+    layers.highlightedDesignator = FirstOfKind(state.head, kTaxiDesignator);
+    Drag({ -100, 0 }, { 100, 0 });
+    EXPECT_EQ(CountKind(kTaxiLink), 1u);
+    Use(kRunwayLink);
+    Drag({ -100, 100 }, { 100, 100 });
+    EXPECT_EQ(CountKind(kTaxiLink), 2u);
+}
+
+TEST_F(LinkToolTest, AReattachedLinkLosesNoNameWhereNoBlankOneFits) {
+    SceneryObject* b = build::Node({ 100, 0 });
+    SceneryObject* name = build::Designator("A");
+    for (int i = 1; i < 256; ++i) build::Designator("B");
+    SceneryObject* link = build::Link(build::Node({ -100, 0 }), b, kTaxiwayLink, name);
+    BigSpot({ 0, 150 });
+    PullEnd(link, false, { 0, 150 });
+    EXPECT_EQ(Copied(LinkOf(link).end), b);
+    EXPECT_EQ(fake.remark, "A scenery file can hold no more than 256 taxiway names");
+    EXPECT_FALSE(CanUndo());
+}
+
+TEST_F(LinkToolTest, TheLinksThatAreSplitCountTooWhenThereIsNoRoom) {
+    SceneryObject* far = build::Node({ 5000, 0 });
+    SceneryObject* farther = build::Node({ 5000, 100 });
+    build::Link(build::Node({ 0, -100 }), build::Node({ 0, 100 }));
+    for (int i = 0; i < 65532; ++i) build::Link(far, farther);
+    build::Designator("");
+    ASSERT_EQ(CountKind(kTaxiLink), 65533u);
+    build::Link(far, farther);
+    Press({ -100, 0 });
+    Release({ 0, 0 });  // one new link, and one for two
+    EXPECT_EQ(CountKind(kTaxiLink), 65534u);
+    EXPECT_EQ(fake.remark, "A scenery file can hold no more than 65535 taxi links");
+    EXPECT_FALSE(CanUndo());
+    Press({ -200, 50 });
+    Release({ -100, 50 });
+    EXPECT_EQ(CountKind(kTaxiLink), 65535u);
+    SetTool(Tool::Nodes);
+    Press({ 0, 50 });
+    EXPECT_EQ(CountKind(kTaxiLink), 65535u) << "a node would split the link";
+    EXPECT_EQ(fake.remark, "A scenery file can hold no more than 65535 taxi links");
+}
+
 }  // namespace

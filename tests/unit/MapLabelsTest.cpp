@@ -124,6 +124,18 @@ TEST_F(MapLabelsTest, APaintedNumberIsReplacedWhenItIsTooSmallToRead) {
     EXPECT_EQ(Words(), List{});
 }
 
+TEST_F(MapLabelsTest, AnEndWithoutRoomForItsNumberKeepsItsName) {
+    SceneryObject* runway = build::Runway(36);
+    PayloadAs<RunwayPayload>(runway).body.markings = 0x0022;  // stripes and numbers
+    PayloadAs<RunwayPayload>(runway).body.length = 1200;
+    PayloadAs<RunwayPayload>(runway).primaryThreshold = { 4, 500, 45 };
+    Scale(1);
+    view.centre = build::At({ 0, -400 });
+    EXPECT_EQ(Words(), List{ "36" });
+    PayloadAs<RunwayPayload>(runway).primaryThreshold = { 4, 200, 45 };
+    EXPECT_EQ(Words(), List{});
+}
+
 TEST_F(MapLabelsTest, AnEndWithoutMarkingsKeepsItsName) {
     SceneryObject* runway = build::Runway(36);
     PayloadAs<RunwayPayload>(runway).body.markings = 0x0120;

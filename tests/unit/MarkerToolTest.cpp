@@ -90,6 +90,32 @@ TEST_F(MarkerToolTest, AClickAndAReturnMakeNoGuideline) {
     EXPECT_FALSE(CanUndo() || state.busy);
 }
 
+TEST_F(MarkerToolTest, AGuidelinePulledWithTheMapMayEndAtThePixelWhereItBegan) {
+    SetTool(Tool::Guidelines);
+    Paint();
+    const Pixel at = PixelOf({ 0, 0 });
+    OnButtonDown(at, {});
+    OnMouseMove({ at.x + 50, at.y }, {});
+    PanStep(PanDirection::Left);
+    OnButtonUp(at, {});
+    ASSERT_EQ(CountKind(kGuideline), 1u);
+    EXPECT_NEAR(DistanceBetween(PositionOf(LineOf(state.tail).from), PositionOf(LineOf(state.tail).to)), kWidth * 0.05,
+                2);
+}
+
+TEST_F(MarkerToolTest, AClickOnAMapSeenFromVeryNearMakesNoGuideline) {
+    SetTool(Tool::Guidelines);
+    Scale(1000);  // the ground is exact to a decimetre
+    Paint();
+    for (int x = -20; x <= 20; ++x) {
+        const Pixel at = { kWidth / 2 + x, kHeight / 2 + 7 };
+        OnButtonDown(at, {});
+        OnButtonUp({ at.x + 2, at.y - 2 }, {});
+    }
+    EXPECT_EQ(CountKind(kGuideline), 0u);
+    EXPECT_FALSE(CanUndo());
+}
+
 TEST_F(MarkerToolTest, ACancelledPullLeavesNothing) {
     SetTool(Tool::Guidelines);
     Press({ 0, 0 });

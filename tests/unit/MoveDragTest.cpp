@@ -262,6 +262,34 @@ TEST_F(MoveDragTest, AMovePastAPoleStopsBeforeIt) {
     EXPECT_LT(PositionOf(node).lat, kPi / 2);
 }
 
+TEST_F(MoveDragTest, AMarkerBackWhereItBeganAfterTheMapMovedIsNotMoved) {
+    SceneryObject* marker = build::Marker({ -200, 40 });
+    const std::vector<uint8_t> before(marker->payload, marker->payload + marker->payloadSize);
+    SelectAll();
+    const Pixel at = PixelOf({ -200, 40 });
+    BeginMove(at);
+    FollowMove(PixelOf({ 250, -170 }));
+    EXPECT_GT(DistanceTo(marker, { -200, 40 }), 400);
+    // As scrolling there and back may leave it, and more.
+    view.centre.lat += 0.0003 / kNorthSouthRadius;
+    view.centre.lon += 0.0004 / kEastWestRadius;
+    FollowMove(at);
+    FinishMove();
+    EXPECT_EQ(std::memcmp(marker->payload, before.data(), before.size()), 0);
+    EXPECT_FALSE(CanUndo() || state.modified || state.busy);
+}
+
+TEST_F(MoveDragTest, AMoveOfCentimetresIsAMove) {
+    SceneryObject* marker = build::Marker({ -200, 40 });
+    SelectAll();
+    BeginMove(PixelOf({ -200, 40 }));
+    view.centre.lat += 0.02 / kNorthSouthRadius;
+    FollowMove(PixelOf({ -200, 40 }));
+    FinishMove();
+    EXPECT_TRUE(CanUndo());
+    EXPECT_GT(DistanceTo(marker, { -200, 40 }), 0.01);
+}
+
 TEST_F(MoveDragTest, NothingMovesWhenNothingHasAPlace) {
     build::Designator("A")->flags |= kSelected;
     BeginMove(PixelOf({ 0, 0 }));

@@ -56,7 +56,7 @@ TEST_F(OneFieldNavaids, Ndb) {
             { "ident",
               [](NdbFields& f) { f.ident = "NC"; },
               { ndb(offsetof(NdbPayload, ident), 4, kIdentBits), index(0, 4, kIdentBits) } },
-            { "name", [](NdbFields& f) { f.name = "Another NDB"; }, { Whole("17:0017#1/0019") } },
+            { "name", [](NdbFields& f) { f.name = "Another NDB"; }, { Whole("17:0017#1/0019#0") } },
             { "frequency", [](NdbFields& f) { f.frequency = "362.5"; }, { ndb(offsetof(NdbPayload, frequency)) } },
             { "type", [](NdbFields& f) { f.type = 3; }, { ndb(offsetof(NdbPayload, type), 2) } },
             { "latitude",
@@ -74,17 +74,17 @@ TEST_F(OneFieldNavaids, Ndb) {
 // The DME of a VOR stands where the VOR stands.
 TEST_F(OneFieldNavaids, Vor) {
     using model::DmePart;
-    constexpr RecordAt vor = { "13:0013#3" }, dme = { "13:0013#3/0016" }, index = { "28", 3 * kIndexEntry };
+    constexpr RecordAt vor = { "13:0013#3" }, dme = { "13:0013#3/0016#0" }, index = { "28", 3 * kIndexEntry };
     ExpectFields<VorFields>(
         model::kVorDme, 1, LoadVorFields, StoreVorFields,
         {
             { "ident", [](VorFields& f) { f.ident = "VBC"; }, { vor(kIdent, 4, kIdentBits), index(0, 4, kIdentBits) } },
-            { "name", [](VorFields& f) { f.name = "Another VOR"; }, { Whole("13:0013#3/0019") } },
+            { "name", [](VorFields& f) { f.name = "Another VOR"; }, { Whole("13:0013#3/0019#0") } },
             { "frequency", [](VorFields& f) { f.frequency = "114.55"; }, { vor(kFrequency) } },
             { "class", [](VorFields& f) { f.vorClass = 2; }, { vor(0, 1) } },
             { "parts without DME",
               [](VorFields& f) { ChooseVorParts(0, &f); },
-              { vor(kFlags, 1, model::kHasDme), Whole("13:0013#3/0016") } },
+              { vor(kFlags, 1, model::kHasDme), Whole("13:0013#3/0016#0") } },
             { "parts without VOR", [](VorFields& f) { ChooseVorParts(2, &f); }, { vor(kFlags, 1, model::kHasVor) } },
             { "latitude",
               [](VorFields& f) { f.position.latitude = "N47* 05.5000'"; },
@@ -103,7 +103,7 @@ TEST_F(OneFieldNavaids, Vor) {
 
 TEST_F(OneFieldNavaids, Localizer) {
     using model::LocalizerPart;
-    constexpr RecordAt ils = { "13:0013#1" }, localizer = { "13:0013#1/0014" }, index = { "28", kIndexEntry },
+    constexpr RecordAt ils = { "13:0013#1" }, localizer = { "13:0013#1/0014#0" }, index = { "28", kIndexEntry },
                        runway = { "0004#1" };
     constexpr size_t kNamed = offsetof(model::RunwayRecord, primaryIls);
     ExpectFields<IlsFields>(
@@ -113,7 +113,7 @@ TEST_F(OneFieldNavaids, Localizer) {
             { "ident",
               [](IlsFields& f) { f.ident = "IBBC"; },
               { ils(kIdent, 4, kIdentBits), index(0, 4, kIdentBits), runway(kNamed) } },
-            { "name", [](IlsFields& f) { f.name = "Another ILS"; }, { Whole("13:0013#1/0019") } },
+            { "name", [](IlsFields& f) { f.name = "Another ILS"; }, { Whole("13:0013#1/0019#0") } },
             { "frequency", [](IlsFields& f) { f.frequency = "111.35"; }, { ils(kFrequency) } },
             { "number",
               [](IlsFields& f) { f.number = 12; },
@@ -135,13 +135,13 @@ TEST_F(OneFieldNavaids, Localizer) {
 TEST_F(OneFieldNavaids, GlideSlopeAndDmeOfAnIls) {
     using model::DmePart;
     using model::GlideSlopePart;
-    constexpr RecordAt ils = { "13:0013#1" }, slope = { "13:0013#1/0015" }, dme = { "13:0013#1/0016" };
+    constexpr RecordAt ils = { "13:0013#1" }, slope = { "13:0013#1/0015#0" }, dme = { "13:0013#1/0016#0" };
     ExpectFields<IlsFields>(
         model::kIls, 1, LoadIlsFields, StoreIlsFields,
         {
             { "no glide slope",
               [](IlsFields& f) { f.glideSlope = false; },
-              { ils(kFlags, 1, model::kHasGlideSlope), Whole("13:0013#1/0015") } },
+              { ils(kFlags, 1, model::kHasGlideSlope), Whole("13:0013#1/0015#0") } },
             { "latitude of the glide slope",
               [](IlsFields& f) { f.slopePosition.latitude = "N47* 05.5000'"; },
               { slope(offsetof(GlideSlopePart, latitude)) } },
@@ -157,7 +157,7 @@ TEST_F(OneFieldNavaids, GlideSlopeAndDmeOfAnIls) {
             { "angle", [](IlsFields& f) { f.slopePitch = "3.25"; }, { slope(offsetof(GlideSlopePart, pitch)) } },
             { "no DME",
               [](IlsFields& f) { f.dme = false; },
-              { ils(kFlags, 1, model::kHasDme), Whole("13:0013#1/0016") } },
+              { ils(kFlags, 1, model::kHasDme), Whole("13:0013#1/0016#0") } },
             { "latitude of the DME",
               [](IlsFields& f) { f.dmePosition.latitude = "N47* 05.5000'"; },
               { dme(offsetof(DmePart, latitude)) } },
@@ -174,10 +174,10 @@ TEST_F(OneFieldNavaids, GlideSlopeAndDmeOfAnIls) {
                             {
                                 { "a glide slope",
                                   [](IlsFields& f) { f.glideSlope = true; },
-                                  { bare(kFlags, 1, model::kHasGlideSlope), Whole("13:0013#0/0015") } },
+                                  { bare(kFlags, 1, model::kHasGlideSlope), Whole("13:0013#0/0015#0") } },
                                 { "a DME",
                                   [](IlsFields& f) { f.dme = true; },
-                                  { bare(kFlags, 1, model::kHasDme), Whole("13:0013#0/0016") } },
+                                  { bare(kFlags, 1, model::kHasDme), Whole("13:0013#0/0016#0") } },
                             });
 }
 

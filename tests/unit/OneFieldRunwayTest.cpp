@@ -27,10 +27,10 @@ constexpr size_t kSurface = offsetof(RunwayRecord, surface), kLongitude = offset
                  kPattern = offsetof(RunwayRecord, pattern);
 
 // Records inside the runway's.
-constexpr RecordAt baseThreshold = { "0004#1/0005" }, reciprocalThreshold = { "0004#1/0006" },
-                   basePad = { "0004#1/0007" }, reciprocalPad = { "0004#1/0008" };
-constexpr RecordAt vasi[] = { { "0004#1/000B" }, { "0004#1/000C" }, { "0004#1/000D" }, { "0004#1/000E" } };
-constexpr RecordAt approach[] = { { "0004#1/000F" }, { "0004#1/0010" } };
+constexpr RecordAt baseThreshold = { "0004#1/0005#0" }, reciprocalThreshold = { "0004#1/0006#0" },
+                   basePad = { "0004#1/0007#0" }, reciprocalPad = { "0004#1/0008#0" };
+constexpr RecordAt vasi[] = { { "0004#1/000B#0" }, { "0004#1/000C#0" }, { "0004#1/000D#0" }, { "0004#1/000E#0" } };
+constexpr RecordAt approach[] = { { "0004#1/000F#0" }, { "0004#1/0010#0" } };
 constexpr size_t kAreaLength = offsetof(model::RunwayAreaPart, length);
 constexpr size_t kBiasX = offsetof(model::VasiPart, biasX), kBiasZ = offsetof(model::VasiPart, biasZ),
                  kSpacing = offsetof(model::VasiPart, spacing), kPitch = offsetof(model::VasiPart, pitch);
@@ -38,8 +38,8 @@ constexpr size_t kBiasX = offsetof(model::VasiPart, biasX), kBiasZ = offsetof(mo
 Place Mark(uint32_t bit) { return runway(kMarkings, 2, bit); }
 
 // What belongs to the runway's base end.
-constexpr RecordAt start = { "0011#1" }, ils = { "13:0013#1" }, localizer = { "13:0013#1/0014" },
-                   slope = { "13:0013#1/0015" }, dme = { "13:0013#1/0016" };
+constexpr RecordAt start = { "0011#1" }, ils = { "13:0013#1" }, localizer = { "13:0013#1/0014#0" },
+                   slope = { "13:0013#1/0015#0" }, dme = { "13:0013#1/0016#0" };
 
 std::vector<Place> With(std::vector<Place> places, const std::vector<Place>& more) {
     places.insert(places.end(), more.begin(), more.end());
@@ -75,12 +75,12 @@ TEST_F(OneFieldRunway, DataPage) {
           With(heading, Belongings(true)), Answer::Yes },
         { "base overrun", [](RunwayFields& f) { f.ends[0].overrun = "123"; }, { basePad(kAreaLength) } },
         { "reciprocal overrun", [](RunwayFields& f) { f.ends[1].overrun = "123"; }, { reciprocalPad(kAreaLength) } },
-        { "no base overrun", [](RunwayFields& f) { f.ends[0].overrun = "0"; }, { Whole("0004#1/0007") } },
+        { "no base overrun", [](RunwayFields& f) { f.ends[0].overrun = "0"; }, { Whole("0004#1/0007#0") } },
         { "base threshold", [](RunwayFields& f) { f.ends[0].displaced = "123"; }, { baseThreshold(kAreaLength) } },
         { "reciprocal threshold",
           [](RunwayFields& f) { f.ends[1].displaced = "123"; },
           { reciprocalThreshold(kAreaLength) } },
-        { "no reciprocal threshold", [](RunwayFields& f) { f.ends[1].displaced = "0"; }, { Whole("0004#1/0006") } },
+        { "no reciprocal threshold", [](RunwayFields& f) { f.ends[1].displaced = "0"; }, { Whole("0004#1/0006#0") } },
         { "base closed for takeoff",
           [](RunwayFields& f) { f.ends[0].noTakeoff = true; },
           { runway(kPattern, 1, 0x01) } },
@@ -105,12 +105,12 @@ TEST_F(OneFieldRunway, Designators) {
     ExpectRunway({
         { "base number",
           [](RunwayFields& f) { f.ends[0].number = 12; },
-          { runway(offsetof(RunwayRecord, primaryNumber), 1), start(0, 1), localizer(0, 1), Whole("13:0013#1/0019"),
+          { runway(offsetof(RunwayRecord, primaryNumber), 1), start(0, 1), localizer(0, 1), Whole("13:0013#1/0019#0"),
             link(offsetof(model::TaxiLinkPayload, flagsWord), 4, 0xFF00) } },
         { "base suffix",
           [](RunwayFields& f) { f.ends[0].suffix = 2; },
           { runway(offsetof(RunwayRecord, primaryDesignator), 1), start(1, 1, 0x0F), localizer(1, 1),
-            Whole("13:0013#1/0019"), link(offsetof(model::TaxiLinkPayload, endField), 2, 0xF000) } },
+            Whole("13:0013#1/0019#0"), link(offsetof(model::TaxiLinkPayload, endField), 2, 0xF000) } },
         { "reciprocal number",
           [](RunwayFields& f) { f.ends[1].number = 30; },
           { runway(offsetof(RunwayRecord, secondaryNumber), 1) } },

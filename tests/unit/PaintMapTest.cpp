@@ -167,13 +167,16 @@ TEST_F(PaintMapTest, WhatIsLeftOfAnApronIsSeenOnTopWhetherSelectedOrNot) {
             EXPECT_EQ(PartsOf(apron).apron.size(), corners.size());
             EXPECT_TRUE(page.FilledWith(ApronColour(0)).empty());
             std::vector<CanvasCall> marks;
-            for (const CanvasCall& call : page.StrokedWith(InkOf(Ink::SelectedOutline))) {
-                if (call.name == "polygon" && call.points.size() == 4) marks.push_back(call);
+            const Colour outline = InkOf(selected ? Ink::SelectedOutline : Ink::ApronOutline);
+            for (const CanvasCall& call : page.StrokedWith(outline)) {
+                const bool onTop = selected || call.brush == InkOf(Ink::Background);
+                if (call.name == "polygon" && call.points.size() == 4 && onTop) marks.push_back(call);
             }
+            EXPECT_EQ(page.FirstWith(InkOf(Ink::SelectedOutline)) >= 0, selected != 0) << "else it looks selected";
             ASSERT_EQ(marks.size(), corners.size());
             for (const CanvasCall& mark : marks)
                 EXPECT_EQ(mark.brush, InkOf(selected ? Ink::SelectedFill : Ink::Background));
-            EXPECT_GT(page.FirstWith(InkOf(Ink::SelectedOutline)), page.FirstWith(RunwayColour(4)));
+            EXPECT_GT(page.FirstWith(outline), page.FirstWith(RunwayColour(4)));
         }
     }
 }

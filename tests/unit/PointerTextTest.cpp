@@ -44,9 +44,9 @@ TEST_F(PointerTextTest, EveryKindHasItsWords) {
         { vor, "VOR ABC" },
         { dme, "DME ABC" },
         { start, "Start location 9R" },
-        { a, "Node" },
-        { build::Node({}, kHoldShortNode), "Hold-short node" },
-        { b, "ILS hold-short node" },
+        { a, "Node 0" },
+        { build::Node({}, kHoldShortNode), "Hold-short node 2" },
+        { b, "ILS hold-short node 1" },
         { build::Link(a, b, kClosedLink, build::Designator("B5")), "Link, Closed, Taxi B5" },
         { build::Link(a, b, kApronRouteLink, build::Designator("")), "Link, Apron route" },
         { build::Link(a, b, kRunwayLink, runway), "Link, Runway, Runway 16L/34R" },
@@ -67,11 +67,11 @@ TEST_F(PointerTextTest, TheStatusBarFollowsThePointerButNotADrag) {
     Paint();
     map::OnMouseMove(PixelOf({ 0, 0 }), {});
     app::ShowPointerText();
-    EXPECT_EQ(Shown(), "Node");
+    EXPECT_EQ(Shown(), "Node 0");
     Press({ 0, 0 });
     DragTo({ 100, 100 });
     app::ShowPointerText();
-    EXPECT_EQ(Shown(), "Node");
+    EXPECT_EQ(Shown(), "Node 0");
     Release({ 100, 100 });
     Paint();
     map::OnMouseMove(PixelOf({ 0, 0 }), {});

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "fakes/ToolFixture.h"
 #include "map/ApronShape.h"
 #include "map/LightStrips.h"
@@ -349,6 +351,33 @@ TEST_F(PointerToolTest, ACancelledTurnLeavesNothing) {
     CancelDrag();
     EXPECT_EQ(File(), before);
     EXPECT_FALSE(state.busy || CanUndo());
+}
+
+TEST_F(PointerToolTest, ATurnThatChangesNoByteIsNoEdit) {
+    SceneryObject* spot = BigSpot({ 0, 0 });
+    PayloadAs<ParkingSpotRecord>(spot).heading = std::numeric_limits<float>::quiet_NaN();
+    ASSERT_TRUE(BeginTurn(spot));
+    FinishTurn();
+    EXPECT_FALSE(CanUndo() || state.modified || state.busy);
+    ASSERT_TRUE(BeginTurn(spot));
+    FollowTurn(PixelOf({ 100, 0 }));
+    FinishTurn();
+    EXPECT_TRUE(CanUndo());
+    EXPECT_NEAR(HeadingOf(spot), 90, 1);
+}
+
+TEST_F(PointerToolTest, WhatWasHiddenBetweenPressAndPullIsNotTurned) {
+    SceneryObject* spot = BigSpot({ 0, 0 });
+    spot->flags |= kSelected;
+    Paint();
+    OnButtonDown(HandleOf(spot), {});
+    layers.network = false;
+    OnMouseMove(PixelOf({ 100, 0 }), {});
+    EXPECT_EQ(CurrentPointerDrag(), PointerDrag::None);
+    OnButtonUp(PixelOf({ 100, 0 }), {});
+    EXPECT_EQ(HeadingOf(spot), 0);
+    EXPECT_FALSE(CanUndo() || state.busy);
+    EXPECT_FALSE(BeginTurn(build::Node()));
 }
 
 TEST_F(PointerToolTest, ASpotDeletedUnderTheTurnIsLeftAlone) {

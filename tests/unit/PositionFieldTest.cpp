@@ -26,6 +26,43 @@ TEST_F(PositionField, UnchangedTextsNeverEncodeThePositionAgain) {
     }
 }
 
+TEST_F(PositionField, AChangedTextLeavesTheOtherCoordinateBitForBit) {
+    for (uint32_t code = 0x07000000; code < 0x07000100; ++code) {
+        model::EncodedPoint point = { code, code };
+        const CoordinateTexts shown = ShowPoint(point);
+        ASSERT_TRUE(ReadPoint(shown, { "N10", shown.longitude }, &point, &bad));
+        ASSERT_EQ(+point.longitude, code);
+        ASSERT_NE(+point.latitude, code);
+        point = { code, code };
+        ASSERT_TRUE(ReadPoint(shown, { shown.latitude, "W10" }, &point, &bad));
+        ASSERT_NE(+point.longitude, code);
+        ASSERT_EQ(+point.latitude, code);
+    }
+}
+
+TEST_F(PositionField, AnUntouchedTextThatCouldNotBeEnteredIsNotJudged) {
+    model::EncodedPoint pole = { 0x07000000, 0 };
+    const CoordinateTexts shown = ShowPoint(pole);
+    ASSERT_EQ(shown.latitude, "N90* 00.0000'");
+    EXPECT_TRUE(ReadPoint(shown, { shown.latitude, "W10" }, &pole, &bad));
+    EXPECT_EQ(+pole.latitude, 0u);
+    model::EncodedPoint meridian = { 0, 0x07000000 };
+    const CoordinateTexts there = ShowPoint(meridian);
+    ASSERT_EQ(there.longitude, "W180* 00.0000'");
+    EXPECT_TRUE(ReadPoint(there, { "N10", there.longitude }, &meridian, &bad));
+    EXPECT_EQ(+meridian.longitude, 0u);
+    EXPECT_TRUE(fake.messages.empty());
+}
+
+TEST_F(PositionField, AnUnplacedRecordNeedsBothTexts) {
+    model::EncodedPoint point = kPlaceholder;
+    EXPECT_FALSE(ReadPoint({}, { "N47", "" }, &point, &bad));
+    EXPECT_EQ(bad.field, Field::Longitude);
+    EXPECT_FALSE(ReadPoint({}, { "", "W122" }, &point, &bad));
+    EXPECT_EQ(bad.field, Field::Latitude);
+    EXPECT_TRUE(IsPlaceholder(point));
+}
+
 TEST_F(PositionField, AnErrorNamesTheFieldAndKeepsThePosition) {
     model::SceneryObject* node = build::Node();
     const auto before = Bytes(node);

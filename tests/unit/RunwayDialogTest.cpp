@@ -311,6 +311,21 @@ TEST_F(RunwayDialog, TheOverrunAreaIsTheBlastPadAndIsMadeAfterTheRunway) {
     EXPECT_EQ(+Parts().primaryBlastPad.width, 0);
 }
 
+TEST_F(RunwayDialog, NewPartsOfAnEndGetTheSurfaceThatIsChosenWithThem) {
+    Body().surface = 0x8004;
+    EXPECT_TRUE(Edit([](RunwayFields& entered) {
+        entered.surface = 23;
+        entered.width = "100";
+        entered.ends[0].overrun = "200";
+        entered.ends[1].displaced = "300";
+    }));
+    EXPECT_EQ(+Body().surface, 0x8017);
+    for (const model::RunwayAreaPart& part : { Parts().primaryBlastPad, Parts().secondaryThreshold }) {
+        EXPECT_EQ(+part.surface, 23) << "without the bits that the runway's word carries";
+        EXPECT_EQ(+part.width, 30.48F);
+    }
+}
+
 TEST_F(RunwayDialog, TheDisplacedThresholdOfEachEndIsItsOwnPart) {
     EXPECT_TRUE(Edit([](RunwayFields& entered) {
         entered.ends[0].displaced = "100";
@@ -446,8 +461,25 @@ TEST_F(RunwayDialog, TheSystemNoneClearsTheUnit) {
     EXPECT_EQ(std::memcmp(&unit, &zero, sizeof unit), 0);
 }
 
+TEST_F(RunwayDialog, TheFieldsOfAUnitWithoutASystemAreNeitherJudgedNorStored) {
+    Parts().primaryRightVasi = { 0, 38, 0, 9, 3 };  // carried by the file
+    const auto before = Bytes(runway);
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.ends[0].right = { 0, "1", "2", "3", "rubbish" }; }));
+    EXPECT_EQ(Bytes(runway), before);
+    EXPECT_EQ(Actions(), 0);
+    Parts().primaryRightVasi = { 8, 38, 1195.2F, 9, 3 };
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.ends[0].right = { 0, "x", "x", "x", "x" }; }));
+    EXPECT_EQ(+Parts().primaryRightVasi.biasX, 0);
+    EXPECT_FALSE(HasVasiUnit({ 0, "1", "2", "3", "4" }));
+    EXPECT_TRUE(HasVasiUnit({ 8, "0", "0", "0", "0" }));
+    EXPECT_TRUE(HasVasiUnit({ -1, "0", "0", "0", "0" })) << "a system that the box cannot show";
+}
+
 TEST_F(RunwayDialog, ARefusedVasiFieldNamesItsUnit) {
-    EXPECT_FALSE(Edit([](RunwayFields& entered) { entered.ends[1].right.slope = "91"; }));
+    EXPECT_FALSE(Edit([](RunwayFields& entered) {
+        entered.ends[1].right.system = 8;
+        entered.ends[1].right.slope = "91";
+    }));
     EXPECT_EQ(LastMessage(), "ERROR: The VASI slope must be a number from 0 to 90 degrees");
     EXPECT_EQ(bad.field, Field::VasiSlope);
     EXPECT_EQ(bad.part, 3);

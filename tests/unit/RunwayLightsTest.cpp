@@ -37,6 +37,15 @@ TEST_F(RunwayLightsTest, EdgeLightsOfAPrecisionRunwayAreYellowOverTheLast2000Fee
     EXPECT_GT(Lit(Ink::LightYellow).size(), 10u);
 }
 
+TEST_F(RunwayLightsTest, EdgeLightsOfAShortPrecisionRunwayAreYellowOverHalfOfIt) {
+    Runway().body.lights = 1;
+    Runway().body.markings = 0x40;
+    Runway().body.length = 914;  // fifteen spaces: no light stands in the middle
+    model::SetPosition(runway, build::At({ 0, 457 }));
+    EXPECT_TRUE(Lit(Ink::LightWhite).empty()) << "each half for those who come from the other end";
+    EXPECT_GT(Lit(Ink::LightYellow).size(), 20u);
+}
+
 TEST_F(RunwayLightsTest, AThresholdHasAGroupAtEachSide) {
     Runway().body.lights = 1;
     const auto green = Lit(Ink::LightGreen);

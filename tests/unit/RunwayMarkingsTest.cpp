@@ -146,6 +146,31 @@ TEST_F(RunwayMarkingsTest, TouchdownMarksCountTheDistanceOnPrecisionRunwaysOnly)
     for (const CanvasCall& bar : coded) EXPECT_NEAR(Across(bar), 6 * kMetresPerFoot * kOfFullWidth, 0.15);
 }
 
+TEST_F(RunwayMarkingsTest, TheAimingPointOfAShortRunwayFollowsItsLandingDistance) {
+    const struct {
+        float length, displaced;
+        double start;  // from the landing threshold
+    } kRows[] = { { 600, 0, 150 }, { 799, 100, 150 }, { 1000, 180, 250 }, { 700, 0, 1020 * kMetresPerFoot } };
+    for (const auto& row : kRows) {
+        Body().length = row.length;
+        PayloadAs<RunwayPayload>(runway).primaryThreshold = { 4, row.displaced, 45 };
+        Scale(2);
+        view.centre = build::At({ 0, -row.length / 2 + row.displaced + row.start + 15 });
+        int southern = 0;
+        for (const CanvasCall& bar : MarksOf(0x0104)) {  // only the primary end is marked
+            const double bottom = std::ranges::max(bar.points, {}, &Pixel::y).y;
+            if (bar.points.size() != 4 || std::abs(Across(bar) - 45) < 1) continue;  // the threshold's bar
+            southern += std::abs(bottom - PixelOf({ 0, -row.length / 2 + row.displaced + row.start }).y) < 2;
+        }
+        EXPECT_EQ(southern, 2) << row.length;
+    }
+    Scale(1);
+    view.centre = build::kMiddle;
+    Body().length = 340;
+    PayloadAs<RunwayPayload>(runway).primaryThreshold = {};
+    EXPECT_EQ(Count(0x0004), 0u) << "no room at all";
+}
+
 TEST_F(RunwayMarkingsTest, EdgePavementLiesBesideTheRunwayAndUnderIt) {
     Scale(2);
     Body().length = 200;

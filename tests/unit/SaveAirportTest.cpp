@@ -12,6 +12,7 @@
 #include "fakes/BuildObjects.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/FakeShell.h"
+#include "map/Tools.h"
 #include "platform/Files.h"
 
 namespace {
@@ -186,6 +187,20 @@ TEST_F(SaveAirportTest, ThePromptComesOnlyForAModifiedAirport) {
     model::state.loaded = false;
     EXPECT_TRUE(app::SavePrompt());
     EXPECT_TRUE(fake.messages.empty());
+}
+
+TEST_F(SaveAirportTest, AnApronThatIsDrawnButNotClosedIsAskedForToo) {
+    model::state.modified = false;
+    map::tools.outline = { build::At({ 0, 0 }), build::At({ 100, 0 }) };
+    EXPECT_TRUE(app::SavePrompt());
+    EXPECT_TRUE(fake.messages.empty()) << "two corners are no apron";
+    map::tools.outline.push_back(build::At({ 100, 100 }));
+    fake.answers = { Answer::Cancel };
+    EXPECT_FALSE(app::SavePrompt());
+    ASSERT_EQ(fake.messages.size(), 1u);
+    EXPECT_EQ(fake.messages[0].text, kQuestion);
+    EXPECT_EQ(model::CountKind(model::kApron), 1u);
+    EXPECT_TRUE(map::tools.outline.empty());
 }
 
 TEST_F(SaveAirportTest, YesSavesNoDropsAndCancelStops) {

@@ -77,18 +77,25 @@ protected:
         if (tools.toolMode == Tool::Apron) Escape();
     }
 
-    // The wheel, the middle button, and keys that turn and move the map.
+    // The wheel, the middle button, and keys that turn and move the map or hide what it shows.
     void MoveViewUnderDrag() {
-        switch (Any(4)) {
+        switch (Any(5)) {
         case 0: OnWheel(OneIn(&random, 2) ? 120 : -120, OneIn(&random, 2), false); break;
         case 1: Rotate(RotateDirection::Add, false); break;
         case 2: PanStep(static_cast<PanDirection>(1 + Any(4))); break;
+        case 3: ToggleLayer(); break;
         default:
             OnMiddleDown(AnyPixel());
             OnMouseMove(AnyPixel(), {});
             OnMiddleUp();
             break;
         }
+    }
+
+    void ToggleLayer() {
+        bool* const shown[] = { &layers.network, &layers.lights, &layers.starts, &layers.navaids };
+        bool* layer = shown[Any(4)];
+        *layer = !*layer;
     }
 
     // An outline may be closed only once in a gesture: it is an action of its own.

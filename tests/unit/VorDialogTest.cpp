@@ -82,6 +82,27 @@ TEST_F(VorDialog, ADmeThatIsAddedStandsWithTheVorAndReachesAsFar) {
     EXPECT_EQ(Vor().body.flags, 0x21);
 }
 
+TEST_F(VorDialog, TheRangeOfADmeThatIsOffIsNeitherJudgedNorStored) {
+    Vor().dme.range = 50000;
+    for (const char* text : { "rubbish", "25" })
+        EXPECT_TRUE(Edit([&](VorFields& entered) { entered.dmeRange = text; })) << text;
+    EXPECT_EQ(Actions(), 0);
+    Vor().body.flags = 0x31;
+    EXPECT_TRUE(Edit([](VorFields& entered) {
+        entered.parts = 0;
+        entered.dmeRange = "rubbish";
+    }));
+    EXPECT_EQ(Vor().body.flags, 0x21);
+    EXPECT_EQ(+Vor().dme.range, 50000);
+    for (const int parts : { 1, 2 }) {
+        EXPECT_FALSE(Edit([&](VorFields& entered) {
+            entered.parts = parts;
+            entered.dmeRange = "rubbish";
+        }));
+        EXPECT_EQ(bad.field, Field::DmeRange);
+    }
+}
+
 TEST_F(VorDialog, ADmeAloneMayHaveALocalizersFrequency) {
     EXPECT_TRUE(Edit([](VorFields& entered) {
         entered.parts = 2;
