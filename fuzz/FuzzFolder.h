@@ -6,18 +6,26 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <system_error>
 
 #include "platform/Files.h"
 
-// Made on first use; whatever is in it is overwritten by the next input.
+struct TemporaryFolder {
+    const std::filesystem::path path =
+        std::filesystem::temp_directory_path() / ("tarvo-fuzz-" + std::to_string(platform::ProcessNumber()));
+    TemporaryFolder() { std::filesystem::create_directories(path); }
+    ~TemporaryFolder() {
+        std::error_code failed;  // what is left over harms nobody
+        std::filesystem::remove_all(path, failed);
+    }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+};
+
+// Made on first use and gone with the process; whatever is in it is overwritten by the next input.
 inline std::string FuzzFolder() {
-    static const std::filesystem::path folder = [] {
-        const auto path =
-            std::filesystem::temp_directory_path() / ("tarvo-fuzz-" + std::to_string(platform::ProcessNumber()));
-        std::filesystem::create_directories(path);
-        return path;
-    }();
-    return folder.string();
+    static const TemporaryFolder folder;
+    return folder.path.string();
 }
 
 inline std::string PutFuzzFile(const char* name, const uint8_t* data, size_t size) {

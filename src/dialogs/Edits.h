@@ -39,9 +39,9 @@ SceneryObject* DraftOf(Edits* edits, SceneryObject* live);
 SceneryObject* AddDraft(Edits* edits, ObjectPtr object);
 
 // Ends the previews and records everything that differs, as one action: first what is added, then what is
-// changed. A provisional record is recorded as added, with what its draft holds, and is selected alone then if it was
-// selected. A stock object gets a
-// replacement. The markings of hold-short nodes follow what was changed around them. Whether anything was recorded.
+// changed. A provisional record is recorded as added, with what its draft holds, and is selected alone then if it
+// was selected. A stock object gets a replacement. The markings of hold-short nodes follow what was changed around
+// them. Whether anything was recorded.
 bool Commit(Edits* edits);
 
 }  // namespace dialogs

@@ -180,7 +180,7 @@ TEST_F(Cli, EveryVerbExplainsItselfInLinesThatFitATerminal) {
 }
 
 TEST_F(Cli, TheManualPageNamesEveryVerbAndOption) {
-    const Bytes bytes = Read((fs::path(TARVO_TEST_DATA) / "../../help/tarvo-tool.1").lexically_normal().string());
+    const Bytes bytes = Read((fs::path(TARVO_TEST_DATA) / "../../docs/tarvo-tool.1").lexically_normal().string());
     std::string page(bytes.begin(), bytes.end());
     std::erase(page, '\\');  // the page writes "\-" for "-"
     for (const std::string verb : { "dump", "rewrite", "sample", "picture", "faults", "index", "find" }) {
