@@ -8,6 +8,17 @@ namespace ui {
 constexpr uint32_t kNode = 0x6E6EFF, kSelected = 0xFFC81E, kTaxiLink = 0x8C8CFF, kParkingLink = 0x00BE00;
 constexpr uint32_t kSpotFill = 0xA0FFA0, kApron = 0xC3C3B4, kGround = 0xE6E1CC;
 
+namespace {
+
+// While a button is held the map gets the mouse wherever it is.
+bool HasCapture(HWND window) {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    return GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info) && info.hwndCapture == window;
+}
+
+}  // namespace
+
 class ToolsTest : public UiTest {
 protected:
     void SetUp() override {
@@ -229,11 +240,15 @@ TEST_F(ToolsTest, ADragAtTheEdgeTakesTheMapAlong) {
     Click(0, 0);
     Command(IDT_POINTER);
     const RECT area = MapArea(mainWindow);
-    SendMouse(mainWindow, WM_LBUTTONDOWN, At(0, 0).x, At(0, 0).y, MK_LBUTTON);
-    SendMouse(mainWindow, WM_MOUSEMOVE, area.right - 3, middle.y, MK_LBUTTON);
+    BringToFront(mainWindow);
+    MovePointer(mainWindow, At(0, 0).x, At(0, 0).y);
+    MouseButton(MOUSEEVENTF_LEFTDOWN);
+    MovePointer(mainWindow, area.right - 3, middle.y);
     const std::wstring there = StatusText(mainWindow, kPositionPart);
     EXPECT_TRUE(WaitUntil([&] { return StatusText(mainWindow, kPositionPart) != there; })) << "the map stands still";
-    SendMouse(mainWindow, WM_LBUTTONUP, area.right - 3, middle.y);
+    EXPECT_TRUE(HasCapture(mainWindow));
+    MouseButton(MOUSEEVENTF_LEFTUP);
+    EXPECT_TRUE(WaitUntil([&] { return !HasCapture(mainWindow); })) << "the drag does not end";
     EXPECT_EQ(UndoAll(), 2);
 }
 
