@@ -103,6 +103,31 @@ TEST_F(NavaidDialogTest, CancelTakesANewNavaidAway) {
     }
 }
 
+TEST_F(NavaidDialogTest, ADoubleClickOnItsSymbolOpensANavaid) {
+    StartOnGround();
+    const POINT beside = { ground.x + 120, ground.y };
+    const struct {
+        UINT command;
+        const wchar_t *title, *ident, *frequency;
+        POINT at;
+    } rows[] = { { IDM_INSERT_NDB, kNdb, L"ZQ", L"362.5", ground },
+                 { IDM_INSERT_VOR, kVor, L"ZQX", L"113.70", beside } };
+    for (const auto& row : rows) {
+        const HWND dialog = Open(row.command, row.title);
+        ASSERT_NE(dialog, nullptr);
+        Enter(dialog, IDC_NAV_IDENT, row.ident);
+        Enter(dialog, IDC_NAV_FREQUENCY, row.frequency);
+        ClickMap(row.at);
+        CloseDialog(dialog, IDOK);
+    }
+    for (const auto& row : rows) {
+        const HWND dialog = OpenByDoubleClick(row.at, row.title);
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_EQ(Shown(dialog, IDC_NAV_IDENT), Utf8(row.ident));
+        CloseDialog(dialog, IDCANCEL);
+    }
+}
+
 TEST_F(NavaidDialogTest, TheControlsOfAVorFollowItsParts) {
     StartOnGround();
     HWND dialog = Open(IDM_INSERT_VOR, kVor);
