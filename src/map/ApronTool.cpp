@@ -26,10 +26,8 @@ using model::EncodedPoint;
 
 namespace {
 
-constexpr size_t kMostCorners = 4096;  // of a concave outline that is triangulated; files may have more
-
 bool HasRoomForCorner(size_t corners) {
-    if (corners < kMostCorners) return true;
+    if (corners < model::kMostClipped) return true;  // files may have more
     ShowRemark("An apron can have no more than 4096 corners");
     return false;
 }

@@ -22,9 +22,9 @@ constexpr size_t kCoordinateTextLimit = 30;  // characters read of a field
 
 // Reads what the user entered. Unchanged when both texts are byte for byte those shown: the caller then
 // keeps the stored position, so that no rounding creeps in. When only one is, its coordinate of *position is
-// neither judged nor changed, unless the text is empty. Behind the last number only blanks and the marks of the
-// forms may stand. After Error the message has been shown and
-// *badField names the field to select and focus; only the first error is reported.
+// neither judged nor changed, unless the text is empty. Behind the last number only blanks and the marks of
+// the forms may stand. After Error the message has been shown and *badField names the field to select and
+// focus; only the first error is reported.
 ParseResult ParseLatLon(const CoordinateTexts& entered, const CoordinateTexts& shown, LatLon* position,
                         CoordinateField* badField);
 

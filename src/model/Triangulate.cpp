@@ -15,9 +15,6 @@ namespace {
 constexpr int64_t kTurn = 0x30000000;           // encoded longitude units in a full turn
 constexpr int64_t kReach = int64_t{ 1 } << 29;  // keeps every product below 2^62
 
-// Clipping takes time of the square of the corner count. No drawn apron comes near this.
-constexpr size_t kMostCorners = 4096;
-
 struct Corner {
     int64_t x, y;  // encoded units east and north of the first corner
     bool operator==(const Corner&) const = default;
@@ -130,7 +127,7 @@ std::vector<ApronTriangle> Fan(const std::vector<Corner>& corners) {
 std::vector<ApronTriangle> Triangulate(std::span<const EncodedPoint> outline) {
     if (outline.size() < 3) return {};
     const std::vector<Corner> corners = CornersOf(outline);
-    if (corners.size() > kMostCorners || CrossesItself(corners)) return Fan(corners);
+    if (corners.size() > kMostClipped || CrossesItself(corners)) return Fan(corners);
     std::vector<ApronTriangle> triangles = ClipEars(corners);
     return triangles.empty() ? Fan(corners) : triangles;
 }

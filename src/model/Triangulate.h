@@ -4,6 +4,7 @@
 // triangles afresh.
 #pragma once
 
+#include <cstddef>
 #include <span>
 #include <vector>
 
@@ -12,9 +13,13 @@
 
 namespace model {
 
+// Clipping takes time of the square of the corner count. No drawn apron comes near this.
+constexpr size_t kMostClipped = 4096;
+
 // size - 2 triangles over the outline's corners, each clockwise seen from above, whatever way the outline
 // was drawn; none for fewer than three corners. An outline that crosses itself has no triangulation: it
-// gets a fan around its first corner, so that the file stays well formed.
+// gets a fan around its first corner, so that the file stays well formed; so does one of more than
+// kMostClipped corners.
 std::vector<ApronTriangle> Triangulate(std::span<const EncodedPoint> outline);
 
 // The corners of an apron's outline, in order.
