@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "aircraft/Variations.h"
+#include "fakes/TemporaryFolder.h"
 #include "platform/Files.h"
 #include "Ratios.h"
 
@@ -21,16 +22,11 @@ constexpr int kRows = 5000;
 
 // A simulator's folder with that many aircraft, which share the 5,000 variations.
 struct MadeAircraft {
-    fs::path root;
-    explicit MadeAircraft(int folders) : root(fs::temp_directory_path() / ("tarvo-bench-" + std::to_string(folders))) {
+    const TemporaryFolder temporary;
+    const fs::path& root = temporary.path;
+    explicit MadeAircraft(int folders) {
         for (int folder = 0; folder < folders; ++folder) PutFolder(folder, kRows / folders);
     }
-    ~MadeAircraft() {
-        std::error_code ignored;
-        fs::remove_all(root, ignored);
-    }
-    MadeAircraft(const MadeAircraft&) = delete;
-    MadeAircraft& operator=(const MadeAircraft&) = delete;
 
     void PutFolder(int folder, int variations) const {
         const fs::path place = root / "Aircraft" / ("aircraft" + std::to_string(folder));

@@ -7,7 +7,7 @@ set(program_folder ${TARVO_OUTPUT}/Tarvo)
 
 if(win_sources AND EXISTS ${CMAKE_SOURCE_DIR}/res/Tarvo.rc)
     add_executable(Tarvo WIN32 ${win_sources} res/Tarvo.rc)
-    tarvo_options(Tarvo)
+    tarvo_product_options(Tarvo)
     # What the program says of itself names files as they lie in the checkout, not where that was built.
     foreach(target IN ITEMS core Tarvo)
         target_compile_options(${target} PRIVATE -fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=)

@@ -3,24 +3,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <fstream>
 #include <string>
-#include <system_error>
 
-#include "platform/Files.h"
-
-struct TemporaryFolder {
-    const std::filesystem::path path =
-        std::filesystem::temp_directory_path() / ("tarvo-fuzz-" + std::to_string(platform::ProcessNumber()));
-    TemporaryFolder() { std::filesystem::create_directories(path); }
-    ~TemporaryFolder() {
-        std::error_code failed;  // what is left over harms nobody
-        std::filesystem::remove_all(path, failed);
-    }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-};
+#include "fakes/TemporaryFolder.h"
 
 // Made on first use and gone with the process; whatever is in it is overwritten by the next input.
 inline std::string FuzzFolder() {

@@ -114,8 +114,9 @@ bool WriteOrRefuse(const std::vector<FileChange>& changes) {
     return WriteChanges(changes, &failed) || Refuse("Unable to write file\n" + failed);
 }
 
-// Takes the three values from the backup's section of the same number.
-bool AddConfigRestore(const Aircraft& aircraft, std::vector<FileChange>* changes) {
+// Takes the three values from the backup's section of the same number. A backup without that section has nothing to
+// take: then *found is false and the values stay.
+bool AddConfigRestore(const Aircraft& aircraft, std::vector<FileChange>* changes, bool* found) {
     FileChange change{ aircraft.configPath, {}, {}, false };
     ConfigText config, backup;
     std::vector<uint8_t> bytes;
@@ -125,7 +126,8 @@ bool AddConfigRestore(const Aircraft& aircraft, std::vector<FileChange>* changes
     const std::string name = SectionName(aircraft.number);
     const std::vector<platform::IniSection> sections = platform::ParseIni(backup.text);
     const platform::IniSection* section = FindSection(sections, name);
-    if (!section) return Refuse("This variation is not in\n" + aircraft.configPath + kBackupEnd);
+    *found = section != nullptr;
+    if (!section) return true;
     for (const char* key : { kAirlineKey, kTypesKey, kCodesKey }) {
         if (!SetConfigValue(&config, name, key, ConfigValue(backup, *section, key)))
             return Refuse("Unable to restore " + std::string(key) + " in\n" + aircraft.configPath);
@@ -135,11 +137,13 @@ bool AddConfigRestore(const Aircraft& aircraft, std::vector<FileChange>* changes
     return true;
 }
 
+// A model that is gone comes back too.
 bool AddModelRestore(const Aircraft& aircraft, std::vector<FileChange>* changes) {
     const std::string backup = aircraft.modelPath + kBackupEnd;
     if (aircraft.modelPath.empty() || !platform::FileExists(backup)) return true;
     FileChange change{ aircraft.modelPath, {}, {}, false };
-    if (!ReadFileOrRefuse(aircraft.modelPath, &change.before) || !ReadFileOrRefuse(backup, &change.after)) return false;
+    if (platform::FileExists(aircraft.modelPath) && !ReadFileOrRefuse(aircraft.modelPath, &change.before)) return false;
+    if (!ReadFileOrRefuse(backup, &change.after)) return false;
     if (change.after != change.before) changes->push_back(std::move(change));
     return true;
 }
@@ -185,7 +189,10 @@ bool ApplyFields(const Aircraft& aircraft, const AircraftFields& entered, Aircra
 bool RestoreAircraft(const Aircraft& aircraft) {
     if (aircraft.configPath.empty() || !platform::FileExists(aircraft.configPath + kBackupEnd)) return true;
     std::vector<FileChange> changes;
-    return AddConfigRestore(aircraft, &changes) && AddModelRestore(aircraft, &changes) && WriteOrRefuse(changes);
+    bool found = false;
+    if (!AddConfigRestore(aircraft, &changes, &found) || !AddModelRestore(aircraft, &changes)) return false;
+    if (!found && changes.empty()) return Refuse("This variation is not in\n" + aircraft.configPath + kBackupEnd);
+    return WriteOrRefuse(changes);
 }
 
 std::vector<CodeChoice> CodeChoices() {

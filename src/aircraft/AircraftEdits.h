@@ -32,11 +32,12 @@ Aircraft LoadAircraft(const Variation& row);
 
 enum class AircraftField { None, Airline, Types, Code, Radius };
 
-// Writes what differs from what was shown. False after a message; *bad is the field that was refused, None when a file
-// could not be read or written.
+// Writes what differs from what was shown; with airline or code the types too, always in the simulator's words. False
+// after a message; *bad is the field that was refused, None when a file could not be read or written.
 bool ApplyFields(const Aircraft& aircraft, const AircraftFields& entered, AircraftField* bad);
 
-// Puts airline, types and codes of the variation, and its model, back to what the backups have. False after a message.
+// Puts airline, types and codes of the variation, and its model, back to what the backups have; what only one of the
+// backups has comes back alone. False after a message.
 bool RestoreAircraft(const Aircraft& aircraft);
 
 // What the code selector offers: the codes of all parking specs.

@@ -26,8 +26,13 @@ bool Write(const FileChange& change, Done* done, std::string* failed) {
     return done->written;
 }
 
+bool PutBack(const FileChange& change) {
+    if (change.before.empty()) return platform::DeleteOneFile(change.path);
+    return platform::WriteFileWhole(change.path, change.before);
+}
+
 void TakeBack(const FileChange& change, const Done& done) {
-    if (done.written && !platform::WriteFileWhole(change.path, change.before)) return;
+    if (done.written && !PutBack(change)) return;
     if (done.newBackup) platform::DeleteOneFile(change.path + kBackupEnd);
 }
 

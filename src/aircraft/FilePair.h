@@ -9,8 +9,8 @@ namespace aircraft {
 
 struct FileChange {
     std::string path;
-    std::vector<uint8_t> before, after;
-    bool keep = false;  // `before` goes to a backup first, unless there is one already
+    std::vector<uint8_t> before, after;  // `before` is empty when there is no such file yet
+    bool keep = false;                   // `before` goes to a backup first, unless there is one already
 };
 
 // False, with the path of the file that could not be written in *failed, when a step fails; then the files are as

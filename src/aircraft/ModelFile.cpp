@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "aircraft/AircraftEdits.h"
 #include "aircraft/ConfigText.h"
 #include "platform/Files.h"
 #include "platform/IniText.h"
@@ -20,6 +21,11 @@ std::string Joined(const std::string& folder, const std::string& name) { return 
 
 // A zero would cut the path, and another file would be meant.
 bool IsName(const std::string& name) { return !name.empty() && name.find('\0') == std::string::npos; }
+
+std::string WithoutBackupEnd(const std::string& path) {
+    constexpr size_t kEnd = std::string_view(kBackupEnd).size();
+    return path.empty() ? "" : path.substr(0, path.size() - kEnd);
+}
 
 bool HasFolders(const std::string& name) { return name.find_first_of("\\/") != std::string::npos; }
 
@@ -53,7 +59,9 @@ std::string FindModelFile(const std::string& aircraftFolder, const std::string& 
     const std::vector<platform::IniSection> sections = platform::ParseIni(text.text);
     const platform::IniSection* models = FindSection(sections, "models");
     const std::string name = models ? ConfigValue(text, *models, "normal") : "";
-    return name.empty() ? "" : FileIn(folder, name + ".mdl");
+    if (name.empty()) return "";
+    const std::string file = FileIn(folder, name + ".mdl");
+    return file.empty() ? WithoutBackupEnd(FileIn(folder, name + ".mdl" + kBackupEnd)) : file;
 }
 
 uint32_t RadiusOf(std::span<const uint8_t> model) {

@@ -16,7 +16,7 @@ std::string FileIn(const std::string& folder, const std::string& name);
 std::string FolderIn(const std::string& folder, const std::string& name);
 
 // The file that Model.cfg names in the model folder of an aircraft, "Model" or "Model.NAME" for the variation's
-// `model`. "" when there is none.
+// `model`, or its place when only its backup is left. "" when there is neither.
 std::string FindModelFile(const std::string& aircraftFolder, const std::string& model);
 
 // The radius of a model's bytes or of a file; 0 when it is no RIFF file or the number is not 1 to 200 m.

@@ -8,15 +8,12 @@
 
 namespace app {
 
-namespace {
-
 using platform::kPathLimit;
-
-}  // namespace
 
 bool AskAirportFile(HWND owner, std::string* path) {
     std::wstring file(kPathLimit, L'\0');
-    const std::wstring folder = platform::WideFromUtf8(FolderOf(*path));
+    std::wstring folder = platform::WideFromUtf8(FolderOf(*path));
+    if (!folder.empty()) folder += L'\\';  // "D:" alone is whatever folder is current on that drive
     OPENFILENAMEW question{};
     question.lStructSize = sizeof question;
     question.hwndOwner = owner;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,7 +42,7 @@ bool StartCommand(const std::string& command);
 // The dialogs, which run until the user has closed them.
 void ShowOpenAirportDialog();
 void ShowOptionsDialog();
-void ShowPageSetup();
+void PageSetup();
 
 // The save dialog for a picture of the map. False when the user cancelled it.
 bool AskPicturePath(const PictureQuestion& question, PictureAnswer* answer);
@@ -58,7 +59,7 @@ void ShowNoticeText(std::string_view text);
 // The hourglass, until it is called again with false.
 void ShowWaitCursor(bool shown);
 
-bool IsMainWindowMaximized();  // also while it is minimised from that
+std::optional<bool> IsMainWindowMaximized();  // or minimised from that; none as long as it was not shown
 
 // A FILETIME as the user's clock showed it, "2004-10-31 23:59".
 std::string LocalTimeText(uint64_t fileTime);

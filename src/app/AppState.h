@@ -25,9 +25,9 @@ struct AppState {
     std::optional<uint64_t> agreedEnd;    // the model's revision for which the user let the system end the program
     std::string notices[kNotices];        // what the status bar tells apart from the read-outs
     Settings loadedSettings;              // as the settings file has them
-    bool settingsRead = true;             // false when that file was there and could not be read
+    bool settingsRead = false;            // false also when that file was there and could not be read
     platform::Pixel menuPoint;            // of the map, where its own menu was opened
-    std::string pictureFolder;            // where the last map picture was saved; "" before the first
+    std::string pictureFolder;            // where the last map picture was saved; "" before: the user's pictures
     size_t pictureKind = 0;               // of that picture: a place in PictureKinds
 };
 

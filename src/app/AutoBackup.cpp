@@ -123,7 +123,9 @@ bool RecoverAirport() {
     uint64_t time = 0;
     if (state.autoBackup.empty() || !FindAutoBackup(state.autoBackup, &place, &time)) return false;
     if (!OpenAirportAt(place)) {
-        ClaimSlot(Slot::Free);  // what could not be opened stays as it is
+        state.autoBackup.clear();  // what could not be opened stays as it is
+        state.autoBackupLock.reset();
+        if (!ClaimSlot(Slot::Free)) SetNotice(Notice::Backup, "No autobackup: " + WhyThereIsNone());
         return false;
     }
     SetNotice(Notice::Recovered, "Recovered " + model::state.icao + " from the autobackup of " + LocalTimeText(time));

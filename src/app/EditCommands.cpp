@@ -9,6 +9,7 @@
 #include "dialogs/Editors.h"
 #include "map/MapView.h"
 #include "map/Selection.h"
+#include "map/Tools.h"
 #include "model/ObjectList.h"
 #include "platform/Platform.h"
 
@@ -42,7 +43,10 @@ void EditProperties(model::SceneryObject* object) {
 }
 
 void EditAtMenuPoint() {
-    if (model::SceneryObject* object = ObjectAtMenuPoint()) EditProperties(object);
+    model::SceneryObject* object = ObjectAtMenuPoint();
+    if (!object) return;
+    map::SelectStripAt(state.menuPoint, false);
+    EditProperties(object);
 }
 
 bool CanEditAtMenuPoint() {

@@ -8,6 +8,8 @@
 
 namespace app {
 
+namespace {
+
 const char* const kKeyboardText =
     "Shift\tHold down while selecting multiple objects\n"
     "Ctrl\tSame as above\n"
@@ -45,6 +47,8 @@ const char* const kKeyboardText =
     "M\tCreate a marker\n";
 
 const char* const kAboutText = "Tarvo Version 2.21 for FS2004";
+
+}  // namespace
 
 void ShowKeyboardFunctions() { ShowText("Keyboard Functions", kKeyboardText, platform::Icon::None); }
 

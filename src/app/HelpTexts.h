@@ -3,9 +3,6 @@
 
 namespace app {
 
-extern const char* const kKeyboardText;
-extern const char* const kAboutText;
-
 void ShowKeyboardFunctions();
 void ShowAbout();
 

@@ -76,10 +76,11 @@ void OpenDocument(const std::string& path) {
 
 void CloseMainWindow() { SendMessageW(platform::MainWindow(), WM_CLOSE, 0, 0); }
 
-bool IsMainWindowMaximized() {
+std::optional<bool> IsMainWindowMaximized() {
     WINDOWPLACEMENT place{};
     place.length = sizeof place;
-    if (!GetWindowPlacement(platform::MainWindow(), &place)) return false;
+    const HWND window = platform::MainWindow();
+    if (!IsWindowVisible(window) || !GetWindowPlacement(window, &place)) return std::nullopt;
     return place.showCmd == SW_SHOWMAXIMIZED ||
            (place.showCmd == SW_SHOWMINIMIZED && (place.flags & WPF_RESTORETOMAXIMIZED));
 }

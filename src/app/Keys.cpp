@@ -7,7 +7,8 @@ namespace app {
 
 namespace {
 
-constexpr int kFirstKey = 12, kLastKey = 189;  // codes outside are no commands, whatever the table says
+// Codes outside are no commands, whatever the table says; those that draw an outline are no commands of the map.
+constexpr int kFirstKey = 12, kLastKey = 189;
 
 bool Fits(Held wanted, bool held) { return wanted == Held::Either || (wanted == Held::Yes) == held; }
 

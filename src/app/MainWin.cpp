@@ -77,6 +77,8 @@ int Run(HINSTANCE instance, int show) {
 }  // namespace app
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR, int show) {
+    // A path may lead to a drive without a disk: that is no reason for a box of the system's.
+    SetErrorMode(SEM_FAILCRITICALERRORS);
     // The file dialogs and the shell want it on this thread.
     const HRESULT com = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
     const int result = app::Run(instance, show);

@@ -22,8 +22,8 @@
 #include "app/Toolbar.h"
 #include "app/ToolbarWin.h"
 #include "app/ToolCombosWin.h"
+#include "app/ViewCommands.h"
 #include "dialogs/ListWin.h"
-#include "dialogs/OverMap.h"
 #include "map/ApronTool.h"
 #include "map/MapHost.h"
 #include "map/Tools.h"
@@ -85,6 +85,7 @@ void OnPaint() {
     EndPaint(window.handle, &paint);
     ShowPointerText();              // something else may lie under the pointer
     ShowStatus(map::tools.cursor);  // the map may have moved under the pointer
+    RefreshMapCursor();
     ShowRotation();
     dialogs::RefreshLists();
 }
@@ -128,7 +129,7 @@ LRESULT OnNotify(NMHDR* notice) {
 
 // By the right button at the pointer, by the keyboard in the middle of the map.
 bool OnContextMenu(HWND clicked, LPARAM lParam) {
-    if (clicked != window.handle || model::state.busy || dialogs::overMap.open) return false;
+    if (clicked != window.handle || !MayOpenMapMenu()) return false;
     const RECT area = MapArea();
     POINT client = { (area.left + area.right) / 2, (area.top + area.bottom) / 2 };
     if (lParam != -1) {

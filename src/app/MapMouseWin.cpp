@@ -11,6 +11,7 @@
 #include "app/ToolCombosWin.h"
 #include "dialogs/OverMap.h"
 #include "map/MapView.h"
+#include "map/Placing.h"
 #include "map/ToolCursor.h"
 #include "map/Tools.h"
 #include "model/ObjectList.h"
@@ -29,9 +30,9 @@ bool IsOnMap(LPARAM lParam) {
 
 map::KeyState KeysOf(WPARAM wParam) { return { (wParam & MK_SHIFT) != 0, (wParam & MK_CONTROL) != 0 }; }
 
-void ShowMapCursor() {
+void ShowMapCursor(platform::Pixel at) {
     const int dpi = platform::DpiOf(platform::MainWindow());
-    SetCursor(CursorFor(map::CursorAt(map::tools.cursor), map::layers.lights, dpi));
+    SetCursor(CursorFor(map::CursorAt(at), map::layers.lights, dpi));
 }
 
 // While a button is held the map gets the mouse wherever it is.
@@ -47,14 +48,13 @@ void AfterMouse() {
 void OnLeftDown(WPARAM wParam, LPARAM lParam, bool doubleClick) {
     if (!model::state.loaded || !IsOnMap(lParam) || !LeaveToolBoxes()) return;
     UpdateWindow(platform::MainWindow());  // what is pressed is what can be seen
-    const platform::Pixel at = MapPixelOf(lParam);
-    if (dialogs::TakeMapClick(map::ScreenToWorld({ double(at.x), double(at.y) }))) return;
+    if (dialogs::TakeMapClick(map::UnderPixel(MapPixelOf(lParam)))) return;
     if (doubleClick)
         map::OnDoubleClick(MapPixelOf(lParam), KeysOf(wParam));
     else
         map::OnButtonDown(MapPixelOf(lParam), KeysOf(wParam));
     if (map::tools.pressed) SetCapture(platform::MainWindow());
-    ShowMapCursor();
+    ShowMapCursor(map::tools.cursor);
     AfterMouse();
 }
 
@@ -62,7 +62,7 @@ void OnLeftUp(WPARAM wParam, LPARAM lParam) {
     UpdateWindow(platform::MainWindow());  // the map may have scrolled since the last paint
     map::OnButtonUp(MapPixelOf(lParam), KeysOf(wParam));
     ReleaseWhenIdle();
-    ShowMapCursor();
+    ShowMapCursor(map::tools.cursor);
     AfterMouse();
 }
 
@@ -70,18 +70,18 @@ void OnMiddleDown(LPARAM lParam) {
     if (!IsOnMap(lParam)) return;
     map::OnMiddleDown(MapPixelOf(lParam));
     if (map::tools.panning) SetCapture(platform::MainWindow());
-    ShowMapCursor();
+    ShowMapCursor(map::tools.cursor);
 }
 
 void OnMiddleUp() {
     map::OnMiddleUp();
     ReleaseWhenIdle();
-    ShowMapCursor();
+    ShowMapCursor(map::tools.cursor);
 }
 
 void OnMove(WPARAM wParam, LPARAM lParam) {
     map::OnMouseMove(MapPixelOf(lParam), KeysOf(wParam));
-    if (GetCapture() == platform::MainWindow()) ShowMapCursor();  // no WM_SETCURSOR comes then
+    if (GetCapture() == platform::MainWindow()) ShowMapCursor(map::tools.cursor);  // no WM_SETCURSOR comes then
     ShowPointerText();
     ShowStatus(map::tools.cursor);
 }
@@ -107,8 +107,14 @@ bool OnMapCursor() {
     ScreenToClient(platform::MainWindow(), &point);
     const RECT area = MapArea();
     if (!PtInRect(&area, point) && !map::tools.panning) return false;
-    ShowMapCursor();
+    ShowMapCursor({ point.x, point.y });  // the move to there is told of only after this
     return true;
+}
+
+void RefreshMapCursor() {
+    POINT screen;
+    GetCursorPos(&screen);
+    if (!GetCapture() && WindowFromPoint(screen) == platform::MainWindow()) OnMapCursor();
 }
 
 bool OnMapMouse(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -2,6 +2,7 @@
 #include <windows.h>
 
 #include <commdlg.h>
+#include <shlobj.h>
 
 #include "app/AppHost.h"
 #include "platform/CanvasGdiWin.h"
@@ -79,12 +80,19 @@ bool DrawMetafile(const map::PictureSize& size, std::vector<uint8_t>* bytes) {
     return got != 0 && got == bytes->size();
 }
 
+// Else the dialog would begin where the last airport was opened or saved, among the scenery.
+std::wstring PicturesOfUser() {
+    wchar_t path[MAX_PATH];
+    return SUCCEEDED(SHGetFolderPathW(nullptr, CSIDL_MYPICTURES, nullptr, SHGFP_TYPE_CURRENT, path)) ? path : L"";
+}
+
 }  // namespace
 
 bool AskPicturePath(const PictureQuestion& question, PictureAnswer* answer) {
     std::wstring file = platform::WideFromUtf8(question.name);
     file.resize(kPathLimit);
-    const std::wstring folder = platform::WideFromUtf8(question.folder), filter = FilterOf(question.kinds);
+    const std::wstring folder = question.folder.empty() ? PicturesOfUser() : platform::WideFromUtf8(question.folder);
+    const std::wstring filter = FilterOf(question.kinds);
     OPENFILENAMEW dialog{};
     dialog.lStructSize = sizeof dialog;
     dialog.hwndOwner = platform::OwnerOfDialogs();

@@ -122,7 +122,7 @@ size_t LevelsToOpen() {
 }
 
 std::vector<AirportRow> SearchRows(std::string_view identText) {
-    const std::string_view prefix = bgl::Trimmed(identText).substr(0, bgl::kIdentLength);
+    const std::string_view prefix = platform::Trimmed(identText).substr(0, bgl::kIdentLength);
     std::vector<uint32_t> found;
     if (prefix.empty()) return {};
     for (const uint32_t airport : bgl::AirportsInTreeOrder()) {
@@ -135,7 +135,7 @@ std::vector<AirportRow> SearchRows(std::string_view identText) {
 
 const AirportRow* ChooseRow(std::vector<AirportRow>* rows, int selected, std::string_view identText) {
     if (selected >= 0 && static_cast<size_t>(selected) < rows->size()) return &(*rows)[static_cast<size_t>(selected)];
-    const bool typed = !bgl::Trimmed(identText).empty();
+    const bool typed = !platform::Trimmed(identText).empty();
     if (typed) *rows = SearchRows(identText);
     if (typed && !rows->empty()) return &rows->front();
     platform::ShowMessage("You must select an AIRPORT", platform::Buttons::Ok, platform::Icon::Exclamation);

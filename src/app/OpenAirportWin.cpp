@@ -36,8 +36,12 @@ struct OpenDialog {
 
 OpenDialog& DialogOf(HWND handle) { return *static_cast<OpenDialog*>(platform::DialogData(handle)); }
 
+// The dialog itself may leave the former default button the frame of one.
 void SetDefaultButton(const OpenDialog& dialog, int button) {
+    const int former = LOWORD(SendMessageW(dialog.handle, DM_GETDEFID, 0, 0));
     SendMessageW(dialog.handle, DM_SETDEFID, static_cast<WPARAM>(button), 0);
+    SendDlgItemMessageW(dialog.handle, former, BM_SETSTYLE, BS_PUSHBUTTON, TRUE);
+    SendDlgItemMessageW(dialog.handle, button, BM_SETSTYLE, BS_DEFPUSHBUTTON, TRUE);
 }
 
 void SetListText(HWND list, int row, int column, const std::string& text) {

@@ -11,6 +11,7 @@
 #include "PageSetupIds.h"
 #include "platform/DialogWin.h"
 #include "platform/PlatformWin.h"
+#include "platform/WideTextWin.h"
 
 namespace app {
 
@@ -30,7 +31,7 @@ OpenSetup setup;
 bool IsPaperMetric() {
     wchar_t measure[2] = {};
     GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_IMEASURE, measure, 2);
-    return measure[0] == L'0';
+    return map::IsPaperMetric(platform::Utf8FromWide(measure));
 }
 
 // Hundredths of a millimetre are thousandths of a centimetre.
@@ -45,10 +46,9 @@ map::Paper PaperOf(const PAGESETUPDLGW& dialog, bool metric) {
                           metric);
 }
 
-LONG Thousandths(double length) { return static_cast<LONG>(length * 1000 + 0.5); }
-
 RECT MarginsOf(const map::Paper& paper) {
-    return { Thousandths(paper.left), Thousandths(paper.top), Thousandths(paper.right), Thousandths(paper.bottom) };
+    const map::PageSetupRecord record = map::RecordOf(paper);
+    return { record.left, record.top, record.right, record.bottom };
 }
 
 PAGESETUPDLGW NewSetup(bool metric) {
@@ -162,7 +162,7 @@ void LearnPaper() {
     map::print.paper = PaperOf(dialog, metric);
 }
 
-void ShowPageSetup() {
+void PageSetup() {
     LearnPaper();
     const map::PrintSettings before = map::print;
     PAGESETUPDLGW dialog = NewSetup(map::print.paper.metric);

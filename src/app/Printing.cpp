@@ -27,7 +27,7 @@ PrintStep PrintDocument() {
 
 }  // namespace
 
-void PrintAirportMap() {
+void Print() {
     LearnPaper();
     map::FitPrintScale(&map::print);
     const PrintStep chosen = AskPrinter();

@@ -4,7 +4,7 @@
 namespace app {
 
 // Asks for a printer and prints the map on one page.
-void PrintAirportMap();
+void Print();
 
 // The printer of the last dialog may be gone: says so and forgets it.
 void RefusePrinter();

@@ -35,7 +35,7 @@ bool HasUserChangedSettings() {
 }
 
 bool KeepSettings() {
-    settings.windowMaximized = IsMainWindowMaximized();
+    settings.windowMaximized = IsMainWindowMaximized().value_or(settings.windowMaximized);
     return (state.settingsRead && SaveSettings(state.programFolder)) || !HasUserChangedSettings();
 }
 

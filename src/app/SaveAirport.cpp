@@ -7,6 +7,7 @@
 #include "app/AppHost.h"
 #include "app/AppState.h"
 #include "app/AutoBackup.h"
+#include "app/Notices.h"
 #include "app/Settings.h"
 #include "bgl/AirportIndex.h"
 #include "bgl/AirportWriter.h"
@@ -35,6 +36,7 @@ bool WriteToSavePath() {
     settings.lastSavedFile = state.savePath;
     bgl::NoteSavedFile(state.savePath);  // the index finds the airport there from now on
     SetWindowTitle(TitleText());
+    SetNotice(Notice::Remark, "Saved " + std::string(FileNameOf(state.savePath)));
     ShowCommandStates();
     return true;
 }
@@ -66,7 +68,7 @@ bool SaveAirportAs() {
             platform::Buttons::Ok, platform::Icon::Exclamation);
         return false;
     }
-    state.savePath = path;  // also when the write fails: then the next Save tries it again
+    state.savePath = path;  // also when the write fails: the next Save of a stock airport tries it again
     return WriteToSavePath();
 }
 

@@ -87,6 +87,7 @@ bool OnQueryEndSession(HWND window, LPARAM reason) {
 void OnEndSession(bool ends, LPARAM reason) {
     TakeReasonBack();
     if (!ends) return;
+    KillTimer(platform::MainWindow(), kSimLinkTimer);  // it would take the hot keys again
     if (IsWithoutAsking(reason))
         EndSessionAtOnce();
     else

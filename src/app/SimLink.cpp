@@ -32,6 +32,7 @@ struct SimLinkState {
     simlink::SimPosition lastPosition;
     uint32_t lastHeading = 0;
     std::vector<Press> presses;  // still to be carried out, in the airport that is open
+    bool forgetsNext = false;    // what the next poll finds was pressed before that airport was open
 };
 SimLinkState simLink;
 
@@ -71,6 +72,7 @@ void TakePresses() {
         simLink.presses.push_back({ key, AircraftPosition(), AircraftHeading() });
     }
     if (!answered) simlink::LoseLink();
+    if (std::exchange(simLink.forgetsNext, false)) simLink.presses.clear();
 }
 
 void CarryOut(const Press& press) {
@@ -124,7 +126,10 @@ void PollSimulator() {
     CarryOutPresses();
 }
 
-void ForgetPresses() { simLink.presses.clear(); }
+void ForgetPresses() {
+    simLink.presses.clear();
+    simLink.forgetsNext = true;
+}
 
 void ReleaseSimulator() {
     simlink::ReleaseLink();

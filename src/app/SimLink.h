@@ -13,7 +13,7 @@ constexpr int kSimLinkTimer = 1, kSimLinkPeriod = 100;  // milliseconds
 // At every tick of the timer.
 void PollSimulator();
 
-// Another airport is open, or none: what was pressed while a dialog was at work was not meant for it.
+// Another airport is open, or none: what was pressed until now was not meant for it, seen already or not.
 void ForgetPresses();
 
 // At the end of the program: the simulator forgets the hot keys.

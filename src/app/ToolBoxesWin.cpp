@@ -109,7 +109,7 @@ void ScaleToolBoxes(int dpi) {
 
 void PlaceToolBox(int id, const RECT& place) {
     const HWND box = BoxOf(id);
-    const int gap = platform::ScaleToDpi(2, resolution), width = place.right - place.left - 2 * gap;
+    const int gap = platform::ScaleToDpi(kBoxGap, resolution), width = place.right - place.left - 2 * gap;
     if (id == IDC_ROTATION) {
         MoveWindow(box, place.left + gap, place.top, width, place.bottom - place.top, TRUE);
         return;

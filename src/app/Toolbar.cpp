@@ -13,7 +13,7 @@ namespace {
 constexpr ToolButton kSeparator = { 0 };
 
 constexpr ToolButton Box(int id, int width, const char* tooltip = "") {
-    return { 0, ToolPicture::Open, false, id, width, tooltip };
+    return { 0, ToolPicture::Open, id, width, tooltip };
 }
 
 constexpr ToolButton kFirst[] = {
@@ -28,33 +28,33 @@ constexpr ToolButton kFirst[] = {
     { IDT_ZOOM_IN, ToolPicture::ZoomIn },
     { IDT_ZOOM_OUT, ToolPicture::ZoomOut },
     kSeparator,
-    { IDT_LOCK, ToolPicture::Lock, true },
+    { IDT_LOCK, ToolPicture::Lock },
     kSeparator,
-    { IDT_POINTER, ToolPicture::Pointer, true },
+    { IDT_POINTER, ToolPicture::Pointer },
     kSeparator,
-    { IDT_NORMAL_NODE, ToolPicture::NormalNode, true },
-    { IDT_HOLD_SHORT_NODE, ToolPicture::HoldShortNode, true },
-    { IDT_ILS_HOLD_SHORT_NODE, ToolPicture::IlsHoldShortNode, true },
+    { IDT_NORMAL_NODE, ToolPicture::NormalNode },
+    { IDT_HOLD_SHORT_NODE, ToolPicture::HoldShortNode },
+    { IDT_ILS_HOLD_SHORT_NODE, ToolPicture::IlsHoldShortNode },
     kSeparator,
-    { IDT_NORMAL_LINK, ToolPicture::NormalLink, true },
-    { IDT_RUNWAY_LINK, ToolPicture::RunwayLink, true },
-    { IDT_APRON_LINK, ToolPicture::ApronLink, true },
-    { IDT_CLOSED_LINK, ToolPicture::ClosedLink, true },
+    { IDT_NORMAL_LINK, ToolPicture::NormalLink },
+    { IDT_RUNWAY_LINK, ToolPicture::RunwayLink },
+    { IDT_APRON_LINK, ToolPicture::ApronLink },
+    { IDT_CLOSED_LINK, ToolPicture::ClosedLink },
     Box(IDC_DESIGNATOR, 112, "Select a designator to highlight taxi path, or to assign to new taxi links"),
     kSeparator,
     Box(IDC_ROTATION, 46),
 };
 
 constexpr ToolButton kSecond[] = {
-    { IDT_PARKING, ToolPicture::Parking, true },
+    { IDT_PARKING, ToolPicture::Parking },
     Box(IDC_PARKING_TYPE, 160, "Select the parking type"),
     Box(IDC_PARKING_SPEC, 306, "Select a parking spec (e.g. airline code) to assign to parking spots"),
-    { IDT_APRON, ToolPicture::Apron, true },
-    { IDT_APRON_POINT, ToolPicture::ApronPoint, true },
-    { IDT_EDGE_LIGHTS, ToolPicture::EdgeLights, true },
+    { IDT_APRON, ToolPicture::Apron },
+    { IDT_APRON_POINT, ToolPicture::ApronPoint },
+    { IDT_EDGE_LIGHTS, ToolPicture::EdgeLights },
     kSeparator,
-    { IDT_MARKERS, ToolPicture::Marker, true },
-    { IDT_GUIDELINES, ToolPicture::Guideline, true },
+    { IDT_MARKERS, ToolPicture::Marker },
+    { IDT_GUIDELINES, ToolPicture::Guideline },
 };
 
 const char* BoxToolTip(std::span<const ToolButton> buttons, int id) {

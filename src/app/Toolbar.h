@@ -38,11 +38,11 @@ constexpr int kToolPictures = 22;
 struct ToolButton {
     int command;  // 0: a separator or a box
     ToolPicture picture = ToolPicture::Open;
-    bool stays = false;        // pressed while its tool is the active one
     int box = 0;               // control id of a combo box or a read-out that stands in the row of buttons
-    int width = 0;             // of that, at 96 dots per inch
+    int width = 0;             // of that, at 96 dots per inch; it stands between two gaps
     const char* tooltip = "";  // of that; a command's stands in the command table
 };
+constexpr int kBoxGap = 2;
 std::span<const ToolButton> FirstToolbar();
 std::span<const ToolButton> SecondToolbar();
 

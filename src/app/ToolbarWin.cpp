@@ -122,7 +122,8 @@ void ScaleBar(Bar* bar) {
         if (!bar->buttons[item].box) continue;
         TBBUTTONINFOW info{};
         info.dwMask = TBIF_SIZE;
-        info.cx = static_cast<WORD>(platform::ScaleToDpi(bar->buttons[item].width, resolution));
+        info.cx = static_cast<WORD>(platform::ScaleToDpi(bar->buttons[item].width, resolution) +
+                                    2 * platform::ScaleToDpi(kBoxGap, resolution));
         ChangeItem(*bar, item, info);
     }
     BreakRows(bar, { 0 });

@@ -3,8 +3,10 @@
 
 #include "app/AppState.h"
 #include "app/Settings.h"
+#include "dialogs/OverMap.h"
 #include "map/Aircraft.h"
 #include "map/MapView.h"
+#include "model/ObjectList.h"
 #include "platform/Platform.h"
 
 namespace app {
@@ -42,6 +44,7 @@ bool GridShown() { return settings.showLatLongGrid; }
 void ToggleLock() { map::ToggleLock(); }
 bool LockedToSimulator() { return map::view.lockedToSim; }
 
+bool MayOpenMapMenu() { return !model::state.busy && !dialogs::overMap.open; }
 void NoteMenuPoint(platform::Pixel at) { state.menuPoint = at; }
 void JumpToMenuPoint() { map::JumpHere(state.menuPoint); }
 

@@ -24,6 +24,9 @@ bool GridShown();
 void ToggleLock();
 bool LockedToSimulator();
 
+// Not under a drag or a dialog, which have the objects that the menu is about.
+bool MayOpenMapMenu();
+
 // The map's own menu was opened there, a pixel of the map; its entries mean that place.
 void NoteMenuPoint(platform::Pixel at);
 void JumpToMenuPoint();  // places the aircraft in the simulator there

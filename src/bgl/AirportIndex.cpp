@@ -82,7 +82,7 @@ void AddToTree(uint32_t airport) {
     entry.nextOfPlace = kNone;
     uint32_t place = 0;
     for (const std::string_view level : { entry.country, entry.state, entry.city }) {
-        const std::string_view name = Trimmed(level);
+        const std::string_view name = platform::Trimmed(level, " ");
         if (!name.empty()) place = ChildOf(place, name);
     }
     if (place == 0) place = ChildOf(0, kNoPlaceName);
@@ -144,12 +144,6 @@ uint32_t FileNumberOf(const std::string& path) {
 uint32_t ScanTime(uint64_t fileTime) {
     constexpr uint64_t kTwoSeconds = 20000000;
     return static_cast<uint32_t>(fileTime / kTwoSeconds & 0x3FFFFF);
-}
-
-std::string_view Trimmed(std::string_view text) {
-    while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
-    while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
-    return text;
 }
 
 int CompareNames(std::string_view a, std::string_view b) {

@@ -87,9 +87,6 @@ int CompareNames(std::string_view a, std::string_view b);
 
 constexpr size_t kIdentLength = 4;  // characters of an identifier that are kept and compared
 
-// Without the blanks at both ends, as the tree names its places.
-std::string_view Trimmed(std::string_view text);
-
 // Adds an entry with copies of the names, "|" and line breaks replaced by blanks, and of the ident's first
 // kIdentLength characters.
 void AddAirport(std::string_view country, std::string_view state, std::string_view city, std::string_view name,

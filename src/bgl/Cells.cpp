@@ -20,7 +20,7 @@ int64_t ModuloTurn(int64_t longitude) {
     return rest < 0 ? rest + kTurn : rest;
 }
 
-// A corner beyond the north pole, or west of 180 degrees west, encodes below 0.
+// A damaged file may hold a latitude beyond the north pole: below 0.
 int64_t Signed(uint32_t code) { return static_cast<int32_t>(code); }
 
 }  // namespace

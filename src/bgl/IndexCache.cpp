@@ -113,7 +113,7 @@ void ParseFileLine(std::string_view line, const std::string& simulatorFolder) {
     uint32_t layer = 0, time = 0;
     const bool good = fits && ParseNumber(TakeField(&line), 10, &layer) && ParseNumber(TakeField(&line), 16, &time);
     // Whatever the line holds, it takes a number: the airports' lines count on it.
-    const bool fromRoot = line.starts_with('\\') || line.starts_with('/');
+    const bool fromRoot = line.starts_with('/');  // a path behind "\" is below the simulator's folder
     const std::string path = !good ? "" : fromRoot ? std::string(line) : FullPath(simulatorFolder, line);
     library.fileOfPath.try_emplace(PathKey(path), static_cast<uint32_t>(library.files.size()));
     library.files.push_back({ path, time, layer, static_cast<FileKind>(kind), false });
@@ -126,6 +126,7 @@ bool ParseAirportLine(std::string_view line, AirportIndexEntry* entry) {
     for (std::string_view* field : { &entry->country, &entry->state, &entry->city, &entry->name, &entry->ident }) {
         *field = TakeField(&line);
     }
+    entry->ident = entry->ident.substr(0, kIdentLength);
     return ParseNumber(line, 10, &entry->file);
 }
 

@@ -43,6 +43,12 @@ bool IsForLaterSimulator(const SceneryStructure& file) {
     });
 }
 
+// An add-on may hold both an airport for this simulator and sections of a later one.
+bool HoldsAirport(SceneryStructure structure) {
+    AirportPlace place;
+    return FindAirport(&structure, "", &place);
+}
+
 // Opens the structure with what it may read kept within the limits above.
 bool ReadLimitedStructure(const ByteSource& source, SceneryStructure* file) {
     ByteSource head = source;
@@ -201,7 +207,7 @@ ScanResult ScanBglHeader(uint32_t file) {
     if (!handle) return ScanResult::CannotOpen;
     SceneryStructure structure;
     if (!ReadLimitedStructure(SourceOfFile(handle.get()), &structure)) return ScanResult::NotScenery;
-    if (IsForLaterSimulator(structure)) return ScanResult::NoAirports;
+    if (IsForLaterSimulator(structure) && !HoldsAirport(structure)) return ScanResult::NoAirports;
     bool found = false;
     uint64_t nameBytesLeft = kMostNameBytes;
     for (const SectionEntry& section : structure.sections) {

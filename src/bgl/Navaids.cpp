@@ -18,6 +18,7 @@ void WalkNavaids(SceneryStructure* file, std::initializer_list<uint32_t> section
             if (!wanted(subsection.id)) continue;
             if (!CoverRecords(file, subsection)) return;
             const std::vector<uint8_t> bytes = ReadStretch(file->source, subsection.offset, subsection.size);
+            if (bytes.size() < subsection.size) file->isCut = true;
             WalkRecords(bytes, [&](const RecordHead& head, Bytes body) {
                 record.head = head;
                 record.body = body;

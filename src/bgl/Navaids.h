@@ -25,7 +25,8 @@ void WalkNavaids(SceneryStructure* file, std::initializer_list<uint32_t> section
 void AppendOwnNavaids(SceneryStructure* file);
 
 // Appends, marked stock, what lies near the current airport: VORs, DMEs and NDBs in the rectangle of 26
-// nautical miles, markers in that of 11, ILSs in that of 3; and all ILSs of the airport itself.
+// nautical miles, markers in that of 11, ILSs in that of 3, and ILSs of the airport itself outside it; of cells that
+// the largest rectangle meets.
 void AppendStockNavaids(SceneryStructure* file);
 
 // Ties navaids that are not stock to stock ones: each was made by editing that one, and replaces it. The two are of

@@ -70,16 +70,18 @@ std::string TextOfLoss(const OpenWarnings& warnings) {
 }
 
 // Clears the model and reads the airport and what goes with it, apart from stock navaids.
-bool ReadFrom(const ByteSource& source, const AirportPlace& place) {
+bool ReadFrom(const ByteSource& source, const AirportPlace& place, bool* incomplete) {
     const std::vector<uint8_t> records =
         ReadStretch(source, place.offset, std::min<uint64_t>(place.size, kLongestAirport));
     if (!StartsWithAirport(records)) return false;
     model::ClearModel();
     ReadAirport(records);
+    *incomplete = records.size() < place.size;
     SceneryStructure file;
     if (!ReadStructure(source, &file)) return true;
     ReadPlaceNames(&file);
     if (!IsStockFileName(place.path)) AppendOwnNavaids(&file);
+    *incomplete = *incomplete || file.isCut;
     return true;
 }
 
@@ -87,6 +89,12 @@ bool ReadFrom(const ByteSource& source, const AirportPlace& place) {
 
 std::string TextOf(const OpenWarnings& warnings) {
     std::string text = TextOfLoss(warnings);
+    if (warnings.incomplete) {
+        if (!text.empty()) text += "\n\n";
+        text +=
+            "Not all of this airport could be read: its file ends too early or is damaged.\n"
+            "What is missing here will be missing in the file that you save.";
+    }
     if (warnings.doesNotFit.empty()) return text;
     constexpr std::string_view kError = "ERROR: ";
     std::string_view limit = warnings.doesNotFit;
@@ -99,9 +107,11 @@ bool OpenAirport(const AirportPlace& place, const std::string& simulatorFolder, 
     const platform::FileHandle handle = platform::OpenForReading(place.path);
     if (!handle) return false;
     const ByteSource source = SourceOfFile(handle.get());
-    if (!ReadFrom(source, place)) return false;
+    bool incomplete = false;
+    if (!ReadFrom(source, place, &incomplete)) return false;
     if (!simulatorFolder.empty()) LoadStockNavaids(simulatorFolder);
     if (warnings) *warnings = WarningsFor(place.path, source);
+    if (warnings) warnings->incomplete = incomplete;
     return true;
 }
 
@@ -109,7 +119,8 @@ bool OpenAirportBytes(std::span<const uint8_t> bytes, std::string_view ident) {
     const ByteSource source = SourceOfBytes(bytes);
     SceneryStructure file;
     AirportPlace place;
-    return ReadStructure(source, &file) && FindAirport(&file, ident, &place) && ReadFrom(source, place);
+    bool incomplete = false;
+    return ReadStructure(source, &file) && FindAirport(&file, ident, &place) && ReadFrom(source, place, &incomplete);
 }
 
 }  // namespace bgl

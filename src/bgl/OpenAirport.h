@@ -15,6 +15,7 @@ struct OpenWarnings {
     size_t airportsInFile = 0;  // more than one, in a file that Save writes over; else 0
     std::string doesNotFit;     // as WhatDoesNotFit() has it
     bool otherScenery = false;  // sections in such a file that are not of an airport or its navaids
+    bool incomplete = false;    // the file ends early, or could not be read to its end
 };
 
 // One message for all of it, "" when there is nothing to say.

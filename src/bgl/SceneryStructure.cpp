@@ -22,10 +22,13 @@ std::string_view LastComponent(std::string_view path) {
     return separator == std::string_view::npos ? path : path.substr(separator + 1);
 }
 
+constexpr uint64_t kMostEntries = 1 << 20;  // of one table; the largest files have some thousands
+
 // As many whole entries as were asked for and lie in the file.
 template <class Entry>
 std::vector<Entry> ReadTable(const ByteSource& source, uint64_t offset, uint64_t count) {
     if (offset >= source.size) return {};
+    count = std::min(count, kMostEntries);
     std::vector<Entry> entries(static_cast<size_t>(std::min(count, (source.size - offset) / sizeof(Entry))));
     const size_t got = ReadSource(source, offset, entries.data(), entries.size() * sizeof(Entry));
     entries.resize(got / sizeof(Entry));
@@ -159,15 +162,20 @@ std::vector<SubsectionEntry> ReadSubsections(SceneryStructure* file, const Secti
     const uint64_t count = std::min<uint64_t>(section.subsectionCount, most);
     std::vector<SubsectionEntry> entries = ReadTable<SubsectionEntry>(file->source, section.tableOffset, count);
     file->tableBytesLeft -= entries.size() * kSubsectionEntrySize;
+    if (entries.size() < section.subsectionCount) file->isCut = true;
     for (SubsectionEntry& entry : entries) {
         const uint64_t held = entry.offset < file->source.size ? file->source.size - entry.offset : 0;
+        if (entry.size > held) file->isCut = true;
         entry.size = static_cast<uint32_t>(std::min<uint64_t>(entry.size, held));
     }
     return entries;
 }
 
 bool CoverRecords(SceneryStructure* file, const SubsectionEntry& subsection) {
-    if (subsection.size > file->recordBytesLeft) return false;
+    if (subsection.size > file->recordBytesLeft) {
+        file->isCut = true;
+        return false;
+    }
     file->recordBytesLeft -= subsection.size;
     return true;
 }

@@ -62,6 +62,7 @@ struct SceneryStructure {
     ByteSource source;
     std::vector<SectionEntry> sections;
     uint64_t tableBytesLeft = 0, recordBytesLeft = 0;
+    bool isCut = false;  // a walk missed something: the file ends early, is damaged, or could not be read
 };
 
 // False when the source is no scenery file.

@@ -40,8 +40,7 @@ std::map<std::string, StockTables> tablesOf;  // by simulator folder
 uint32_t BlockNumber(int64_t column, int64_t row) { return static_cast<uint32_t>(row + column * kColumnWeight); }
 
 uint32_t BlockOf(model::EncodedPoint point) {
-    // A corner may lie beyond 180 degrees or a pole: to the west and north its code is negative, to the east and
-    // south too large. Longitudes go round, latitudes stop at the pole.
+    // A corner west of 180 degrees has a negative code. Longitudes go round, latitudes stop at the poles.
     const int64_t longitude = (static_cast<int32_t>(point.longitude) + 4 * kTurn) % kTurn;
     const int64_t latitude = std::clamp<int64_t>(static_cast<int32_t>(point.latitude), 0, kPoleToPole - 1);
     return BlockNumber(longitude >> kBlockShift, latitude >> kBlockShift);

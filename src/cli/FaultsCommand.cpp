@@ -10,6 +10,7 @@
 
 #include "bgl/OpenAirport.h"
 #include "bgl/SceneryStructure.h"
+#include "cli/Columns.h"
 #include "cli/Verbs.h"
 #include "faults/FaultSearch.h"
 #include "model/Names.h"
@@ -26,26 +27,7 @@ using faults::FaultReport;
 using model::SceneryObject;
 using Reports = std::vector<FaultReport>;
 
-constexpr size_t kColumns = 78;
 constexpr int kDegreeDecimals = 6;
-
-// As many words a line as fit.
-std::string Wrapped(std::string_view text, const std::string& indent) {
-    std::string result, line;
-    while (!text.empty()) {
-        const size_t end = std::min(text.find(' '), text.size());
-        const std::string_view word = text.substr(0, end);
-        text.remove_prefix(std::min(end + 1, text.size()));
-        if (word.empty()) continue;
-        if (!line.empty() && indent.size() + line.size() + 1 + word.size() > kColumns) {
-            result += indent + line + '\n';
-            line.clear();
-        }
-        line += line.empty() ? "" : " ";
-        line += word;
-    }
-    return result + indent + line + '\n';
-}
 
 std::unordered_map<const SceneryObject*, int64_t> ListPlaces() {
     std::unordered_map<const SceneryObject*, int64_t> places;
@@ -105,7 +87,7 @@ std::string MessageText(std::string_view message) {
     std::string text;
     while (!message.empty()) {
         const size_t end = std::min(message.find("\r\n"), message.size());
-        text += Wrapped(message.substr(0, end), "    ");
+        text += Wrapped(message.substr(0, end), 4);
         message.remove_prefix(std::min(end + 2, message.size()));
     }
     return text;
@@ -223,7 +205,7 @@ std::string DescribeFaults(const Reports& reports) {
             if (object != report.objects.front()) objects += ", ";
             objects += std::to_string(places.at(object)) + ' ' + ObjectName(object);
         }
-        text += Wrapped(objects, "    ");
+        text += Wrapped(objects, 4);
     }
     return text;
 }

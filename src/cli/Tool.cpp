@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "cli/Arguments.h"
+#include "cli/Columns.h"
 #include "cli/Verbs.h"
 
 namespace cli {
@@ -119,25 +120,6 @@ constexpr Verb kVerbs[] = {
       "simulator shows the airport as the file that wins has it; of several in the same layer none can be told to win.",
       kFindOptions, RunFind },
 };
-
-constexpr size_t kHelpColumns = 78;
-
-// The text in lines that start with `indent` blanks.
-std::string Wrapped(std::string_view text, size_t indent) {
-    std::string result, line(indent, ' ');
-    while (!text.empty()) {
-        const size_t blank = std::min(text.find(' '), text.size());
-        const std::string_view word = text.substr(0, blank);
-        text.remove_prefix(std::min(blank + 1, text.size()));
-        if (line.size() > indent && line.size() + 1 + word.size() > kHelpColumns) {
-            result += line + '\n';
-            line.assign(indent, ' ');
-        }
-        if (line.size() > indent) line += ' ';
-        line += word;
-    }
-    return result + line + '\n';
-}
 
 std::string UsageLine(const Verb& verb) {
     std::string usage = std::string("tarvo-tool ") + verb.name + ' ' + verb.operands;

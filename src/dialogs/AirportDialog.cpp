@@ -24,9 +24,7 @@ namespace {
 using model::AirportRecord;
 using model::PlaceTexts;
 
-constexpr size_t kPlaceLimit = 48;
 constexpr uint32_t kJetFuel = 1u << 31, kAvgas = 1u << 30;
-constexpr uint32_t kAirportIdentKind = 1;  // low bits of an airport's ident word
 
 constexpr NumberRow<AirportFields> kRows[] = {
     { Field::Elevation, &AirportFields::elevation, offsetof(AirportRecord, altitude), &kElevation },
@@ -78,7 +76,7 @@ bool CheckId(const AirportFields& shown, const AirportFields& entered, BadField*
 bool ReadPlace(const char* what, Field field, const std::string& shown, const std::string& entered, std::string* text,
                BadField* bad) {
     if (entered == shown) return true;
-    if (EncodeText(what, entered, kPlaceLimit, text)) return true;
+    if (EncodeText(what, entered, model::kAirportNameSize, text)) return true;
     *bad = { field };
     return false;
 }
@@ -186,7 +184,7 @@ bool StoreAirportFields(const AirportFields& shown, const AirportFields& entered
 SceneryObject* MakeNewAirport() {
     SceneryObject* airport = model::CreateObject(model::kAirport, sizeof(AirportRecord));
     auto& record = model::PayloadAs<AirportRecord>(airport);
-    record.ident = model::PackIdent(" ") << model::kIdentShift | kAirportIdentKind;
+    record.ident = model::PackIdent(" ") << model::kIdentShift;
     SetPoint(airport, kPlaceholder);
     model::AppendObject(airport);
     SceneryObject* tower = model::CreateObject(model::kTowerViewpoint, sizeof(model::TowerViewpointRecord));

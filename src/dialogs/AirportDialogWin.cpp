@@ -4,7 +4,6 @@
 #include <string>
 
 #include "AirportIds.h"
-#include "app/Settings.h"
 #include "dialogs/AirportDialog.h"
 #include "dialogs/DialogHost.h"
 #include "dialogs/Editors.h"
@@ -31,7 +30,7 @@ constexpr FieldControl kControls[] = {
 
 void Show(HWND dialog, const AirportFields& fields) {
     ShowPosition(dialog, IDC_AIRPORT_LATITUDE, IDC_AIRPORT_LONGITUDE, fields.position);
-    if (app::settings.metric) platform::SetFieldText(dialog, IDC_AIRPORT_ELEVATION_LABEL, "&Elevation (m ASL)");
+    LabelUnit(dialog, IDC_AIRPORT_ELEVATION_LABEL, "&Elevation (", Unit::Elevation, " ASL)");
     platform::SetFieldText(dialog, IDC_AIRPORT_ELEVATION, fields.elevation);
     platform::SetFieldText(dialog, IDC_AIRPORT_VARIATION, fields.variation);
     platform::CheckField(dialog, IDC_AVGAS, fields.avgas);

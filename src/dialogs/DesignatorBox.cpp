@@ -7,8 +7,7 @@
 #include "dialogs/Choices.h"
 #include "dialogs/Edits.h"
 #include "dialogs/LinkDialog.h"
-#include "dialogs/NumberField.h"
-#include "model/Limits.h"
+#include "dialogs/TextField.h"
 #include "model/ObjectList.h"
 #include "model/Records.h"
 #include "platform/Platform.h"
@@ -22,9 +21,9 @@ constexpr std::string_view kTaxiWord = "TAXI", kRunwayWord = "RWY";
 
 // The name in Windows-1252; empty when the text names no designator.
 std::string NameFrom(const std::string& typed) {
-    bool lossless = true;
-    std::string name = platform::UpperCased(platform::Windows1252FromUtf8(typed, &lossless).substr(0, kTypedLimit));
-    if (!lossless) return "";
+    std::string encoded;
+    if (!ToSceneryText(typed, &encoded)) return "";
+    std::string name = platform::UpperCased(encoded.substr(0, kTypedLimit));
     if (name.starts_with(kTaxiWord)) {
         name.erase(0, kTaxiWord.size());
         name.erase(0, std::min(name.find_first_not_of(' '), name.size()));
@@ -42,10 +41,7 @@ SceneryObject* FindDesignator(const std::string& utf8) {
 }
 
 bool UserWantsNew(const std::string& utf8) {
-    if (model::CountKind(model::kTaxiDesignator) >= model::kMostDesignators) {
-        ShowError("An airport can have at most 256 taxiway designators");
-        return false;
-    }
+    if (!HasRoomForDesignator()) return false;
     const std::string question =
         "The taxiway designator \"" + utf8 + "\" does not exist.\nDo you want to enter it as a new designator?";
     return platform::ShowMessage(question, platform::Buttons::YesNoCancel, platform::Icon::Question) ==

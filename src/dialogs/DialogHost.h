@@ -19,7 +19,8 @@ void UseParkingType(uint32_t type);
 // Where the open airport was read from or last saved to, UTF-8; "" for one that is in no file yet.
 std::string AirportFile();
 
-// A dialog over the map opens or closes (OverMap.h): the commands show again which of them can be given.
+// A dialog over the map opens or closes (OverMap.h), or a list has changed the airport or the view: the commands show
+// again which of them can be given.
 void ShowDialogState();
 
 // Opens the manual at a topic such as "#Nodes".

@@ -51,13 +51,6 @@ std::string ShowBrightness(float stored) {
     return text;
 }
 
-bool ReadOne(const Quantity& quantity, const std::string& shown, const std::string& entered, Field field, double* value,
-             BadField* bad) {
-    if (ReadQuantity(quantity, shown, entered, value)) return true;
-    *bad = { field };
-    return false;
-}
-
 }  // namespace
 
 EdgeLightsFields LoadEdgeLightsFields(const SceneryObject* lights) {
@@ -69,9 +62,9 @@ EdgeLightsFields LoadEdgeLightsFields(const SceneryObject* lights) {
 bool StoreEdgeLightsFields(const EdgeLightsFields& shown, const EdgeLightsFields& entered, SceneryObject* lights,
                            BadField* bad) {
     double spacing = 0, optimum = model::state.edgeLights.optimumSpacing, brightness = 0;
-    if (!ReadOne(kSpacing, shown.spacing, entered.spacing, Field::Spacing, &spacing, bad) ||
-        !ReadOne(kOptimum, shown.optimum, entered.optimum, Field::OptimumSpacing, &optimum, bad) ||
-        !ReadOne(kBrightness, shown.brightness, entered.brightness, Field::Brightness, &brightness, bad))
+    if (!ReadField(kSpacing, shown.spacing, entered.spacing, Field::Spacing, &spacing, bad) ||
+        !ReadField(kOptimum, shown.optimum, entered.optimum, Field::OptimumSpacing, &optimum, bad) ||
+        !ReadField(kBrightness, shown.brightness, entered.brightness, Field::Brightness, &brightness, bad))
         return false;
     Edits edits;
     SceneryObject* draft = DraftOf(&edits, lights);

@@ -38,7 +38,8 @@ EdgeLightsFields Read(HWND dialog) {
 
 }  // namespace
 
-// What is selected stays so: the strips with a selected part are those whose spacing is edited.
+// What is selected stays so: the strips with a selected part are those whose spacing is edited. Whoever opens the dialog
+// at a strip selects that one first (map::SelectStripAt).
 bool EditEdgeLights(SceneryObject* lights) {
     const EdgeLightsFields shown = LoadEdgeLightsFields(lights);
     Editor editor;

@@ -2,18 +2,18 @@
 #include "dialogs/EditorWin.h"
 
 #include <map>
+#include <string>
 
 #include "dialogs/DialogHost.h"
 #include "dialogs/OverMap.h"
 #include "dialogs/Subject.h"
+#include "model/CoordinateText.h"
 #include "platform/DialogWin.h"
 #include "platform/Platform.h"
 
 namespace dialogs {
 
 namespace {
-
-constexpr size_t kPositionLimit = 30;  // characters of a position field
 
 std::map<int, POINT> leftAt;  // where the user has moved the dialogs, by resource; until the program ends
 POINT openedAt;               // the one that is open
@@ -34,9 +34,20 @@ POINT PlaceOf(HWND dialog) {
     return { place.left, place.top };
 }
 
+// At the right edge of the main window: what is edited, or is to be clicked at, mostly lies in its middle.
+void PlaceBesideMap(HWND dialog) {
+    constexpr int kFromEdge = 24;
+    RECT main{}, own{};
+    GetWindowRect(GetWindow(dialog, GW_OWNER), &main);
+    GetWindowRect(dialog, &own);
+    platform::PlaceDialog(dialog, { main.right - (own.right - own.left) - kFromEdge, own.top });
+}
+
 void Place(HWND dialog) {
     if (const auto left = leftAt.find(EditorOf(dialog).resource); left != leftAt.end())
         platform::PlaceDialog(dialog, left->second);
+    else if (EditorOf(dialog).clicked)
+        PlaceBesideMap(dialog);
     openedAt = PlaceOf(dialog);
 }
 
@@ -106,10 +117,14 @@ bool StoreOrRefuse(HWND dialog) {
 bool ExtendKeyHeld() { return GetKeyState(VK_SHIFT) < 0 || GetKeyState(VK_CONTROL) < 0; }
 
 void ShowPosition(HWND dialog, int latitude, int longitude, const model::CoordinateTexts& texts) {
-    platform::LimitField(dialog, latitude, kPositionLimit);
-    platform::LimitField(dialog, longitude, kPositionLimit);
+    platform::LimitField(dialog, latitude, model::kCoordinateTextLimit);
+    platform::LimitField(dialog, longitude, model::kCoordinateTextLimit);
     platform::SetFieldText(dialog, latitude, texts.latitude);
     platform::SetFieldText(dialog, longitude, texts.longitude);
+}
+
+void LabelUnit(HWND dialog, int control, const char* before, Unit unit, const char* after) {
+    platform::SetFieldText(dialog, control, std::string(before) + UnitLabel(unit) + after);
 }
 
 model::CoordinateTexts PositionIn(HWND dialog, int latitude, int longitude) {

@@ -8,6 +8,7 @@
 #include <span>
 
 #include "dialogs/Field.h"
+#include "dialogs/NumberField.h"
 #include "dialogs/Subject.h"
 #include "model/CoordinateText.h"
 #include "model/Geodesy.h"
@@ -47,6 +48,9 @@ bool ExtendKeyHeld();
 // The pair of position fields: limits their length and shows the texts.
 void ShowPosition(HWND dialog, int latitude, int longitude, const model::CoordinateTexts& texts);
 model::CoordinateTexts PositionIn(HWND dialog, int latitude, int longitude);
+
+// "Elevation (ft ASL)", "Range (nm)" and such, with the unit of the settings between the two parts.
+void LabelUnit(HWND dialog, int control, const char* before, Unit unit, const char* after);
 
 // An editor of one object whose fields are shown and read as a whole: two functions of the window, two of its portable
 // half.

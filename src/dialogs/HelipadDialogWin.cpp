@@ -32,10 +32,8 @@ constexpr ChoiceControl<HelipadFields> kChoices[] = {
 constexpr FieldTable<HelipadFields> kTable = { kTexts, kBoxes, kChoices };
 
 void Show(HWND dialog, const HelipadFields& fields) {
-    if (app::settings.metric) {
-        platform::SetFieldText(dialog, IDC_HELIPAD_LENGTH_LABEL, "Length (m)");
-        platform::SetFieldText(dialog, IDC_HELIPAD_WIDTH_LABEL, "Width (m)");
-    }
+    LabelUnit(dialog, IDC_HELIPAD_LENGTH_LABEL, "Length (", Unit::Length, ")");
+    LabelUnit(dialog, IDC_HELIPAD_WIDTH_LABEL, "Width (", Unit::Length, ")");
     platform::FillChoices(dialog, IDC_HELIPAD_SURFACE, SurfaceChoices());
     platform::FillChoices(dialog, IDC_HELIPAD_TYPE, kHelipadTypes);
     ShowPlace(dialog, kTable, fields);

@@ -6,10 +6,9 @@
 
 #include "dialogs/Choices.h"
 #include "dialogs/Edits.h"
+#include "dialogs/IlsRunway.h"
 #include "dialogs/NavaidFields.h"
 #include "dialogs/NewIls.h"
-#include "dialogs/RunwayFollow.h"
-#include "dialogs/RunwayParts.h"
 #include "dialogs/TextField.h"
 #include "model/Ident.h"
 #include "model/ObjectList.h"
@@ -77,29 +76,18 @@ bool ReadPart(const CoordinateTexts& shown, const CoordinateTexts& entered, int 
     return true;
 }
 
-// The runway end that the ILS serves; no runway when there is none.
-RunwayEndRef EndOf(const SceneryObject* ils) {
-    for (const RunwayEndRef& ref : AllRunwayEnds()) {
-        if (ServesEnd(ils, ref.runway, ref.end)) return ref;
-    }
-    return {};
-}
-
 // Places a part that is switched on for the first time: at its usual site, or with the localizer when no
 // runway is known.
 void PlaceSlope(const SceneryObject* live, SceneryObject* ils) {
     auto& payload = model::PayloadAs<IlsPayload>(ils);
     if (!IsUnplaced(ils, kGlideSlopeFields)) return;
     const uint16_t carried = payload.glideSlope.carried;
-    const RunwayEndRef ref = EndOf(live);
+    const RunwayEndRef ref = EndServedBy(live);
     if (ref.runway) {
         payload.glideSlope = UsualGlideSlope(ref);
     } else {
-        payload.glideSlope.longitude = payload.body.longitude;
-        payload.glideSlope.latitude = payload.body.latitude;
-        payload.glideSlope.altitude = payload.body.altitude;
-        payload.glideSlope.range = 18520;
-        payload.glideSlope.pitch = 3;
+        payload.glideSlope =
+            UsualGlideSlopeAt({ payload.body.longitude, payload.body.latitude }, payload.body.altitude);
     }
     payload.glideSlope.carried = carried;
 }
@@ -178,55 +166,12 @@ bool StoreSlopeAndDme(IlsFields shown, IlsFields entered, const SceneryObject* l
            StoreNumbers<IlsFields>(kDmeRows, shown, entered, draft, bad);
 }
 
-void SetRunwayIdent(const RunwayEndRef& ref, uint32_t ident, Edits* edits) {
-    std::memcpy(DraftOf(edits, ref.runway)->payload + kEndPlaces[ref.end].ils, &ident, sizeof ident);
-}
-
-bool NamesEnd(const LocalizerPart& localizer, const RunwayEndRef& ref) {
-    return ref.runway->payload[kEndPlaces[ref.end].number] == localizer.runwayNumber &&
-           ref.runway->payload[kEndPlaces[ref.end].designator] == localizer.runwayDesignator;
-}
-
-// A runway end has room for one ILS.
-bool CheckEndFree(const SceneryObject* ils, const LocalizerPart& localizer, BadField* bad) {
-    for (const RunwayEndRef& ref : AllRunwayEnds()) {
-        if (!NamesEnd(localizer, ref)) continue;
-        for (const SceneryObject* other : BelongingsOf(ref.runway, ref.end).ils) {
-            if (other == ils) continue;
-            ShowError("Runway " + EndName(ref.runway, ref.end) + " already has an ILS");
-            *bad = { Field::Runway };
-            return false;
-        }
-    }
-    return true;
-}
-
-// Runway ends that name the ILS follow it; another end that it now serves gets its name.
-void UpdateRunways(const SceneryObject* ils, const SceneryObject* draft, bool otherEnd, Edits* edits) {
-    const auto& is = model::PayloadAs<IlsPayload>(draft);
-    const uint32_t oldIdent = model::PayloadAs<IlsPayload>(ils).body.ident >> model::kIdentShift;
-    const uint32_t newIdent = is.body.ident >> model::kIdentShift;
-    if (!otherEnd && oldIdent == newIdent) return;
-    for (const RunwayEndRef& ref : AllRunwayEnds()) {
-        uint32_t named;
-        std::memcpy(&named, ref.runway->payload + kEndPlaces[ref.end].ils, sizeof named);
-        if (otherEnd && NamesEnd(is.localizer, ref))
-            SetRunwayIdent(ref, newIdent, edits);
-        else if (named != 0 && named == oldIdent && ServesEnd(ils, ref.runway, ref.end))
-            SetRunwayIdent(ref, otherEnd ? 0 : newIdent, edits);
-    }
-}
-
-// Whether the user chose another runway end.
-bool StoreEnd(const IlsFields& shown, const IlsFields& entered, LocalizerPart* localizer) {
-    const bool number = entered.number >= 0 && entered.number != shown.number;
-    const bool suffix = entered.suffix >= 0 && entered.suffix != shown.suffix;
-    if (number) localizer->runwayNumber = static_cast<uint8_t>(entered.number);
-    if (suffix) localizer->runwayDesignator = static_cast<uint8_t>(entered.suffix);
-    return number || suffix;
-}
-
 }  // namespace
+
+int PartForClick(int part, const IlsFields& fields) {
+    const bool isOff = (part == kGlideSlopeFields && !fields.glideSlope) || (part == kDmeFields && !fields.dme);
+    return isOff ? kLocalizerFields : part;
+}
 
 size_t IlsPositionOffset(int part) {
     if (part == kGlideSlopeFields) return kSlopeAt + offsetof(GlideSlopePart, longitude);
@@ -239,8 +184,7 @@ IlsFields LoadIlsFields(const SceneryObject* ils) {
     fields.ident = ShowIdentWord(ils->payload + offsetof(VorRecord, ident));
     fields.name = ShowText(payload.name, sizeof payload.name);
     fields.frequency = ShowNavFrequency(payload.body.frequency, FrequencyKind::Localizer);
-    fields.number = RunwayNumberIndex(payload.localizer.runwayNumber);
-    fields.suffix = SuffixIndex(payload.localizer.runwayDesignator);
+    LoadIlsEnd(ils, &fields);
     fields.backCourse = (payload.body.flags & kBackCourse) != 0;
     fields.glideSlope = (payload.body.flags & model::kHasGlideSlope) != 0;
     fields.dme = (payload.body.flags & model::kHasDme) != 0;
@@ -265,9 +209,7 @@ bool StoreIlsFields(const IlsFields& shown, const IlsFields& entered, SceneryObj
         return false;
     payload.body.frequency = frequency;
     SetFlag(kBackCourse, shown.backCourse, entered.backCourse, &payload.body.flags);
-    const bool otherEnd = StoreEnd(shown, entered, &payload.localizer);
-    if (otherEnd && !CheckEndFree(ils, payload.localizer, bad)) return false;
-    UpdateRunways(ils, draft, otherEnd, &edits);
+    if (!StoreIlsEnd(shown, entered, ils, &edits, bad)) return false;
     Commit(&edits);
     return true;
 }
@@ -284,6 +226,9 @@ void SwitchDme(const SceneryObject* ils, bool on, IlsFields* fields) {
     fields->dme = on;
     if (!on || !IsUnplaced(ils, kDmeFields) || !fields->dmePosition.latitude.empty()) return;
     const ObjectPtr usual(model::CopyObject(ils));
+    SetFlag(model::kHasGlideSlope, !fields->glideSlope, fields->glideSlope,
+            &model::PayloadAs<IlsPayload>(usual.get()).body.flags);
+    if (fields->glideSlope) PlaceSlope(ils, usual.get());  // it may just have been switched on too
     PlaceDme(usual.get());
     LoadDme(usual.get(), fields);
 }

@@ -42,7 +42,8 @@ void SwitchDme(const SceneryObject* ils, bool on, IlsFields* fields);
 // the ILS's own, as shown.
 std::string MagneticCourseText(const std::string& heading, const std::string& variation);
 
-// Where in the payload a click on the map goes, by the part whose fields have the focus.
-size_t IlsPositionOffset(int part);
+// The part that a click on the map places: that whose fields the user was in last, the localizer when it is off.
+int PartForClick(int part, const IlsFields& fields);
+size_t IlsPositionOffset(int part);  // where in the payload its place is
 
 }  // namespace dialogs

@@ -155,8 +155,7 @@ bool EditIls(SceneryObject* ils) {
     Editor editor = EditorFor(kEditor, shown, ils);
     editor.command = [&](HWND dialog, int id, int code) { OnCommand(dialog, id, code, ils, &part); };
     editor.clicked = [&](HWND dialog, model::LatLon at) {
-        const bool off = !IsWindowEnabled(GetDlgItem(dialog, kPositions[part].latitude));
-        const int to = off ? kLocalizerFields : part;
+        const int to = PartForClick(part, Read(dialog));
         const model::CoordinateTexts texts = MoveToClick(ils, IlsPositionOffset(to), at);
         ShowPosition(dialog, kPositions[to].latitude, kPositions[to].longitude, texts);
     };

@@ -12,6 +12,7 @@
 #include "dialogs/DialogHost.h"
 #include "dialogs/NumberField.h"
 #include "map/LinkTemplate.h"
+#include "model/Limits.h"
 #include "model/ObjectList.h"
 #include "model/Positions.h"
 #include "model/Records.h"
@@ -227,6 +228,10 @@ bool StoreLinkFields(const LinkFields& shown, const LinkFields& entered, Scenery
         if (other != link && model::IsSelected(other)) Apply(forOthers, entered, DraftOf(&edits, other), &edits);
     }
     DropUnusedDesignators(&edits);
+    if (!edits.added.empty() && !HasRoomForDesignator()) {
+        *bad = { Field::Designator };
+        return false;
+    }
     if (Commit(&edits) && model::LinkTypeOf(model::PayloadAs<TaxiLinkPayload>(link)) != model::kRunwayLink)
         UseLinkTemplate(model::PayloadAs<TaxiLinkPayload>(link));
     return true;
@@ -238,6 +243,12 @@ SceneryObject* BlankDesignatorIn(Edits* edits) {
         if (KindOf(object.get()) == model::kTaxiDesignator && DesignatorName(object.get()).empty()) return object.get();
     }
     return AddDraft(edits, ObjectPtr(model::CreateObject(model::kTaxiDesignator, sizeof(model::TaxiDesignatorRecord))));
+}
+
+bool HasRoomForDesignator() {
+    if (model::CountKind(model::kTaxiDesignator) < model::kMostDesignators) return true;
+    ShowError("An airport can have at most 256 taxiway designators");
+    return false;
 }
 
 void DesignateLink(SceneryObject* draft, SceneryObject* designator) {

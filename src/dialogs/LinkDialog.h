@@ -31,11 +31,15 @@ const char* LinkTypeName(uint32_t type);
 
 LinkFields LoadLinkFields(const SceneryObject* link);
 
-// Writes what changed to every selected link and makes this link the pattern for new ones.
+// Writes what changed to every selected link and makes this link the pattern for new ones. Refused where the blank
+// designator would be one too many.
 bool StoreLinkFields(const LinkFields& shown, const LinkFields& entered, SceneryObject* link, BadField* bad);
 
 // The blank designator; a new one among the edits when the airport has none.
 SceneryObject* BlankDesignatorIn(Edits* edits);
+
+// Whether the airport can get one more designator. False after the message of a refusal.
+bool HasRoomForDesignator();
 
 // Gives a link the designator, as OK does: a link after a runway is a Runway link of the runway's width, a
 // Runway link after a taxiway becomes a Taxiway. Parking connectors stay as they are.

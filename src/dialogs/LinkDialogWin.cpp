@@ -4,7 +4,6 @@
 #include <string>
 #include <vector>
 
-#include "app/Settings.h"
 #include "dialogs/Choices.h"
 #include "dialogs/Editors.h"
 #include "dialogs/EditorWin.h"
@@ -17,8 +16,8 @@ namespace dialogs {
 
 namespace {
 
-constexpr FieldControl kControls[] = { { Field::Width, IDC_LINK_WIDTH } };
-constexpr size_t kWidthLimit = 12;
+constexpr FieldControl kControls[] = { { Field::Designator, IDC_LINK_DESIGNATOR }, { Field::Width, IDC_LINK_WIDTH } };
+constexpr size_t kWidthTextLimit = 12;  // characters
 
 // Radio buttons whose ids follow each other; -1 presses none.
 void PressRadio(HWND dialog, int first, int count, int choice) {
@@ -44,8 +43,8 @@ void Load(HWND dialog, const SceneryObject* link, const LinkFields& fields) {
     platform::SetChoice(dialog, IDC_LINK_TYPE, fields.type);
     platform::FillChoices(dialog, IDC_LINK_SURFACE, SurfaceChoices());
     platform::SetChoice(dialog, IDC_LINK_SURFACE, fields.surface);
-    platform::SetFieldText(dialog, IDC_LINK_WIDTH_LABEL, app::settings.metric ? "&Width (m)" : "&Width (ft)");
-    platform::LimitField(dialog, IDC_LINK_WIDTH, kWidthLimit);
+    LabelUnit(dialog, IDC_LINK_WIDTH_LABEL, "&Width (", Unit::Length, ")");
+    platform::LimitField(dialog, IDC_LINK_WIDTH, kWidthTextLimit);
     platform::SetFieldText(dialog, IDC_LINK_WIDTH, fields.width);
     PressRadio(dialog, IDC_LEFT_NONE, kEdgeStyles, fields.leftEdge);
     PressRadio(dialog, IDC_RIGHT_NONE, kEdgeStyles, fields.rightEdge);

@@ -7,6 +7,7 @@
 #include "app/Settings.h"
 #include "dialogs/Choices.h"
 #include "dialogs/CommDialog.h"
+#include "dialogs/DialogHost.h"
 #include "dialogs/MarkerDialog.h"
 #include "dialogs/NavaidFields.h"
 #include "dialogs/NumberField.h"
@@ -17,6 +18,7 @@
 #include "dialogs/TextField.h"
 #include "dialogs/VorDialog.h"
 #include "map/HoldShortUpdate.h"
+#include "map/MapView.h"
 #include "map/Selection.h"
 #include "model/DeleteRules.h"
 #include "model/Names.h"
@@ -147,11 +149,25 @@ std::string Findable(std::string_view text) {
     return found;
 }
 
-bool IsInList(const SceneryObject* object) {
-    for (const SceneryObject* other = model::state.head; other; other = other->next) {
-        if (other == object) return true;
+// Null for what is always shown.
+bool map::MapLayers::*LayerOf(uint32_t kind) {
+    switch (kind) {
+    case model::kParkingSpot: return &map::MapLayers::network;
+    case model::kStartLocation: return &map::MapLayers::starts;
+    case model::kIls:
+    case model::kMarkerBeacon:
+    case model::kNdb:
+    case model::kVorDme: return &map::MapLayers::navaids;
+    default: return nullptr;
     }
-    return false;
+}
+
+// Nothing is selected unseen.
+void ShowLayerOf(const SceneryObject* object) {
+    bool map::MapLayers::*layer = LayerOf(KindOf(object));
+    if (!layer || map::layers.*layer) return;
+    map::layers.*layer = true;
+    ShowDialogState();
 }
 
 }  // namespace
@@ -195,6 +211,11 @@ int RowShowing(const std::vector<ListRow>& rows, const SceneryObject* object) {
     const auto shows = [object](const ListRow& row) { return row.object == object || row.object->related == object; };
     const auto found = object ? std::find_if(rows.begin(), rows.end(), shows) : rows.end();
     return found == rows.end() ? -1 : static_cast<int>(found - rows.begin());
+}
+
+int RowToSelect(const std::vector<ListRow>& rows, const SceneryObject* object, int otherwise) {
+    const int row = RowShowing(rows, object);
+    return row >= 0 ? row : std::min(otherwise, static_cast<int>(rows.size()) - 1);
 }
 
 std::vector<std::string> CellsOf(const std::string& text) {
@@ -241,6 +262,7 @@ void ShowEntry(SceneryObject* object) {
         map::DeselectAll();
         return platform::RequestRepaint();
     }
+    ShowLayerOf(object);
     SelectOnly(object);
     ShowPlace(model::PositionOf(object), true);
 }
@@ -250,7 +272,10 @@ bool DeleteEntry(SceneryObject* object) {
     if (KindOf(object) == model::kTaxiDesignator && !MayDeleteDesignator(object)) return false;
     SelectOnly(object);
     map::EraseSelected();
-    return !IsInList(object);
+    // Undo brings back what is selected: the Delete key of the map must not find it then either.
+    if (!model::HasPosition(object)) object->flags &= ~(model::kSelected | model::kWholeSelected);
+    ShowDialogState();
+    return !map::IsInList(object);
 }
 
 uint32_t LinksUsing(const SceneryObject* designator) {

@@ -29,6 +29,10 @@ std::string RowText(const SceneryObject* object);
 // The row of the object, or of the one that replaces it; -1 when there is none. The object need not exist any more.
 int RowShowing(const std::vector<ListRow>& rows, const SceneryObject* object);
 
+// The row that is selected when the rows have changed: that of the object, else `otherwise` or what has come to its place;
+// -1 for none.
+int RowToSelect(const std::vector<ListRow>& rows, const SceneryObject* object, int otherwise);
+
 std::vector<std::string> CellsOf(const std::string& text);  // of a row or a header
 
 // The first row from `from` on, around the end, of which a cell begins with what was typed; -1 when there is none.
@@ -48,8 +52,8 @@ int RowAfterTyping(const std::vector<ListRow>& rows, int selected, std::string_v
 // Whether a row is selected; without one the message is shown.
 bool IsEntrySelected(const SceneryObject* object);
 
-// A selected row selects its object on the map, which centres it when it cannot be seen. What has no place on the map
-// selects nothing there.
+// A selected row selects its object on the map, which shows the layer of it and centres it when it cannot be seen. What
+// has no place on the map selects nothing there.
 void ShowEntry(SceneryObject* object);
 
 // "Delete": asks and refuses by message boxes. Whether the entry is gone.

@@ -8,8 +8,8 @@
 
 #include <commctrl.h>
 
-#include <algorithm>
 #include <string>
+#include <utility>
 
 #include "app/Settings.h"
 #include "dialogs/DialogHost.h"
@@ -71,14 +71,12 @@ void ReadRows(Window* window) {
     window->metricRadius = app::settings.metricParkingRadius;
 }
 
-// The row of `object` is selected afterwards, or the one that has come to its place.
 void ShowRows(Window* window, const SceneryObject* object, int otherwise = -1) {
     const int top = TopRow(window->list);
     window->filling = true;
     FillList(&window->list, window->rows);
     ScrollToRow(window->list, top);
-    int row = RowShowing(window->rows, object);
-    if (row < 0) row = std::min(otherwise, static_cast<int>(window->rows.size()) - 1);
+    const int row = RowToSelect(window->rows, object, otherwise);
     if (row >= 0) SelectRow(window->list, row);
     window->filling = false;
 }

@@ -3,8 +3,6 @@
 
 #include <windows.h>
 
-#include <string>
-
 #include "dialogs/EditorWin.h"
 #include "dialogs/NumberField.h"
 #include "dialogs/TextField.h"
@@ -13,11 +11,6 @@
 #include "platform/DialogWin.h"
 
 namespace dialogs {
-
-// "Elevation (ft ASL)", "Range (nm)" and such, with the unit of the settings between the two parts.
-inline void LabelUnit(HWND dialog, int control, const char* before, Unit unit, const char* after) {
-    platform::SetFieldText(dialog, control, std::string(before) + UnitLabel(unit) + after);
-}
 
 // What an NDB, a VOR and an ILS have in common.
 template <class Fields>

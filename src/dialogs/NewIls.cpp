@@ -47,7 +47,8 @@ bool IsTaken(uint32_t hertz) {
     return false;
 }
 
-// The outline of an apron in the runway's plane: its area, and the mean of its corners beside the centre line.
+// The outline of an apron in the runway's plane: its area, and whether its corners lie to the right of the centre line
+// (their sum is above 0) or to the left.
 struct ApronSide {
     double area = 0, right = 0;
 };
@@ -140,11 +141,15 @@ double LocalizerWidth(const RunwayEndRef& ref, model::LatLon localizer) {
 }
 
 model::GlideSlopePart UsualGlideSlope(const RunwayEndRef& ref) {
-    const model::EncodedPoint point = PlaceFromThreshold(ref, kSlopeInward, SlopeSide(ref) * kSlopeSideways);
+    return UsualGlideSlopeAt(PlaceFromThreshold(ref, kSlopeInward, SlopeSide(ref) * kSlopeSideways),
+                             model::PayloadAs<model::RunwayPayload>(ref.runway).body.altitude);
+}
+
+model::GlideSlopePart UsualGlideSlopeAt(model::EncodedPoint point, int32_t altitude) {
     model::GlideSlopePart slope = {};
     slope.longitude = point.longitude;
     slope.latitude = point.latitude;
-    slope.altitude = model::PayloadAs<model::RunwayPayload>(ref.runway).body.altitude;
+    slope.altitude = altitude;
     slope.range = kSlopeRange;
     slope.pitch = kSlopePitch;
     return slope;

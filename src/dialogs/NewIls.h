@@ -23,12 +23,13 @@ std::function<uint32_t()> SeededRandom();  // by the clock
 
 // The parts of the above that the editor needs too.
 model::GlideSlopePart UsualGlideSlope(const RunwayEndRef& ref);
+model::GlideSlopePart UsualGlideSlopeAt(model::EncodedPoint point, int32_t altitude);  // of the usual range and angle
 model::DmePart UsualDme(const model::GlideSlopePart& slope);
 
 // The beam width in degrees that makes the course 210 m wide at the landing threshold, kept within 3 to 6.
 double LocalizerWidth(const RunwayEndRef& ref, model::LatLon localizer);
 
-// An odd number of tenths from 108.1 to 111.9 MHz that no other ILS has, after at most 80 draws.
+// An odd number of tenths from 108.1 to 111.9 MHz: the first draw that no ILS in force has, or the last of 80 more.
 uint32_t DrawIlsFrequency(const std::function<uint32_t()>& random);
 
 }  // namespace dialogs

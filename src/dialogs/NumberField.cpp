@@ -183,6 +183,13 @@ bool ReadQuantity(const Quantity& quantity, const std::string& shown, const std:
     return true;
 }
 
+bool ReadField(const Quantity& quantity, const std::string& shown, const std::string& entered, Field field,
+               double* stored, BadField* bad) {
+    if (ReadQuantity(quantity, shown, entered, stored)) return true;
+    *bad = { field };
+    return false;
+}
+
 const char* UnitLabel(Unit unit) {
     if (unit == Unit::Range) return IsMetric(unit) ? "km" : "nm";
     return IsMetric(unit) ? "m" : "ft";

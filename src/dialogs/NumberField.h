@@ -52,6 +52,10 @@ std::string ShowNumber(const Quantity& quantity, double stored);
 // Shown and entered texts being the same leaves *stored alone. False after the message of a refusal.
 bool ReadQuantity(const Quantity& quantity, const std::string& shown, const std::string& entered, double* stored);
 
+// The same for the field of a dialog: a refusal sends the user back to it.
+bool ReadField(const Quantity& quantity, const std::string& shown, const std::string& entered, Field field,
+               double* stored, BadField* bad);
+
 // The unit's word behind a label: "ft" or "m", "nm" or "km".
 const char* UnitLabel(Unit unit);
 

@@ -4,6 +4,7 @@
 
 #include <functional>
 
+#include "map/Placing.h"
 #include "model/Geodesy.h"
 
 namespace dialogs {
@@ -15,9 +16,9 @@ struct OverMap {
 
 inline OverMap overMap;
 
-// A click on the map: true when a dialog is open, which then has it.
+// A click on the map: true when a dialog is open, which then has it. Beyond a pole there is no place to give it.
 inline bool TakeMapClick(model::LatLon at) {
-    if (overMap.open && overMap.clicked) overMap.clicked(at);
+    if (overMap.open && overMap.clicked && map::IsPlaceable(&at)) overMap.clicked(at);
     return overMap.open;
 }
 

@@ -59,9 +59,8 @@ std::string CodesText(const model::SceneryObject* spot) { return Joined(CodesOf(
 bool ReadCodes(const std::string& text, std::vector<std::string>* codes) {
     std::vector<std::string> read;
     for (const std::string& code : SplitCodes(text)) {
-        bool lossless = true;
-        std::string encoded = platform::Windows1252FromUtf8(platform::UpperCased(code), &lossless);
-        if (!lossless) {
+        std::string encoded;
+        if (!ToSceneryText(platform::UpperCased(code), &encoded)) {
             ShowError("The Parking Codes box contains a character that scenery files cannot hold");
             return false;
         }

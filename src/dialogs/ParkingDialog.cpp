@@ -81,17 +81,10 @@ struct ParkingChange {
     std::vector<std::string> codes;
 };
 
-bool ReadOne(const Quantity& quantity, const std::string& shown, const std::string& entered, Field field, double* value,
-             BadField* bad) {
-    if (ReadQuantity(quantity, shown, entered, value)) return true;
-    *bad = { field };
-    return false;
-}
-
 bool ReadChange(const ParkingFields& shown, const ParkingFields& entered, ParkingChange* change, BadField* bad) {
-    if (!ReadOne(kHeading, shown.heading, entered.heading, Field::Heading, &change->heading, bad)) return false;
-    if (!ReadOne(kNumber, shown.number, entered.number, Field::Number, &change->number, bad)) return false;
-    if (!ReadOne(kRadius, shown.radius, entered.radius, Field::Radius, &change->radius, bad)) return false;
+    if (!ReadField(kHeading, shown.heading, entered.heading, Field::Heading, &change->heading, bad)) return false;
+    if (!ReadField(kNumber, shown.number, entered.number, Field::Number, &change->number, bad)) return false;
+    if (!ReadField(kRadius, shown.radius, entered.radius, Field::Radius, &change->radius, bad)) return false;
     // The two decimals that the type brought stand for the exact default.
     if (entered.radius == DefaultRadiusText(entered.type))
         change->radius = map::DefaultSpotRadius(TypeCode(entered.type));

@@ -4,7 +4,6 @@
 
 #include <windows.h>
 
-#include "app/Settings.h"
 #include "dialogs/EditorWin.h"
 #include "dialogs/FieldTablesWin.h"
 #include "PlacesIds.h"
@@ -14,7 +13,7 @@ namespace dialogs {
 
 template <class Fields>
 void ShowPlace(HWND dialog, const FieldTable<Fields>& table, const Fields& fields) {
-    if (app::settings.metric) platform::SetFieldText(dialog, IDC_PLACE_ELEVATION_LABEL, "&Elevation (m ASL)");
+    LabelUnit(dialog, IDC_PLACE_ELEVATION_LABEL, "&Elevation (", Unit::Elevation, " ASL)");
     ShowPosition(dialog, IDC_PLACE_LATITUDE, IDC_PLACE_LONGITUDE, fields.position);
     ShowFields(dialog, table, fields);
 }

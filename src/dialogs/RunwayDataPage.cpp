@@ -156,9 +156,7 @@ void LoadDataPage(const SceneryObject* runway, RunwayFields* fields) {
         LoadBits(kPatternBits[end], body.pattern, &to);
         to.overrun = ShowNumber(kOverrun, PartAt(runway, kEndPlaces[end].blastPad).length);
         to.displaced = ShowNumber(kDisplaced, PartAt(runway, kEndPlaces[end].displaced).length);
-        uint32_t ident;
-        std::memcpy(&ident, runway->payload + kEndPlaces[end].ils, sizeof ident);
-        to.ilsIdent = model::UnpackIdent(ident);
+        to.ilsIdent = model::UnpackIdent(NamedIls(runway, end));
     }
 }
 

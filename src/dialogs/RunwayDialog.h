@@ -76,8 +76,8 @@ std::string NameOfEnd(const RunwayEndFields& fields, const SceneryObject* runway
 bool HasVasiUnit(const VasiFields& fields);
 
 // The user chooses a system where there was none: the other fields of the unit, if all are zero, become
-// those of a usual installation for a runway of that width.
-void ChooseVasiSystem(VasiFields* fields, int system, const std::string& runwayWidth);
+// those of a usual installation at that end of the runway as it is entered.
+void ChooseVasiSystem(VasiFields* fields, int system, const RunwayFields& runway, size_t end);
 
 // "Insert Runway": a provisional asphalt runway with the marks and lights of a visual one.
 SceneryObject* InsertRunway();

@@ -51,7 +51,7 @@ void ShowEndNames(const RunwayPages& pages, const SceneryObject* runway) {
 void OnVasiSystem(const RunwayPages& pages, int unit) {
     const HWND page = pages[RunwayPage::Vasi];
     VasiFields fields = ReadVasiUnit(page, unit);
-    ChooseVasiSystem(&fields, fields.system, platform::FieldText(pages[RunwayPage::Data], IDC_RUNWAY_WIDTH));
+    ChooseVasiSystem(&fields, fields.system, ReadRunwayPages(pages), static_cast<size_t>(unit / 2));
     ShowVasiUnit(page, unit, fields);
 }
 

@@ -12,9 +12,9 @@
 #include "dialogs/RunwayParts.h"
 #include "dialogs/RunwayPlaces.h"
 #include "dialogs/TextField.h"
-#include "model/DeleteRules.h"
 #include "model/Geodesy.h"
 #include "model/Ident.h"
+#include "model/IlsEnds.h"
 #include "model/Names.h"
 #include "model/ObjectList.h"
 #include "model/Positions.h"
@@ -45,9 +45,18 @@ bool StartsAt(const SceneryObject* start, EndDesignator end) {
            StartSuffix(record) == end.designator;
 }
 
+// Metres from where what serves the end stands: a localizer at the other one.
+double AwayFrom(const SceneryObject* object, const SceneryObject* runway, int end) {
+    const RunwayPlane plane = PlaneOf(runway);
+    const model::Point place = PlaceIn(plane, model::PositionOf(object));
+    const bool atBase = (end == kBaseEnd) != (KindOf(object) == model::kIls);
+    return std::hypot(place.x, place.y - (atBase ? -plane.halfLength : plane.halfLength));
+}
+
 void MovePoint(const RunwayPlane& from, const RunwayPlane& to, SceneryObject* draft, size_t offset) {
     model::EncodedPoint point;
     std::memcpy(&point, draft->payload + offset, sizeof point);
+    if (point.latitude == 0 && point.longitude == 0) return;  // a part that is flagged, but was never in the file
     model::Point place = PlaceIn(from, model::BglToLatLon({ point.latitude, point.longitude }));
     const double growth = to.halfLength - from.halfLength;
     place.y += place.y < 0 ? -growth : growth;
@@ -115,12 +124,25 @@ void RenameIls(SceneryObject* draft, EndDesignator from, EndDesignator to) {
 
 }  // namespace
 
+bool IsNearerToNamesake(const SceneryObject* object, const SceneryObject* runway, int end) {
+    const EndDesignator designator = DesignatorOf(runway, end);
+    const double distance = AwayFrom(object, runway, end);
+    for (auto* other = model::FirstOfKind(model::state.head, model::kRunway); other;
+         other = model::NextOfKind(other, model::kRunway)) {
+        for (int otherEnd = 0; otherEnd < 2; ++otherEnd) {
+            if (DesignatorOf(other, otherEnd) == designator && AwayFrom(object, other, otherEnd) < distance)
+                return true;
+        }
+    }
+    return false;
+}
+
 bool ServesEnd(const SceneryObject* ils, const SceneryObject* runway, int end) {
     const auto place = end == kBaseEnd ? model::RunwayEnd::Primary : model::RunwayEnd::Secondary;
     if (model::IlsBelongsTo(ils, runway, place)) return true;
-    uint32_t named;
-    std::memcpy(&named, runway->payload + kEndPlaces[end].ils, sizeof named);
-    if (named != 0 || !model::IsStock(ils) || !model::state.airport) return false;
+    if (NamedIls(runway, static_cast<size_t>(end)) != 0 || !model::IsStock(ils) || !model::MayServeUnnamedEnd(ils) ||
+        !model::state.airport)
+        return false;
     const auto& payload = model::PayloadAs<IlsPayload>(ils);
     return DesignatorOf(runway, end) ==
                EndDesignator{ payload.localizer.runwayNumber, payload.localizer.runwayDesignator } &&
@@ -131,9 +153,11 @@ bool ServesEnd(const SceneryObject* ils, const SceneryObject* runway, int end) {
 EndBelongings BelongingsOf(const SceneryObject* runway, int end) {
     EndBelongings found;
     for (SceneryObject* object = model::state.head; object; object = object->next) {
-        if (KindOf(object) == model::kIls && !model::IsReplacedStock(object) && ServesEnd(object, runway, end))
+        if (KindOf(object) == model::kIls && !model::IsReplacedStock(object) && ServesEnd(object, runway, end) &&
+            (NamedIls(runway, static_cast<size_t>(end)) != 0 || !IsNearerToNamesake(object, runway, end)))
             found.ils.push_back(object);
-        if (KindOf(object) == model::kStartLocation && StartsAt(object, DesignatorOf(runway, end)))
+        if (KindOf(object) == model::kStartLocation && StartsAt(object, DesignatorOf(runway, end)) &&
+            !IsNearerToNamesake(object, runway, end))
             found.starts.push_back(object);
     }
     return found;

@@ -8,14 +8,19 @@
 
 namespace dialogs {
 
-// What serves or stands at an end, of the runway as it is in the list.
+// What serves or stands at an end, of the runway as it is in the list. Where several ends have its name, what is tied
+// by the name alone counts with the nearest of them.
 struct EndBelongings {
     std::vector<SceneryObject*> ils, starts;
 };
 EndBelongings BelongingsOf(const SceneryObject* runway, int end);
 
+// Names of ends may occur twice, also on one runway: what only names its end is that of the nearer one. Whether a start
+// location, or the localizer of an ILS, stands nearer to another end of the same name.
+bool IsNearerToNamesake(const SceneryObject* object, const SceneryObject* runway, int end);
+
 // Whether an ILS serves the end: the runway names it, or it names the runway end and this airport. Unlike
-// the rule for deleting, a stock ILS may name the end too.
+// the rule for deleting, a stock ILS may name the end too, as long as no end names it.
 bool ServesEnd(const SceneryObject* ils, const SceneryObject* runway, int end);
 
 // Where the designators of the draft differ from the runway's: start locations and ILSs get the new ones,

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 #include "dialogs/Field.h"
 #include "dialogs/RunwayDialog.h"
@@ -24,6 +25,13 @@ inline constexpr RunwayEndPlaces kEndPlaces[2] = {
       offsetof(model::RunwayPayload, secondaryThreshold), offsetof(model::RunwayPayload, secondaryApproachLights),
       offsetof(model::RunwayPayload, secondaryLeftVasi), offsetof(model::RunwayPayload, secondaryRightVasi) },
 };
+
+// The packed ident of the ILS that the runway names for the end; 0 for none.
+inline uint32_t NamedIls(const SceneryObject* runway, size_t end) {
+    uint32_t ident;
+    std::memcpy(&ident, runway->payload + kEndPlaces[end].ils, sizeof ident);
+    return ident;
+}
 
 // The pages: each loads its fields and writes those that changed into the draft.
 void LoadDataPage(const SceneryObject* runway, RunwayFields* fields);

@@ -21,8 +21,11 @@ constexpr Quantity kOffset = { "VASI offset", Unit::Length, -1000, 1000 };
 constexpr Quantity kSpacing = { "VASI spacing", Unit::Length, 0, 1000 };
 constexpr Quantity kSlope = { "VASI slope", Unit::Degrees, 0, 90, 2 };
 
-// A PAPI as ICAO Annex 14 places it: 305 m (1000 ft) in, 15 m beside the edge, lamps 9 m apart.
+// A PAPI as ICAO Annex 14 places it: 305 m (1000 ft) past the threshold, 15 m beside the edge, lamps 9 m apart. The
+// bars of a VASI begin 500 ft past it and stand 700 ft apart (FAA JO 6850.2); its place is that of the last one.
 constexpr double kUsualDistance = 304.8, kUsualSideways = 15, kUsualSpacing = 9, kUsualSlope = 3;
+constexpr double kFirstBar = 152.4, kBarSpacing = 213.36;
+constexpr int kLastVasi = 6;  // the systems up to this one have bars, every second of them three
 
 VasiPart UnitAt(const SceneryObject* runway, size_t offset) {
     VasiPart unit;
@@ -45,13 +48,6 @@ VasiFields LoadUnit(const SceneryObject* runway, size_t offset) {
     return fields;
 }
 
-bool ReadOne(const Quantity& quantity, const std::string& shown, const std::string& entered, Field field, double* value,
-             BadField* bad) {
-    if (ReadQuantity(quantity, shown, entered, value)) return true;
-    bad->field = field;
-    return false;
-}
-
 void RemoveUnit(size_t offset, SceneryObject* draft) {
     const VasiPart absent = {};
     std::memcpy(draft->payload + offset, &absent, sizeof absent);
@@ -66,13 +62,13 @@ bool StoreUnit(const VasiFields& shown, const VasiFields& entered, size_t offset
     const VasiPart before = unit;
     const double half = model::PayloadAs<RunwayPayload>(draft).body.length / 2.0;
     double distance = 0, sideways = 0, spacing = 0, slope = 0;
-    if (!ReadOne(kDistance, shown.distance, entered.distance, Field::VasiDistance, &distance, bad) ||
-        !ReadOne(kOffset, shown.offset, entered.offset, Field::VasiOffset, &sideways, bad) ||
-        !ReadOne(kSpacing, shown.spacing, entered.spacing, Field::VasiSpacing, &spacing, bad) ||
-        !ReadOne(kSlope, shown.slope, entered.slope, Field::VasiSlope, &slope, bad))
+    if (!ReadField(kDistance, shown.distance, entered.distance, Field::VasiDistance, &distance, bad) ||
+        !ReadField(kOffset, shown.offset, entered.offset, Field::VasiOffset, &sideways, bad) ||
+        !ReadField(kSpacing, shown.spacing, entered.spacing, Field::VasiSpacing, &spacing, bad) ||
+        !ReadField(kSlope, shown.slope, entered.slope, Field::VasiSlope, &slope, bad))
         return false;
     if (entered.system >= 0 && entered.system != shown.system) unit.type = static_cast<uint16_t>(entered.system);
-    const bool placed = before.type == 0 && before.biasZ == 0 && unit.type != 0;  // its distance of 0 means 0
+    const bool placed = before.type == 0 && unit.type != 0;  // the place of what was no unit counts for nothing
     if (entered.distance != shown.distance || placed) unit.biasZ = static_cast<float>(half - distance);
     if (entered.offset != shown.offset) unit.biasX = static_cast<float>(sideways);
     if (entered.spacing != shown.spacing) unit.spacing = static_cast<float>(spacing);
@@ -92,13 +88,14 @@ void LoadVasiPage(const SceneryObject* runway, RunwayFields* fields) {
 
 bool StoreVasiPage(const RunwayFields& shown, const RunwayFields& entered, SceneryObject* draft, BadField* bad) {
     for (size_t end = 0; end < 2; ++end) {
-        const RunwayEndFields &was = shown.ends[end], &is = entered.ends[end];
-        bad->part = static_cast<int>(2 * end);
-        if (!StoreUnit(was.left, is.left, UnitOffset(end, false), draft, bad)) return false;
-        ++bad->part;
-        if (!StoreUnit(was.right, is.right, UnitOffset(end, true), draft, bad)) return false;
+        for (const bool right : { false, true }) {
+            const auto unit = right ? &RunwayEndFields::right : &RunwayEndFields::left;
+            const VasiFields &was = shown.ends[end].*unit, &is = entered.ends[end].*unit;
+            if (StoreUnit(was, is, UnitOffset(end, right), draft, bad)) continue;
+            bad->part = static_cast<int>(2 * end) + right;
+            return false;
+        }
     }
-    bad->part = 0;
     return true;
 }
 
@@ -117,20 +114,26 @@ void KeepVasiDistances(double oldLength, SceneryObject* draft) {
     }
 }
 
-void ChooseVasiSystem(VasiFields* fields, int system, const std::string& runwayWidth) {
+void ChooseVasiSystem(VasiFields* fields, int system, const RunwayFields& runway, size_t end) {
     const auto isZero = [](const std::string& text) {
         double number = 0;
         return ReadNumber(text, &number) && number == 0;
+    };
+    const auto metresIn = [](const std::string& text) {
+        double shown = 0;
+        ReadNumber(text, &shown);
+        return StoredNumber(kDistance, shown);
     };
     const bool untouched =
         isZero(fields->distance) && isZero(fields->offset) && isZero(fields->spacing) && isZero(fields->slope);
     fields->system = system;
     if (system <= 0 || !untouched) return;
-    double shownWidth = 0;
-    ReadNumber(runwayWidth, &shownWidth);
-    fields->distance = ShowNumber(kDistance, kUsualDistance);
-    fields->offset = ShowNumber(kOffset, StoredNumber(kOffset, shownWidth) / 2 + kUsualSideways);
-    fields->spacing = ShowNumber(kSpacing, kUsualSpacing);
+    const bool hasBars = system <= kLastVasi;
+    const double lastBar = kFirstBar + (system % 2 == 0 ? 2 : 1) * kBarSpacing;
+    fields->distance =
+        ShowNumber(kDistance, metresIn(runway.ends[end].displaced) + (hasBars ? lastBar : kUsualDistance));
+    fields->offset = ShowNumber(kOffset, metresIn(runway.width) / 2 + kUsualSideways);
+    fields->spacing = ShowNumber(kSpacing, hasBars ? kBarSpacing : kUsualSpacing);
     fields->slope = ShowNumber(kSlope, kUsualSlope);
 }
 

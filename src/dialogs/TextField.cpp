@@ -27,11 +27,16 @@ std::string ShowText(const char* text, size_t size) {
 
 bool IsBlank(std::string_view text) { return text.find_first_not_of(" \t") == std::string_view::npos; }
 
-bool EncodeText(const char* what, const std::string& entered, size_t most, std::string* encoded) {
+bool ToSceneryText(const std::string& entered, std::string* encoded) {
     bool lossless = true;
-    std::string text = platform::Windows1252FromUtf8(entered, &lossless);
-    const bool control = std::any_of(text.begin(), text.end(), [](char c) { return static_cast<uint8_t>(c) < ' '; });
-    if (!lossless || control) {
+    *encoded = platform::Windows1252FromUtf8(entered, &lossless);
+    const auto isControl = [](char c) { return static_cast<uint8_t>(c) < ' '; };
+    return lossless && std::none_of(encoded->begin(), encoded->end(), isControl);
+}
+
+bool EncodeText(const char* what, const std::string& entered, size_t most, std::string* encoded) {
+    std::string text;
+    if (!ToSceneryText(entered, &text)) {
         ShowError(std::string("The ") + what + " contains a character that scenery files cannot hold");
         return false;
     }

@@ -17,7 +17,10 @@ std::string ShowText(const char* text, size_t size);
 
 bool IsBlank(std::string_view text);  // empty or blanks only
 
-// The entered text in Windows-1252. Refused when it is longer than `most` characters or holds one that
+// The entered text in Windows-1252; false when it holds a character that scenery files cannot hold.
+bool ToSceneryText(const std::string& entered, std::string* encoded);
+
+// The same with messages. Refused when it is longer than `most` characters or holds one that
 // scenery files cannot hold; `what` is for example "name".
 bool EncodeText(const char* what, const std::string& entered, size_t most, std::string* encoded);
 

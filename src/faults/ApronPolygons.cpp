@@ -1,7 +1,7 @@
 // ApronPolygons.cpp - check 6: aprons whose edges cross.
 //
 // Strips across the apron, each with the edges that reach into it, keep the search for a crossing short: edges
-// that cross share a strip.
+// that cross share a strip. They lie along most of the edges, so that long parallel ones fall into strips of their own.
 #include <algorithm>
 #include <cmath>
 
@@ -24,7 +24,6 @@ struct Range {
 struct Edge {
     Point from, to;
     Range x, y;
-    Range Across(bool byX) const { return byX ? x : y; }
 };
 
 std::vector<Edge> EdgesOf(const std::vector<Point>& corners) {
@@ -38,11 +37,31 @@ std::vector<Edge> EdgesOf(const std::vector<Point>& corners) {
     return edges;
 }
 
+// Square to the direction in which the edges run for the most part: the axis of their squares.
+Point AcrossMostOf(const std::vector<Edge>& edges) {
+    double cosine = 0, sine = 0;  // of twice the angle, either way along an edge being the same
+    for (const Edge& edge : edges) {
+        const double dx = edge.to.x - edge.from.x, dy = edge.to.y - edge.from.y;
+        cosine += dx * dx - dy * dy;
+        sine += 2 * dx * dy;
+    }
+    const double angle = std::atan2(sine, cosine) / 2;
+    return { -std::sin(angle), std::cos(angle) };
+}
+
 struct Strips {
-    bool byX = true;  // strips side by side in x
+    Point across;  // unit vector from one strip to the next
     double low = 0, width = 1;
     std::vector<std::vector<uint32_t>> edges;  // in order
 };
+
+// How far the edge reaches across the strips, a hair more for what rounding takes away.
+Range Reach(const Edge& edge, Point across) {
+    constexpr double kHair = 1e-6;  // metres
+    const double from = edge.from.x * across.x + edge.from.y * across.y;
+    const double to = edge.to.x * across.x + edge.to.y * across.y;
+    return { std::min(from, to) - kHair, std::max(from, to) + kHair };
+}
 
 size_t StripAt(const Strips& strips, double value) {
     const double strip = (value - strips.low) / strips.width;
@@ -50,35 +69,45 @@ size_t StripAt(const Strips& strips, double value) {
 }
 
 // As wide as an edge is on average, so that an edge reaches into two strips on average.
-Strips MakeStrips(const std::vector<Edge>& edges, bool byX) {
+Strips MakeStrips(const std::vector<Edge>& edges, Point across) {
     Strips strips;
-    strips.byX = byX;
-    strips.low = edges[0].Across(byX).low;
+    strips.across = across;
+    strips.low = Reach(edges[0], across).low;
     double high = strips.low, sum = 0;
     for (const Edge& edge : edges) {
-        const Range range = edge.Across(byX);
-        strips.low = std::min(strips.low, range.low);
-        high = std::max(high, range.high);
-        sum += range.high - range.low;
+        const Range reach = Reach(edge, across);
+        strips.low = std::min(strips.low, reach.low);
+        high = std::max(high, reach.high);
+        sum += reach.high - reach.low;
     }
     const double count = static_cast<double>(edges.size());
-    const double extent = high - strips.low, average = std::max(sum / count, extent / count);
-    strips.width = average > 0 ? average : 1;
+    const double extent = high - strips.low;
+    strips.width = std::max(sum / count, extent / count);
     strips.edges.resize(static_cast<size_t>(std::min(extent / strips.width, count)) + 1);
     for (uint32_t i = 0; i < edges.size(); ++i) {
-        const Range range = edges[i].Across(byX);
-        for (size_t s = StripAt(strips, range.low); s <= StripAt(strips, range.high); ++s) strips.edges[s].push_back(i);
+        const Range reach = Reach(edges[i], across);
+        for (size_t s = StripAt(strips, reach.low); s <= StripAt(strips, reach.high); ++s) strips.edges[s].push_back(i);
     }
     return strips;
+}
+
+// Of several ways to lay them the one with the most strips.
+Strips BestStrips(const std::vector<Edge>& edges) {
+    Strips best = MakeStrips(edges, { 1, 0 });
+    for (const Point across : { Point{ 0, 1 }, AcrossMostOf(edges) }) {
+        Strips strips = MakeStrips(edges, across);
+        if (strips.edges.size() > best.edges.size()) best = std::move(strips);
+    }
+    return best;
 }
 
 // The first later edge that crosses edge i.
 size_t FirstCrossed(const std::vector<Edge>& edges, const Strips& strips, size_t i, Point* crossing) {
     const Edge& edge = edges[i];
-    const Range range = edge.Across(strips.byX);
+    const Range reach = Reach(edge, strips.across);
     const size_t end = i == 0 ? edges.size() - 1 : edges.size();  // the first and the closing edge share a corner
     size_t first = end;
-    for (size_t s = StripAt(strips, range.low); s <= StripAt(strips, range.high); ++s) {
+    for (size_t s = StripAt(strips, reach.low); s <= StripAt(strips, reach.high); ++s) {
         const std::vector<uint32_t>& list = strips.edges[s];
         for (auto j = std::lower_bound(list.begin(), list.end(), i + 2); j != list.end() && *j < first; ++j) {
             const Edge& other = edges[*j];
@@ -97,9 +126,7 @@ size_t FirstCrossed(const std::vector<Edge>& edges, const Strips& strips, size_t
 bool FindCrossing(const std::vector<Point>& corners, Point* crossing) {
     if (corners.size() < kFewestCorners) return false;
     const std::vector<Edge> edges = EdgesOf(corners);
-    Strips strips = MakeStrips(edges, true);
-    Strips others = MakeStrips(edges, false);
-    if (others.edges.size() > strips.edges.size()) strips = std::move(others);
+    const Strips strips = BestStrips(edges);
     for (size_t i = 0; i < edges.size(); ++i) {
         if (FirstCrossed(edges, strips, i, crossing) < edges.size()) return true;
     }

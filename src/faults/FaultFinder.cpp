@@ -45,7 +45,7 @@ void CloseFinder() {
 
 std::string FindFaults(const Switches& switches) {
     state.search.switches = switches;
-    map::DeselectAll();
+    if (map::DeselectAll()) platform::RequestRepaint();
     HideMarker();
     FaultReport report;
     switch (FindNextFault(&state.search, &report)) {

@@ -1,7 +1,7 @@
 // FaultSearch.cpp - the table of checks and what runs them.
 //
 // The airport is read once for each fresh start of a check; a check that goes on uses what was read then. That
-// holds because every edit changes the model's revision and so leads to a fresh start.
+// holds because every edit changes the model's edit mark and so leads to a fresh start.
 #include "faults/FaultSearch.h"
 
 #include <algorithm>
@@ -55,8 +55,8 @@ bool RunCheck(const Check& check, FaultSearch* search, FaultReport* report) {
 }
 
 void NoticeEdits(FaultSearch* search) {
-    if (search->lastEditMark == model::state.revision) return;
-    search->lastEditMark = model::state.revision;
+    if (search->lastEditMark == model::state.editMark) return;
+    search->lastEditMark = model::state.editMark;
     search->anyFaultFound = false;
     search->resumeCheck = false;  // the check that was reached stays
 }

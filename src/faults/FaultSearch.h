@@ -25,7 +25,7 @@ struct FaultSearch {
     int checkIndex = 0;          // the check that runs now; kCheckCount when all are done
     bool resumeCheck = false;    // it stopped at a fault and goes on there
     bool anyFaultFound = false;  // since the pass began
-    uint64_t lastEditMark = 0;   // model::state.revision at the last call
+    uint64_t lastEditMark = 0;   // model::state.editMark at the last call
     size_t resumeAt = 0;         // where the check goes on
     PassData data;
 };

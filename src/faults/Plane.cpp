@@ -33,6 +33,7 @@ double DistanceToSegment(Point point, Point from, Point to) {
 
 bool SegmentsCross(Point a, Point b, Point c, Point d, Point* crossing) {
     const double sideOfC = Side(a, b, c), sideOfD = Side(a, b, d);
+    if ((sideOfC > 0 && sideOfD > 0) || (sideOfC < 0 && sideOfD < 0)) return false;  // most pairs
     const double sideOfA = Side(c, d, a), sideOfB = Side(c, d, b);
     if (((sideOfC > 0 && sideOfD < 0) || (sideOfC < 0 && sideOfD > 0)) &&
         ((sideOfA > 0 && sideOfB < 0) || (sideOfA < 0 && sideOfB > 0))) {

@@ -1,5 +1,6 @@
 // StartLocations.cpp - check 4: runway ends without a start location of their name.
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <set>
 
@@ -24,6 +25,16 @@ std::set<std::string> ServedEnds(const Network& network) {
     return names;
 }
 
+// Where the start belongs. The length and heading of a damaged record may lead to no place on earth: the centre then.
+LatLon PlaceOf(const MissingStart& missing) {
+    const model::RunwayArea area = model::AreaOf(missing.runway);
+    const double length = double{ model::PayloadAs<model::RunwayPayload>(missing.runway).body.length };
+    const double heading = missing.atReciprocalEnd ? area.heading : area.heading + model::kPi;
+    const LatLon place = model::OffsetByPolar(area.centre, { length / 2 - kStartInset, heading });
+    const bool isOnEarth = std::fabs(place.lat) <= model::kPi / 2 && std::isfinite(place.lon);
+    return isOnEarth ? place : area.centre;
+}
+
 }  // namespace
 
 void PrepareStartLocations(PassData* data) {
@@ -44,16 +55,9 @@ void PrepareStartLocations(PassData* data) {
 bool FindMissingStart(const PassData& data, size_t from, Finding* finding) {
     if (from >= data.missingStarts.size()) return false;
     const MissingStart& missing = data.missingStarts[from];
-    const auto& body = model::PayloadAs<model::RunwayPayload>(missing.runway).body;
     char message[1000];
     std::snprintf(message, sizeof message, kBadStartMessage, missing.endName.c_str());
-    const model::RunwayArea area = model::AreaOf(missing.runway);
-    const double fromCentre = double{ body.length } / 2 - kStartInset;
-    const double heading = missing.atReciprocalEnd ? area.heading : area.heading + model::kPi;
-    finding->report = { FaultCheck::StartLocations,
-                        message,
-                        { missing.runway },
-                        model::OffsetByPolar(area.centre, { fromCentre, heading }) };
+    finding->report = { FaultCheck::StartLocations, message, { missing.runway }, PlaceOf(missing) };
     finding->mark = nullptr;
     finding->resumeAt = from + 1;
     return true;

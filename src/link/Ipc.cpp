@@ -50,13 +50,6 @@ void PutHeader(const Request& request, uint32_t offset) {
     Put32(request.place + 8, request.size);
 }
 
-bool FindServer() {
-    ipc.window = FindTopWindow(kInterfaceClass);
-    ipc.foundAsSimulator = !ipc.window;
-    if (!ipc.window) ipc.window = FindTopWindow(kSimulatorClass);
-    return ipc.window != 0;
-}
-
 IpcError OpenBlock() {
     char name[40];
     ++ipc.opens;
@@ -96,7 +89,8 @@ IpcError JudgeVersions(uint32_t wanted) {
 }
 
 IpcError OpenLink(uint32_t wanted) {
-    if (!FindServer()) return IpcError::NoServer;
+    ipc.window = FindServerWindow(&ipc.foundAsSimulator);
+    if (!ipc.window) return IpcError::NoServer;
     ipc.message = RegisterMessage(kMessageName);
     if (!ipc.message) return IpcError::NoMessage;
     IpcError error = OpenBlock();
@@ -153,6 +147,12 @@ const char* ErrorText(IpcError error) {
         "Read or Write request cannot be added, memory for Process is full",
     };
     return kTexts[static_cast<int>(error)];
+}
+
+Handle FindServerWindow(bool* asSimulator) {
+    const Handle window = FindTopWindow(kInterfaceClass);
+    *asSimulator = !window;
+    return window ? window : FindTopWindow(kSimulatorClass);
 }
 
 bool IpcOpen(uint32_t simulatorVersion, IpcError* error) {

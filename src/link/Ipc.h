@@ -4,7 +4,7 @@
 //
 // The block belongs to the server as much as to us and may come back with anything in it. So where each request lies
 // and where its answer goes is kept here; of the block itself only the answers are taken, and each of them only when
-// its header is still the one that was queued.
+// type, size and token in its header are still those that were queued.
 #pragma once
 
 #include <cstdint>
@@ -64,6 +64,9 @@ struct IpcState {
 };
 
 extern IpcState ipc;
+
+// The server's window, 0 when there is none; under the class of the interface, else under that of the simulator itself.
+Handle FindServerWindow(bool* asSimulator);
 
 // Version 0 accepts any simulator.
 bool IpcOpen(uint32_t simulatorVersion, IpcError* error);

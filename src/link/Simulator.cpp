@@ -25,8 +25,8 @@ uint64_t WaitAfterFailure() { return uint64_t{ kFirstWaitMs } << std::min(simula
 // Asked only after a failure: an attempt on a window that is known to hang would block for nothing.
 bool IsStillHanging() {
     if (simulator.failures == 0) return false;
-    Handle window = FindTopWindow("UIPCMAIN");
-    if (!window) window = FindTopWindow("FS98MAIN");
+    bool asSimulator = false;
+    const Handle window = FindServerWindow(&asSimulator);
     return window && IsNotResponding(window);
 }
 

@@ -73,7 +73,7 @@ bool FindExtents(Extent* latitudes, Extent* longitudes) {
     const double middle = view.centre.lon * kSecondsPerRadian;
     longitudes->low = std::max(longitudes->low, middle - 2 * kPole);
     longitudes->high = std::min(longitudes->high, middle + 2 * kPole);
-    return true;
+    return latitudes->low <= latitudes->high && longitudes->low <= longitudes->high;
 }
 
 Point OnScreen(double latitude, double longitude) {

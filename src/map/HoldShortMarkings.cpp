@@ -1,4 +1,4 @@
-// HoldShortMarkings.cpp - see HoldShort.h.
+// HoldShortMarkings.cpp - see HoldShortMarkings.h.
 //
 // The dashed bars lie on the side of the nearest runway; the node's reverse flag turns the marking round.
 // Dimensions follow FAA AC 150/5340-1. Seen from so far that the bars would run together, each group is
@@ -16,7 +16,7 @@ namespace map {
 
 namespace {
 
-constexpr double kFoot = 0.3048;
+constexpr double kFoot = model::kMetresPerFoot;
 constexpr double kClearBars = 1.5;   // pixels that a bar needs to be drawn by itself
 constexpr double kShortestDash = 3;  // pixels
 constexpr double kRungStep = 10 * kFoot;

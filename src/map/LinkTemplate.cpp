@@ -33,7 +33,8 @@ Patterns patterns;
 
 void UseLinkTemplate(const TaxiLinkPayload& link) {
     const uint32_t type = model::LinkTypeOf(link);
-    if (type == model::kRunwayLink) return;
+    const bool isTaxiway = type == model::kTaxiwayLink || type == model::kClosedLink;
+    if (!isTaxiway && !IsOnApron(type)) return;
     TaxiLinkPayload& pattern = IsOnApron(type) ? patterns.apron : patterns.taxiway;
     pattern = link;
     pattern.startIndex = pattern.endField = 0;

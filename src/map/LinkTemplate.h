@@ -10,7 +10,7 @@
 
 namespace map {
 
-// The pattern for links of its kind from now on. A runway link is no pattern.
+// The pattern for links of its kind from now on. A runway link is no pattern, nor is one of an unknown type.
 void UseLinkTemplate(const model::TaxiLinkPayload& link);
 void ForgetLinkTemplates();
 

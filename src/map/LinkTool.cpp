@@ -78,10 +78,11 @@ bool IsTooShort(const LinkEnd& to) {
            model::DistanceBetween(drag.from.position, to.position) < kNodeRadius;
 }
 
-// A release where the link began makes nothing: on the object itself, or within the node that would be made there.
+// A release where the link began makes nothing: on the object itself, beside it after a click on its rim, or within the
+// node that would be made there.
 bool IsBackAtStart(const LinkEnd& to, Pixel pointer) {
     if (to.object && (to.object == drag.from.object || to.object == MovingEnd())) return true;
-    if (drag.from.object && !drag.link) return false;
+    if (drag.from.object && !drag.link) return !to.object && !IsPulled(pressed, pointer);
     return !IsPulled(pressed, pointer) || IsTooShort(to);
 }
 

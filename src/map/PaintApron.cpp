@@ -19,6 +19,7 @@ constexpr int kVertexReach = 3;            // pixels from the middle of a vertex
 constexpr double kLightReach = 0.4;        // metres, radius of a lamp
 constexpr double kClosestLights = 6;       // pixels; closer ones are not told apart and not drawn
 constexpr double kLongestStrip = 200'000;  // metres; anything longer is a damaged record
+constexpr double kLeastSpacing = 0.01;     // metres; likewise anything closer: such lamps may be beyond counting
 
 bool IsWholeSelected(const SceneryObject* apron) {
     return model::IsSelected(apron) && (apron->flags & model::kWholeSelected) != 0;
@@ -86,7 +87,8 @@ void PaintStrip(const Painter& painter, const LightStrip& strip, bool selected, 
 // From its start, as far as they lie on the page.
 void PaintStripLamps(const Painter& painter, Point from, Point to, double spacing) {
     const double length = Length(to - from), step = spacing * painter.scale;
-    if (!(step >= kClosestLights) || !(length > 0) || length > kLongestStrip * painter.scale) return;
+    if (!(spacing >= kLeastSpacing) || !(step >= kClosestLights)) return;
+    if (!(length > 0) || length > kLongestStrip * painter.scale) return;
     const Point along = (to - from) * (1 / length);
     Point first = from, last = to;
     if (!CutToBox(painter.clip, &first, &last)) return;

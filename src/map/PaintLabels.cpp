@@ -3,6 +3,7 @@
 // A label stands on the right of its circle, or on another side where it would cover a neighbour. Where spots crowd
 // together on the screen, a label that would run into an earlier one is left out. Spots beside the page count too, so
 // that no label comes or goes while the map is moved.
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <cstring>
@@ -22,8 +23,9 @@ namespace {
 
 enum LabelMode { kNoLabels = 0, kTypeLabels = 1, kCodeLabels = 2 };  // the setting
 constexpr int kLabelHeight = 14, kLabelGap = 3;                      // pixels
-constexpr double kCharacterWidth = 7, kCellSize = 64;  // pixels; the width is near enough to keep labels apart
-constexpr double kFarOff = 100'000;                    // pixels beside the page: no label there matters
+constexpr double kCharacterWidth = 7;                                // pixels; near enough to keep labels apart
+constexpr double kCellSize = 64;                                     // pixels
+constexpr double kFarOff = 100'000;                                  // pixels beside the page: no label there matters
 constexpr double kCircleShare = 0.8, kRoomyCircle = 30,
                  kWidestCircle = 256;  // pixels; circles wider than that leave room inside
 
@@ -61,10 +63,11 @@ double RadiusOf(const TaxiHub& hub) {
     return ScaledPixels(double{ model::PayloadAs<model::ParkingSpotRecord>(hub.object).radius });
 }
 
-// Beside the circle: (1, 0) right, (-1, 0) left, (0, 1) below, (0, -1) above.
-Label LabelBeside(const TaxiHub& hub, const std::string& text, Point side) {
-    const Point half = { FromScreen(kCharacterWidth) * static_cast<double>(text.size()) / 2,
-                         FromScreen(kLabelHeight) / 2 };
+// Beside the circle: (1, 0) right, (-1, 0) left, (0, 1) below, (0, -1) above. The canvas may draw texts larger than a
+// screen's pixels ask for.
+Label LabelBeside(const Painter& painter, const TaxiHub& hub, const std::string& text, Point side) {
+    const double pixel = std::max(FromScreen(1), painter.canvas->textScale);
+    const Point half = { kCharacterWidth * pixel * static_cast<double>(text.size()) / 2, kLabelHeight * pixel / 2 };
     const double reach = RadiusOf(hub) + FromScreen(kLabelGap);
     const Point middle = hub.at + Point{ side.x * (reach + half.x), side.y * (reach + half.y) };
     return { text, middle, { middle.x - half.x, middle.y - half.y, middle.x + half.x, middle.y + half.y } };
@@ -97,6 +100,10 @@ void Take(TakenPlaces* places, const Box& box) {
     ForEachCell(box, [&](int64_t cell) { places->cells[cell].push_back(box); });
 }
 
+struct Room {
+    TakenPlaces spots, labels;
+};
+
 // The circles, somewhat smaller than they are: a label may touch the rim of a neighbour.
 TakenPlaces PlacesOfSpots(const Painter& painter) {
     TakenPlaces spots;
@@ -109,20 +116,20 @@ TakenPlaces PlacesOfSpots(const Painter& painter) {
     return spots;
 }
 
-bool FindPlace(const TakenPlaces& spots, const TakenPlaces& labels, const TaxiHub& hub, Label* label) {
+bool FindPlace(const Painter& painter, const Room& room, const TaxiHub& hub, Label* label) {
     const std::string text = TextOf(hub.object);
     if (text.empty()) return false;
     for (const Point side : { Point{ 1, 0 }, Point{ -1, 0 }, Point{ 0, 1 }, Point{ 0, -1 } }) {
-        *label = LabelBeside(hub, text, side);
-        if (!IsTaken(spots, label->box) && !IsTaken(labels, label->box)) return true;
+        *label = LabelBeside(painter, hub, text, side);
+        if (!IsTaken(room.spots, label->box) && !IsTaken(room.labels, label->box)) return true;
     }
     // Circles that lie on one another do so at any scale: once they are large, the label may cover a neighbour.
-    *label = LabelBeside(hub, text, { 1, 0 });
-    return RadiusOf(hub) >= FromScreen(kRoomyCircle) && !IsTaken(labels, label->box);
+    *label = LabelBeside(painter, hub, text, { 1, 0 });
+    return RadiusOf(hub) >= FromScreen(kRoomyCircle) && !IsTaken(room.labels, label->box);
 }
 
 void PaintLabel(const Painter& painter, const SceneryObject* spot, const Label& label) {
-    if (!Contains(painter.clip, { label.box.left, label.box.top })) return;
+    if (!Meets(label.box, painter.clip)) return;
     platform::TextRun run;
     run.text = label.text;
     // On the right the text begins at the circle however wide its letters are, on the left it ends there.
@@ -142,14 +149,13 @@ void PaintLabel(const Painter& painter, const SceneryObject* spot, const Label& 
 }  // namespace
 
 void PaintParkingLabels(Painter* painter) {
-    const TakenPlaces spots = PlacesOfSpots(*painter);
-    TakenPlaces labels;
+    Room room = { PlacesOfSpots(*painter), {} };
     for (const TaxiHub& hub : painter->network.hubs) {
         if (model::KindOf(hub.object) != model::kParkingSpot) continue;
         if (!Meets(BoundsOf(hub.at, 0), Grown(painter->clip, kFarOff, kFarOff))) continue;
         Label label;
-        if (!FindPlace(spots, labels, hub, &label)) continue;
-        Take(&labels, label.box);
+        if (!FindPlace(*painter, room, hub, &label)) continue;
+        Take(&room.labels, label.box);
         if (IsDrawn(hub.object)) PaintLabel(*painter, hub.object, label);
     }
 }

@@ -1,6 +1,7 @@
 // PaintMap.cpp - the order of the layers, and what they share.
 #include "map/PaintMap.h"
 
+#include <algorithm>
 #include <array>
 
 #include "app/Settings.h"
@@ -85,7 +86,8 @@ void FillOnly(const Painter& painter, Colour fill) {
 }
 
 void Stroke(const Painter& painter, int width, Colour colour) {
-    platform::SetPen(painter.canvas, width, colour);
+    constexpr int kWidest = platform::kNoPen - 1;  // one more would read as no pen
+    platform::SetPen(painter.canvas, std::min(width, kWidest), colour);
     platform::SetBrush(painter.canvas, platform::kNoBrush);
 }
 
@@ -128,7 +130,8 @@ void PaintPageMap(Canvas* canvas, int thinnestPen, const MapView& onScreen) {
 }
 
 void PaintFeedback(Canvas* canvas) {
-    if (simAircraft.active && !view.lockedToSim) PaintCrossHair(canvas);
+    // Without an airport the view shows no place that the aircraft could be at.
+    if (model::state.airport && simAircraft.active && !view.lockedToSim) PaintCrossHair(canvas);
     PaintToolFeedback(canvas);
 }
 

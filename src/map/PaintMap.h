@@ -19,7 +19,8 @@ void PaintMap(platform::Canvas* canvas);
 // and the hit tests read them.
 void PaintPageMap(platform::Canvas* canvas, int thinnestPen, const MapView& onScreen);
 
-// Draws what belongs on the window itself after the copy: the feedback of the active mouse tool.
+// Draws what belongs on the window itself after the copy: the aircraft while the map is not locked to it, and the
+// feedback of the active mouse tool.
 void PaintFeedback(platform::Canvas* canvas);
 void PaintToolFeedback(platform::Canvas* canvas);  // the tool's part of it
 

@@ -25,6 +25,7 @@ constexpr double kAntennaHalf = 22, kAntennaDepth = 3;   // metres: the row of a
 constexpr double kGlideSlopeReach = 18, kDmeReach = 11;  // metres from the middle to the corners
 constexpr double kMarkerLength = 70, kMarkerWidth = 28;  // half the lens of a marker beacon
 constexpr double kNdbRadius = 40, kVorRadius = 45;
+constexpr double kCornerReach = 1.42;            // of half a square's side, from the middle to a corner
 constexpr int kLeastSymbol = 9;                  // pixels
 constexpr int kLabelHeight = 13, kLabelGap = 3;  // pixels
 
@@ -36,6 +37,12 @@ std::vector<Pixel> ToPixels(std::span<const Point> points) {
     std::vector<Pixel> pixels;
     for (const Point& point : points) pixels.push_back(ToPixel(point));
     return pixels;
+}
+
+// Symbols without a course lie on the map as a chart prints them, north up: they turn with it.
+std::array<Point, 4> SquareAround(Point at, double half) {
+    const Point ahead = HeadingOnScreen(0) * half, side = TurnedRight(ahead);
+    return { at + ahead - side, at + ahead + side, at - ahead + side, at - ahead - side };
 }
 
 LatLon PositionOfCode(uint32_t latitude, uint32_t longitude) { return model::BglToLatLon({ latitude, longitude }); }
@@ -142,10 +149,8 @@ void PaintGlideSlope(const Painter& painter, const model::IlsPayload& ils, bool 
 
 void PaintDme(const Painter& painter, const model::DmePart& dme, bool selected, std::vector<Pixel>* place) {
     const Point at = WorldToScreen(PositionOfCode(dme.latitude, dme.longitude));
-    const double reach = SymbolReach(kDmeReach);
-    if (!Meets(BoundsOf(at, reach), painter.clip)) return;
-    const std::array corners = { at + Point{ -reach, -reach }, at + Point{ reach, -reach }, at + Point{ reach, reach },
-                                 at + Point{ -reach, reach } };
+    const auto corners = SquareAround(at, SymbolReach(kDmeReach));
+    if (!Meets(BoundsOf(corners), painter.clip)) return;
     *place = ToPixels(corners);
     Stroke(painter, 2, InkOf(selected ? Ink::SelectedFill : Ink::Navaid));
     FillPolygon(painter.canvas, corners);
@@ -205,8 +210,8 @@ void PaintNdb(const Painter& painter, SceneryObject* object) {
     } kRings[] = { { 0.4, 10 }, { 0.68, 16 }, { 0.95, 22 } };
     for (const auto& ring : kRings) {
         for (int i = 0; i < ring.dots; ++i) {
-            const double angle = model::kTwoPi * i / ring.dots;
-            FillCircle(painter.canvas, at + Point{ std::sin(angle), -std::cos(angle) } * (radius * ring.share), dot);
+            const Point outward = HeadingOnScreen(model::kTwoPi * i / ring.dots);
+            FillCircle(painter.canvas, at + outward * (radius * ring.share), dot);
         }
     }
     PaintIdent(painter, model::PayloadAs<model::NdbPayload>(object).ident, at, radius, colour);
@@ -217,26 +222,23 @@ void PaintVor(const Painter& painter, SceneryObject* object) {
     const auto& vor = model::PayloadAs<model::VorDmePayload>(object).body;
     const Point at = WorldToScreen(model::PositionOf(object));
     const double radius = SymbolReach(kVorRadius), half = std::floor(radius * 0.8);
-    if (!Meets(BoundsOf(at, radius), painter.clip)) return;
+    const double reach = vor.flags & model::kHasDme ? std::max(radius, half * kCornerReach) : radius;
+    if (!Meets(BoundsOf(at, reach), painter.clip)) return;
     PlaceCircle(object, ToPixel(at), static_cast<int32_t>(radius));
     const Colour colour = FillInk(object, Ink::Navaid);
     Stroke(painter, 2, colour);
-    if (vor.flags & model::kHasDme) {
-        const std::array square = { at + Point{ -half, -half }, at + Point{ half, -half }, at + Point{ half, half },
-                                    at + Point{ -half, half } };
-        FillPolygon(painter.canvas, square);
-    }
+    if (vor.flags & model::kHasDme) FillPolygon(painter.canvas, SquareAround(at, half));
     if (vor.flags & model::kHasVor) {
         std::array<Point, 6> hexagon;
         for (int i = 0; i < 6; ++i) {
-            const double angle = model::kTwoPi * i / 6;
-            hexagon[static_cast<size_t>(i)] = at + Point{ std::cos(angle), std::sin(angle) } * half;
+            const double east = model::kPi / 2;  // where the first corner lies
+            hexagon[static_cast<size_t>(i)] = at + HeadingOnScreen(east + model::kTwoPi * i / 6) * half;
         }
         FillPolygon(painter.canvas, hexagon);
     }
     FillOnly(painter, colour);
     FillCircle(painter.canvas, at, std::max(1.0, std::floor(radius * 0.1)));
-    PaintIdent(painter, vor.ident, at, radius, colour);
+    PaintIdent(painter, vor.ident, at, reach, colour);
 }
 
 void PaintNavaid(const Painter& painter, SceneryObject* object) {

@@ -93,8 +93,7 @@ void PaintClosedCross(const Painter& painter, Point from, Point to) {
     }
 }
 
-void PaintLink(const Painter& painter, const TaxiSegment& segment) {
-    const Point from = painter.network.hubs[segment.startHub].at, to = painter.network.hubs[segment.endHub].at;
+void PaintLinkLine(const Painter& painter, const TaxiSegment& segment, Point from, Point to) {
     const std::array ends = { from, to };
     if (!Meets(BoundsOf(ends), painter.clip)) return;
     SceneryObject* link = segment.object;
@@ -104,6 +103,12 @@ void PaintLink(const Painter& painter, const TaxiSegment& segment) {
     Stroke(painter, ScaledPixels(kLinkWidth),
            FillInk(link, highlighted ? Ink::HighlightedLink : LinkInk(segment.type)));
     StrokeLine(painter.canvas, from, to);
+}
+
+// The cross reaches farther than the line: it may be seen where the line is not.
+void PaintLink(const Painter& painter, const TaxiSegment& segment) {
+    const Point from = painter.network.hubs[segment.startHub].at, to = painter.network.hubs[segment.endHub].at;
+    PaintLinkLine(painter, segment, from, to);
     if (segment.type == model::kClosedLink) PaintClosedCross(painter, from, to);
 }
 

@@ -107,6 +107,8 @@ void PaintTitle(platform::Canvas* canvas, const PrintPage& page, const PrintSett
 
 }  // namespace
 
+bool IsPaperMetric(std::string_view measure) { return measure == "0"; }
+
 Paper UsualPaper(bool metric) {
     if (metric) return { true, 21.0, 29.7, 2.5, 2.5, 2.5, 2.5 };
     return { false, 8.5, 11, 1, 1, 1, 1 };
@@ -125,6 +127,12 @@ Paper PaperFrom(const PageSetupRecord& record, bool metric) {
     paper.right = record.right * kThousandth;
     paper.bottom = record.bottom * kThousandth;
     return paper;
+}
+
+PageSetupRecord RecordOf(const Paper& paper) {
+    const auto thousandths = [](double length) { return static_cast<int32_t>(std::llround(length / kThousandth)); };
+    return { thousandths(paper.width), thousandths(paper.height), thousandths(paper.left),
+             thousandths(paper.top),   thousandths(paper.right),  thousandths(paper.bottom) };
 }
 
 void TakeSheetOf(const PrintDevice& device, Paper* paper) {

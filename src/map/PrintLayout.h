@@ -48,6 +48,9 @@ struct PrintPage {
     int titleHeight = -10;  // of its letters; negative, as platform::TextRun has it
 };
 
+// By the system's number of its measure: "0" is the metric one.
+bool IsPaperMetric(std::string_view measure);
+
 Paper UsualPaper(bool metric);  // A4 or Letter with margins of 2.5 centimetres or an inch
 
 // From what the system's page setup tells: thousandths of the paper unit. A printer that is unsure of its paper or margins
@@ -56,6 +59,7 @@ struct PageSetupRecord {
     int32_t width = 0, height = 0, left = 0, top = 0, right = 0, bottom = 0;
 };
 Paper PaperFrom(const PageSetupRecord& record, bool metric);
+PageSetupRecord RecordOf(const Paper& paper);
 
 // The sheet may be another one than the page setup knew, when it was chosen with the printer.
 void TakeSheetOf(const PrintDevice& device, Paper* paper);

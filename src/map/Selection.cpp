@@ -39,14 +39,24 @@ void ClearParts(SceneryObject* object) {
     }
 }
 
+uint8_t ExistingPartsOf(const SceneryObject* ils) {
+    const uint8_t flags = PayloadAs<IlsPayload>(ils).body.flags;
+    int parts = kLocalizerPart;
+    if (flags & model::kHasGlideSlope) parts |= kGlideSlopePart;
+    if (flags & model::kHasDme) parts |= kDmePart;
+    return static_cast<uint8_t>(parts);
+}
+
 // A wholly selected ILS counts as having all its parts.
 uint8_t SelectedPartsOf(const SceneryObject* ils) {
+    if (!model::IsSelected(ils)) return 0;
     return ils->flags & kWholeSelected ? kAllIlsParts : PayloadAs<IlsPayload>(ils).selectedParts;
 }
 
+// Of all parts that were selected at once those that it does not have are dropped: no click could take them out.
 void SelectIlsPart(SceneryObject* ils, int part, bool toggle) {
     const auto bit = static_cast<uint8_t>(part);
-    const uint8_t parts = SelectedPartsOf(ils);
+    const auto parts = static_cast<uint8_t>(SelectedPartsOf(ils) & ExistingPartsOf(ils));
     const auto now = static_cast<uint8_t>(toggle ? parts ^ bit : parts | bit);
     PayloadAs<IlsPayload>(ils).selectedParts = now;
     SetFlag(ils, kWholeSelected, false);
@@ -66,9 +76,24 @@ void SelectApronPart(SceneryObject* apron, int part, bool toggle) {
     SetFlag(apron, kSelected, AnyVertexSelected(apron));
 }
 
+bool IsSegment(int part) { return (part - 1) % kStripParts == static_cast<int>(StripPart::Segment); }
+
+// What is wholly selected is selected by all its points: a segment is taken out with both of its ends.
+void TakeOutOfWhole(SceneryObject* lights, int part) {
+    SelectAllStripPoints(lights);
+    SelectStripPart(lights, part, false);
+    if (!IsSegment(part)) return;
+    const auto strip = static_cast<uint32_t>((part - 1) / kStripParts);
+    SelectStripPart(lights, PartNumber(strip, StripPart::Start), false);
+    SelectStripPart(lights, PartNumber(strip, StripPart::End), false);
+}
+
 void SelectStrip(SceneryObject* lights, int part, bool toggle) {
+    if (toggle && (lights->flags & kWholeSelected) != 0)
+        TakeOutOfWhole(lights, part);
+    else
+        SelectStripPart(lights, part, !(toggle && IsStripPartSelected(lights, part)));
     SetFlag(lights, kWholeSelected, false);
-    SelectStripPart(lights, part, !(toggle && IsStripPartSelected(lights, part)));
     SetFlag(lights, kSelected, AnyStripPartSelected(lights));
 }
 

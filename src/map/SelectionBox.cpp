@@ -145,7 +145,7 @@ void SelectIls(SceneryObject* ils, const BoxCorners& box) {
     }
     if (found == 0) return;
     auto& selected = PayloadAs<model::IlsPayload>(ils).selectedParts;
-    selected = static_cast<uint8_t>(selected | found);
+    selected = static_cast<uint8_t>((model::IsSelected(ils) ? selected : 0) | found);
     Select(ils);
 }
 
@@ -211,7 +211,10 @@ void SelectInside(const BoxCorners& box) {
 
 }  // namespace
 
-void BeginBox(Pixel press) { state = { true, UnderPixel(press) }; }
+void BeginBox(Pixel press) {
+    state = { true, UnderPixel(press) };
+    model::state.busy = true;
+}
 
 BoxCorners CornersOfBox(Pixel pointer) {
     const Pixel from = ToPixel(WorldToScreen(state.from) + Point{ 0.5, 0.5 });
@@ -226,7 +229,10 @@ void FinishBox(Pixel pointer) {
     platform::RequestRepaint();
 }
 
-void CancelBox() { state = {}; }
+void CancelBox() {
+    if (state.open) model::state.busy = false;
+    state = {};
+}
 
 bool IsBoxOpen() { return state.open; }
 

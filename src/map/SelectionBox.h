@@ -5,6 +5,7 @@
 
 namespace map {
 
+// A drag like the others: until it is finished or cancelled nothing else may change the airport.
 void BeginBox(model::Pixel press);     // held to the ground there when the map scrolls
 void FinishBox(model::Pixel pointer);  // adds what lies inside to the selection, in sight or not
 void CancelBox();

@@ -140,7 +140,7 @@ int32_t ToWhole(double value) {
 Pixel ToPixel(Point point) { return { ToWhole(point.x), ToWhole(point.y) }; }
 
 int ScaledPixels(double metres) {
-    constexpr int kMost = 0xFFFF;  // one more would read as "no pen"
+    constexpr auto kMost = static_cast<int>(kSafeReach);
     return std::clamp(ToWhole(metres * view.pixelsPerMetre + 0.5), 1, kMost);
 }
 

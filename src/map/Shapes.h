@@ -26,7 +26,7 @@ constexpr double kSafeReach = 1 << 24;  // no coordinate handed to a canvas is f
 int32_t ToWhole(double value);
 Pixel ToPixel(Point point);
 
-// Metres at the scale of the view in whole pixels: half added and truncated, at least 1.
+// Metres at the scale of the view in whole pixels: half added and truncated, at least 1 and at most the reach above.
 int ScaledPixels(double metres);
 
 // What is so many pixels long on a screen, on the page that is painted: the same there, more on a fine printer.

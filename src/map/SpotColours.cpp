@@ -13,11 +13,14 @@ namespace {
 
 using model::kParkingCodeSize;
 
-// The code of a spot, zero padded there, as ParkingSpecs.txt spells it.
+// Users write codes in ParkingSpecs.txt as they like; what they give to a spot from there is in upper case.
+std::string KeyOf(const std::string& code) { return platform::UpperCased(code); }
+
+// The code of a spot, which is zero padded there, as a key.
 std::string CodeOf(const model::SceneryObject* spot, uint32_t number) {
     char code[kParkingCodeSize + 1] = {};
     std::memcpy(code, spot->payload + sizeof(model::ParkingSpotRecord) + number * kParkingCodeSize, kParkingCodeSize);
-    return platform::Utf8FromWindows1252(code);
+    return KeyOf(platform::Utf8FromWindows1252(code));
 }
 
 uint32_t CodeCount(const model::SceneryObject* spot) {
@@ -42,11 +45,11 @@ SpecIndex IndexSpecs() {
         if (spec.codes.empty()) continue;
         std::string codes;
         for (const std::string& code : spec.codes) {
-            codes = Joined(codes, code);
-            index.byAnyCode.emplace(code, &spec);
+            codes = Joined(codes, KeyOf(code));
+            index.byAnyCode.emplace(KeyOf(code), &spec);
         }
         index.byCodes.emplace(codes, &spec);
-        index.byFirstCode.emplace(spec.codes.front(), &spec);
+        index.byFirstCode.emplace(KeyOf(spec.codes.front()), &spec);
     }
     return index;
 }
@@ -63,8 +66,9 @@ const app::ParkingSpec* SpecOfSpot(const SpecIndex& index, const model::SceneryO
 }
 
 Colour ColourOfSpec(const app::ParkingSpec& spec) {
-    if (layers.lights) return platform::Rgb(spec.halfRed, spec.halfGreen, spec.halfBlue);
-    return platform::Rgb(spec.red, spec.green, spec.blue);
+    const Colour colour = layers.lights ? platform::Rgb(spec.halfRed, spec.halfGreen, spec.halfBlue)
+                                        : platform::Rgb(spec.red, spec.green, spec.blue);
+    return colour == platform::kNoBrush ? colour + 1 : colour;  // the shade of black that would fill nothing
 }
 
 }  // namespace map

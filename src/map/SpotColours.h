@@ -10,7 +10,7 @@
 
 namespace map {
 
-// The parking specs by their codes; the first of a file goes before the others.
+// The parking specs by their codes, without regard to case; the first of a file goes before the others.
 struct SpecIndex {
     std::unordered_map<std::string, const app::ParkingSpec*> byCodes, byFirstCode, byAnyCode;
 };

@@ -5,6 +5,7 @@
 
 #include "map/ApronTool.h"
 #include "map/EdgeLightsTool.h"
+#include "map/LightStrips.h"
 #include "map/LinkTool.h"
 #include "map/MapHost.h"
 #include "map/MapView.h"
@@ -103,6 +104,12 @@ void Follow(Pixel at) {
     Row().follow(at);
 }
 
+bool IsStripSelected(const Pick& pick) {
+    if (pick.object->flags & model::kWholeSelected) return true;
+    const LightStrip strip = StripAt(pick.object, static_cast<uint32_t>((pick.part - 1) / kStripParts));
+    return strip.segmentSelected || strip.startSelected || strip.endSelected;
+}
+
 // A drag at the edge of the map takes the map along.
 bool Scroll() {
     const Pixel at = tools.cursor;
@@ -175,7 +182,14 @@ void OnDoubleClick(Pixel at, KeyState keys) {
     const Pick pick = tools.toolMode == Tool::Pointer ? PickObject(at) : Pick{};
     if (!pick.object) return OnButtonDown(at, keys);
     CancelDrag();
+    SelectStripAt(at, keys.shift || keys.ctrl);  // the first press with Shift may have taken it out of the selection
     OpenProperties(pick.object);
+}
+
+void SelectStripAt(Pixel at, bool extend) {
+    const Pick pick = PickObject(at);
+    if (!pick.object || model::KindOf(pick.object) != model::kApronEdgeLights) return;
+    if (!IsStripSelected(pick)) SelectAt(at, extend);
 }
 
 void OnMiddleDown(Pixel at) {
@@ -208,7 +222,7 @@ void DropDrawing(bool underWay) {
 bool CanEscape() { return (tools.pressed && Row().drags) || HasOutline(); }
 
 void Escape() {
-    if (tools.pressed) return CancelDrag();
+    if (tools.pressed && Row().drags) return CancelDrag();
     if (CanCloseOutline()) return CloseOutline();
     DropOutline();
 }

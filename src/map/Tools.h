@@ -60,6 +60,10 @@ void OnDoubleClick(model::Pixel at, KeyState keys);  // in place of the second p
 void OnMiddleDown(model::Pixel at);
 void OnMiddleUp();
 
+// Before the properties of what lies there: all strips of light are one object, and of these the one that was hit is
+// meant. It is selected unless a part of it is; `extend` (Shift or Ctrl held) keeps the others selected.
+void SelectStripAt(model::Pixel at, bool extend);
+
 // The drag timer: at the edge of the map the view moves on, and the drag with it.
 void OnDragTimer();
 

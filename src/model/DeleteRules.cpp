@@ -10,11 +10,13 @@
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 #include <vector>
 
 #include "model/EdgeLights.h"
 #include "model/EditHistory.h"
 #include "model/Ident.h"
+#include "model/IlsEnds.h"
 #include "model/Links.h"
 #include "model/ObjectList.h"
 #include "model/Records.h"
@@ -110,17 +112,32 @@ void ForgetDesignator(const SceneryObject* designator, Deletion* deletion) {
     }
 }
 
+// What the end names when the ILS goes. A replacement hands its end over to the stock object, unless the user has moved
+// it to another end: then `home`, which the stock object serves, gets the name back.
+uint32_t NameWithout(const SceneryObject* ils, const IlsEnd& end, const IlsEnd& home) {
+    const uint32_t named = IlsNamedBy(end.runway, end.end);
+    const bool served = named != 0 && IlsBelongsTo(ils, end.runway, end.end);
+    if (named != 0 && !served) return named;
+    const bool handedOver = home.runway ? end == home : served;
+    return handedOver && ils->related ? PayloadAs<IlsPayload>(ils->related).body.ident >> kIdentShift : 0;
+}
+
 // Runways no longer name an ILS that goes; where it replaced a stock one they name that one again. A runway
-// that goes with its ILS stays as it is.
+// that goes with its ILS stays as it is. All are judged before the first one changes: whose an ident is that several
+// ILSs share shows in what every end names.
 void ForgetIls(const SceneryObject* ils, const SceneryObject* leaving, Deletion* deletion) {
-    const uint32_t ident = ils->related ? PayloadAs<IlsPayload>(ils->related).body.ident >> kIdentShift : 0;
+    const IlsEnd home = ils->related && !HasStockEnd(ils) ? EndByPlace(ils->related) : IlsEnd{};
+    std::vector<std::pair<SceneryObject*, SceneryObject*>> edits;
     for (SceneryObject* runway = FirstOfKind(state.head, kRunway); runway; runway = NextOfKind(runway, kRunway)) {
         if (runway == leaving) continue;
         SceneryObject* edited = CopyObject(runway);
         RunwayRecord& body = PayloadAs<RunwayPayload>(edited).body;
-        if (body.primaryIls != 0 && IlsBelongsTo(ils, runway, RunwayEnd::Primary)) body.primaryIls = ident;
-        if (body.secondaryIls != 0 && IlsBelongsTo(ils, runway, RunwayEnd::Secondary)) body.secondaryIls = ident;
-        if (std::memcmp(edited->payload, runway->payload, sizeof body) != 0)
+        body.primaryIls = NameWithout(ils, { runway, RunwayEnd::Primary }, home);
+        body.secondaryIls = NameWithout(ils, { runway, RunwayEnd::Secondary }, home);
+        edits.emplace_back(edited, runway);
+    }
+    for (const auto& [edited, runway] : edits) {
+        if (std::memcmp(edited->payload, runway->payload, sizeof(RunwayRecord)) != 0)
             Change(edited, runway, deletion);
         else
             FreeObject(edited);
@@ -230,34 +247,7 @@ void DeleteByKind(SceneryObject* object, Deletion* deletion) {
     }
 }
 
-bool LocalizerNames(const SceneryObject* ils, const RunwayRecord& body, RunwayEnd end) {
-    const LocalizerPart localizer = PayloadAs<IlsPayload>(ils).localizer;
-    const bool primary = end == RunwayEnd::Primary;
-    return localizer.runwayNumber == (primary ? body.primaryNumber : body.secondaryNumber) &&
-           localizer.runwayDesignator == (primary ? body.primaryDesignator : body.secondaryDesignator);
-}
-
-// New ILSs start with one ident: whether the localizer names an end that names the ident.
-bool LocalizerNamesOther(const SceneryObject* ils, uint32_t ident) {
-    for (SceneryObject* runway = FirstOfKind(state.head, kRunway); runway; runway = NextOfKind(runway, kRunway)) {
-        const RunwayRecord& body = PayloadAs<RunwayPayload>(runway).body;
-        if (body.primaryIls == ident && LocalizerNames(ils, body, RunwayEnd::Primary)) return true;
-        if (body.secondaryIls == ident && LocalizerNames(ils, body, RunwayEnd::Secondary)) return true;
-    }
-    return false;
-}
-
 }  // namespace
-
-bool IlsBelongsTo(const SceneryObject* ils, const SceneryObject* runway, RunwayEnd end) {
-    const IlsPayload& payload = PayloadAs<IlsPayload>(ils);
-    const RunwayRecord& body = PayloadAs<RunwayPayload>(runway).body;
-    const uint32_t named = end == RunwayEnd::Primary ? body.primaryIls : body.secondaryIls;
-    const uint32_t ident = payload.body.ident >> kIdentShift;
-    if (named != 0) return named == ident && (LocalizerNames(ils, body, end) || !LocalizerNamesOther(ils, ident));
-    return !IsStock(ils) && state.airport && LocalizerNames(ils, body, end) &&
-           RegionWordNamesAirport(payload.body.region, PayloadAs<AirportRecord>(state.airport).ident);
-}
 
 int DeleteSelected() {
     if (state.busy) return 0;

@@ -82,6 +82,7 @@ void Record(SceneryObject* entry, HistoryOperation operation) {
     state.groupStart = false;
     FreeChain(&state.redoHead);
     state.modified = true;
+    ++state.editMark;
 }
 
 // Puts an object that carries its neighbours back between them.
@@ -186,6 +187,7 @@ void Undo() {
     if (state.busy) return;
     const ProvisionalAside aside;
     while (state.undoHead) {
+        ++state.editMark;
         SceneryObject* entry = Pop(&state.undoHead);
         const bool startsGroup = StartsGroup(entry);
         switch (OperationOf(entry)) {
@@ -203,6 +205,7 @@ void Redo() {
     if (state.busy) return;
     const ProvisionalAside aside;
     while (state.redoHead) {
+        ++state.editMark;
         SceneryObject* entry = Pop(&state.redoHead);
         switch (OperationOf(entry)) {
         case kOpDeleted: ReplayOutOfList(entry, &state.undoHead); break;

@@ -15,12 +15,9 @@ constexpr double kLatUnitsPerQuarter = 268435456.0;  // 2^28 from pole to equato
 constexpr double kLonUnitsPerHalf = 402653184.0;     // 3 x 2^27 in half a turn
 constexpr double kPoleCosine = 1e-6;
 
-double ClampedAcos(double cosine) {
-    if (cosine > 1) return 0;
-    if (cosine < -1) return kPi;
-    const double angle = std::acos(cosine);
-    return std::isnan(angle) ? 0 : angle;
-}
+// Of a great circle. By half angles, as in the haversine formula: the cosine of an angle as small as those of an
+// airport tells it to 0.1 m only. More than 1 is half a turn, no number is 0.
+double AngleOfHalfSine(double sine) { return std::isnan(sine) ? 0 : 2 * std::asin(std::min(1.0, std::fabs(sine))); }
 
 // What is no number is 0.
 uint32_t Code(double units, double most) { return units > 0 ? static_cast<uint32_t>(std::min(units, most)) : 0; }
@@ -35,9 +32,7 @@ Local LatLonToLocal(LatLon origin, LatLon point) {
         dLon += kTwoPi;
     Local offset;
     offset.north = (point.lat - origin.lat) * kNorthSouthRadius;
-    if (dLon == 0) return offset;  // acos would give up to 0.13 m here
-    const double cosine = Square(std::sin(point.lat)) + Square(std::cos(point.lat)) * std::cos(dLon);
-    offset.east = ClampedAcos(cosine) * kEastWestRadius;
+    offset.east = AngleOfHalfSine(std::cos(point.lat) * std::sin(dLon / 2)) * kEastWestRadius;
     if (dLon > 0) offset.east = -offset.east;  // west of the origin
     return offset;
 }
@@ -47,10 +42,7 @@ LatLon LocalToLatLon(LatLon origin, Local offset) {
     point.lat = origin.lat + offset.north / kNorthSouthRadius;
     const double angle = std::fabs(offset.east) / kEastWestRadius;
     const double cosLat = std::cos(point.lat);
-    double change = 0;
-    if (cosLat >= kPoleCosine) {
-        change = ClampedAcos((std::cos(angle) - Square(std::sin(point.lat))) / Square(cosLat));
-    }
+    const double change = cosLat < kPoleCosine ? 0 : AngleOfHalfSine(std::sin(angle / 2) / cosLat);
     point.lon = offset.east >= 0 ? origin.lon - change : origin.lon + change;
     return point;
 }

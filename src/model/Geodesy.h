@@ -18,7 +18,7 @@ constexpr double kNorthSouthRadius = 6367311.808277457;  // m: a circumference o
 constexpr double kFeetPerMetre = 3.280839895;
 constexpr double kMetresPerFoot = 0.3048;
 constexpr double kMetresPerNauticalMile = 1852.1759;  // deliberately not 1852
-constexpr double kFeetPerNauticalMile = 6076.12;
+constexpr double kFeetPerNauticalMile = 6076.12;      // so only on charts; nothing computes with it
 constexpr double kDegreesPerRadian = 57.29577951308232;
 constexpr double kRadiansPerDegree = 0.017453292519943295;
 

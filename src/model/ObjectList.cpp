@@ -42,9 +42,12 @@ void ClearModel() {
         FreeObject(object);
     }
     ReleaseBlocks();
-    const uint64_t revision = state.revision + 1;
+    const uint64_t revision = state.revision + 1, editMark = state.editMark + 1;
+    const EdgeLightDefaults edgeLights = state.edgeLights;
     state = ModelState{};
     state.revision = revision;
+    state.editMark = editMark;
+    state.edgeLights = edgeLights;  // the user's, as the patterns of new links are
 }
 
 std::string AirportName() {

@@ -18,7 +18,7 @@
 
 namespace model {
 
-// How the lamps of new strips of apron edge lights stand; kept while the airport is open, in no record.
+// How the lamps of new strips of apron edge lights stand; kept until the program ends, in no record.
 struct EdgeLightDefaults {
     bool adjust = false;            // every strip ends at a lamp
     double optimumSpacing = 60.96;  // metres (200 ft), the stock value
@@ -47,9 +47,11 @@ struct ModelState {
     SceneryObject* provisional = nullptr;  // of an open dialog: at the end of the list, unknown to the history
     std::vector<MovedPoint> moved;         // by an open dialog, unknown to the history
     bool modified = false;
-    bool loaded = false;    // an airport is open
-    bool busy = false;      // a mouse drag is in progress
-    uint64_t revision = 0;  // grows with every edit, undo and redo and with every other airport; never falls back
+    bool loaded = false;  // an airport is open
+    bool busy = false;    // a mouse drag is in progress
+    // Both grow with every edit, undo and redo and with every other airport, and never fall back. The revision also
+    // grows with what an open dialog shows for the time being.
+    uint64_t revision = 0, editMark = 0;
 };
 
 extern ModelState state;
@@ -59,7 +61,8 @@ void AppendObject(SceneryObject* object);
 // Takes the object out of the list. Its own next and prev stay: the history relies on them.
 void UnlinkObject(SceneryObject* object);
 
-// Frees every object of the list and of both history chains and returns the state to its start.
+// Frees every object of the list and of both history chains and returns the state to its start. How new strips of lights
+// are made stays.
 void ClearModel();
 
 // The airport's name without its padding, Windows-1252.

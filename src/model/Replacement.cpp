@@ -4,6 +4,7 @@
 #include <cassert>
 
 #include "model/EditHistory.h"
+#include "model/Records.h"
 
 namespace model {
 
@@ -14,6 +15,7 @@ void ReplaceStock(SceneryObject* edited, SceneryObject* stock) {
     AddObject(edited);
     SceneryObject* tied = CopyObject(stock);
     tied->flags &= ~(kSelected | kWholeSelected);
+    if (KindOf(tied) == kIls) PayloadAs<IlsPayload>(tied).selectedParts = 0;
     tied->related = edited;
     ModifyObject(tied, stock);
 }

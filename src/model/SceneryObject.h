@@ -30,7 +30,7 @@ enum Kind : uint32_t {
     kVorDme = 19,
 };
 
-// Bits of the flags word.
+// Bits of the flags word. A new outline lives in its tool's state: kOutlineOpen is only honoured.
 constexpr uint32_t kKindMask = 0x1F;
 constexpr uint32_t kSelected = 0x20;
 constexpr uint32_t kWholeSelected = 0x40;  // every part counts as selected

@@ -63,7 +63,8 @@ struct Canvas {
     const CanvasCalls* calls = nullptr;
     int penWidth = -1;  // nothing selected yet
     Colour penColour = 0;
-    int thinnestPen = 1;  // thinner pens become so wide: on a fine printer one pixel is next to nothing
+    int thinnestPen = 1;   // thinner pens become so wide: on a fine printer one pixel is next to nothing
+    double textScale = 1;  // how much higher than a run asks for its texts come out: the resolution of the monitor
     bool brushKnown = false;
     Colour brushColour = 0;
 };

@@ -48,7 +48,7 @@ void SelectPenOf(void* target, int width, Colour colour) {
 
 void SelectBrushOf(void* target, Colour colour) {
     GdiTarget& gdi = TargetOf(target);
-    // 0x10000 is also a colour, a dark blue that nothing uses.
+    // kNoBrush is also a colour, all but black. Who fills with colours that users chose steps aside from it.
     const HBRUSH brush = colour == kNoBrush ? nullptr : CreateSolidBrush(colour);
     SelectObject(gdi.dc, brush ? brush : GetStockObject(NULL_BRUSH));
     if (gdi.brush) DeleteObject(gdi.brush);
@@ -225,6 +225,7 @@ GdiCanvas OpenGdiCanvas(HDC dc, double textScale) {
     gdi.target->firstFont = GetCurrentObject(dc, OBJ_FONT);
     gdi.canvas.target = gdi.target.get();
     gdi.canvas.calls = &kGdiCalls;
+    gdi.canvas.textScale = textScale;
     return gdi;
 }
 

@@ -12,6 +12,7 @@
 #include <cstdio>
 
 #include "platform/Files.h"
+#include "platform/FileTimePosix.h"
 #include "platform/Text.h"
 
 namespace platform {
@@ -21,8 +22,6 @@ struct OpenFile {
 };
 
 namespace {
-
-constexpr uint64_t kUnixEpochAsFileTime = 116444736000000000;  // 1970-01-01 in 100 ns units since 1601
 
 std::string NativePath(std::string path) {
     std::replace(path.begin(), path.end(), '\\', '/');

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <string>
 
+#include "platform/FileTimePosix.h"
 #include "platform/Platform.h"
 
 namespace platform {
@@ -22,7 +23,6 @@ void RequestRepaint() {}
 
 uint64_t SystemFileTime() {
     using FileTimeUnits = std::chrono::duration<uint64_t, std::ratio<1, 10000000>>;
-    constexpr uint64_t kUnixEpochAsFileTime = 116444736000000000;  // 1970-01-01 in 100 ns units since 1601
     const auto sinceEpoch = std::chrono::system_clock::now().time_since_epoch();
     return kUnixEpochAsFileTime + std::chrono::duration_cast<FileTimeUnits>(sinceEpoch).count();
 }

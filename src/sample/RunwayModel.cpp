@@ -131,7 +131,6 @@ SceneryObject* MakeStart(const AirportPlan& plan, const RunwayPlan& runway, int 
 
 SceneryObject* MakeIls(const AirportPlan& plan, const RunwayPlan& runway, int end) {
     constexpr uint8_t kNavaidPresent = 0x01;
-    constexpr uint32_t kAirportShift = 11;
     const RunwayEndPlan &served = runway.ends[end], &far = runway.ends[1 - end];
     const double antenna = runway.length - served.displaced + far.blastPad + kLocalizerBehind;
     const model::EncodedPoint localizer = Encoded(plan, OnApproach(runway, end, antenna, 0));
@@ -148,7 +147,7 @@ SceneryObject* MakeIls(const AirportPlan& plan, const RunwayPlan& runway, int en
                  kIlsRange,
                  WestVariation(plan.variation),
                  model::PackIdent(served.ils.ident) << model::kIdentShift | kNavaidLowBits,
-                 model::PackIdent(plan.ident) << kAirportShift };
+                 model::RegionWordWithAirport(0, model::PackIdent(plan.ident) << model::kIdentShift) };
     ils.localizer = { served.number, served.designator, static_cast<float>(EndHeading(runway, end)),
                       LocalizerWidth(antenna) };
     ils.glideSlope = { 0, slope.longitude, slope.latitude, altitude, kGlideSlopeRange, kGlideSlopePitch };

@@ -7,22 +7,17 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <random>
 #include <string>
 #include <vector>
 
 #include "FakePlatform.h"
+#include "TemporaryFolder.h"
 
 class AircraftFixture : public testing::Test {
 protected:
     AircraftFixture() {
         ResetFakes();
-        root = std::filesystem::temp_directory_path() / ("tarvo-aircraft-" + std::to_string(std::random_device{}()));
         std::filesystem::create_directories(root / "Aircraft");
-    }
-    ~AircraftFixture() override {
-        std::error_code ignored;
-        std::filesystem::remove_all(root, ignored);
     }
 
     // Paths are relative to the simulator's folder.
@@ -49,5 +44,6 @@ protected:
         Put("Aircraft/" + folder + "/" + name + ".mdl", Model(radius));
     }
 
-    std::filesystem::path root;
+    const TemporaryFolder temporary;
+    const std::filesystem::path& root = temporary.path;
 };

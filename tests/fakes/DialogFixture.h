@@ -22,6 +22,7 @@ protected:
 
     static void Reset() {
         model::ClearModel();
+        model::state.edgeLights = {};
         ResetFakes();
         ResetDialogFakes();
         app::settings = app::Settings{};

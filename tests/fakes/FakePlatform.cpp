@@ -14,6 +14,7 @@ namespace platform {
 
 Answer ShowMessage(std::string_view text, Buttons buttons, Icon icon) {
     fake.messages.push_back({ std::string(text), buttons, icon });
+    if (fake.whileMessageIsUp) fake.whileMessageIsUp();
     if (!fake.answers.empty()) {
         const Answer answer = fake.answers.front();
         fake.answers.pop_front();

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,7 @@ struct PlacedAircraft {
 struct FakePlatform {
     std::vector<FakeMessage> messages;
     std::deque<platform::Answer> answers;  // taken in order by boxes with more than an OK button
+    std::function<void()> whileMessageIsUp;
     int repaints = 0;
     uint64_t fileTime = 0x01C4000000000000;
     int rotationChanges = 0;

@@ -68,7 +68,7 @@ bool StartCommand(const std::string& command) {
     return fakeShell.commandsStart;
 }
 
-void ShowPageSetup() { ++fakeShell.pageSetups; }
+void PageSetup() { ++fakeShell.pageSetups; }
 
 bool AskPicturePath(const PictureQuestion& question, PictureAnswer* answer) {
     fakeShell.pictureQuestions.push_back(question);
@@ -106,7 +106,7 @@ void ShowWaitCursor(bool shown) {
     fakeShell.waiting = shown;
 }
 
-bool IsMainWindowMaximized() { return fakeShell.maximized; }
+std::optional<bool> IsMainWindowMaximized() { return fakeShell.maximized; }
 
 std::string LocalTimeText(uint64_t fileTime) { return fileTime ? "(time)" : "(no time)"; }
 

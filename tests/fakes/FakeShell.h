@@ -32,9 +32,9 @@ struct FakeShell {
     int folderQuestions = 0;
     bool registryRefuses = false;
     std::string notice;
-    int waitCursors = 0;   // shown and taken away again
-    bool waiting = false;  // one is shown now
-    bool maximized = false;
+    int waitCursors = 0;                    // shown and taken away again
+    bool waiting = false;                   // one is shown now
+    std::optional<bool> maximized = false;  // none: the window was not shown yet
 };
 
 extern FakeShell fakeShell;

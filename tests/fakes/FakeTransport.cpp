@@ -52,14 +52,14 @@ bool IsNotResponding(Handle) { return fakeTransport.notResponding; }
 
 uint32_t RegisterMessage(const char* name) {
     fakeTransport.messages.emplace_back(name);
-    return fakeTransport.noMessage ? 0 : 0xC123;
+    return fakeTransport.noMessage ? 0 : kFakeMessage;
 }
 
 uint16_t AddGlobalName(const char* name) {
     if (fakeTransport.noName) return 0;
     fakeTransport.names.emplace_back(name);
     ++fakeTransport.openNames;
-    return 0xC456;
+    return kFakeName;
 }
 
 void RemoveGlobalName(uint16_t) { --fakeTransport.openNames; }
@@ -81,10 +81,11 @@ uint8_t* ViewSharedBlock(Handle, uint32_t size) {
 
 void CloseView(uint8_t*) { --fakeTransport.openViews; }
 
-Sent SendBlocking(Handle window, uint32_t message, uint16_t, uint32_t timeoutMs) {
+Sent SendBlocking(Handle window, uint32_t message, uint16_t number, uint32_t timeoutMs) {
     ++fakeTransport.sends;
     fakeTransport.lastWindow = window;
     fakeTransport.lastMessage = message;
+    fakeTransport.lastNumber = number;
     fakeTransport.lastTimeout = timeoutMs;
     return fakeTransport.answer ? fakeTransport.answer(fakeTransport.block.data())
                                 : ServeBlock(fakeTransport.block.data());

@@ -23,6 +23,7 @@ struct FakeTransport {
     std::vector<uint32_t> pauses;
     int sends = 0, windowSearches = 0;
     uint32_t lastTimeout = 0, lastMessage = 0;
+    uint16_t lastNumber = 0;
     simlink::Handle lastWindow = 0;
     std::vector<std::string> names;     // every one that was added
     std::vector<std::string> messages;  // every one that was registered
@@ -34,6 +35,8 @@ struct FakeTransport {
 extern FakeTransport fakeTransport;
 
 constexpr simlink::Handle kFakeWindow = 77;
+constexpr uint32_t kFakeMessage = 0xC123;
+constexpr uint16_t kFakeName = 0xC456;
 constexpr uint8_t kGuardByte = 0xA5;
 
 // A running simulator, and the link closed.

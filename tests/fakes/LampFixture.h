@@ -45,11 +45,11 @@ protected:
         RecordingCanvas log;
         Paint(&log);
         std::vector<LampAt> lamps;
-        const platform::Pixel origin = PixelOf({ 0, 0 });
+        const model::Point origin = map::WorldToScreen(build::At({ 0, 0 }));
         for (const CanvasCall& call : log.FilledWith(map::InkOf(ink))) {
             if (call.name != "ellipse") continue;
-            const double x = (call.points[0].x + call.points[1].x - 1) / 2.0;
-            const double y = (call.points[0].y + call.points[1].y - 1) / 2.0;
+            const double x = (call.points[0].x + call.points[1].x) / 2.0;  // the middle of the lamp's middle pixel
+            const double y = (call.points[0].y + call.points[1].y) / 2.0;
             lamps.push_back({ (x - origin.x) / kPixels, (origin.y - y) / kPixels });
         }
         return lamps;

@@ -11,6 +11,7 @@
 #include "map/MapView.h"
 #include "map/PaintMap.h"
 #include "map/Palette.h"
+#include "map/Shapes.h"
 #include "map/Tools.h"
 
 class MapFixture : public testing::Test {
@@ -20,6 +21,7 @@ protected:
     void SetUp() override {
         ResetFakes();
         model::ClearModel();
+        model::state.edgeLights = {};
         app::settings = {};
         app::settings.showLatLongGrid = false;
         map::view = {};
@@ -45,7 +47,11 @@ protected:
         map::view.span = kHeight / pixelsPerMetre;
         map::ResizeView(kWidth, kHeight);
     }
-    static platform::Pixel PixelOf(build::Place place) { return map::WorldToPixel(build::At(place)); }
+    // Whole metres mostly lie on whole pixels: a hair more, so that the last digit does not choose between two.
+    static platform::Pixel PixelOf(build::Place place) {
+        const model::Point point = map::WorldToScreen(build::At(place));
+        return map::ToPixel({ point.x + 1e-6, point.y + 1e-6 });
+    }
 
     // After something else than the screen was drawn. The places on the screen are those of the last painting.
     static void ExpectViewAsBefore(const map::MapView& before) {

@@ -5,7 +5,6 @@
 #include <chrono>
 #include <fstream>
 #include <iterator>
-#include <random>
 
 #include "bgl/ByteWriter.h"
 #include "bgl/NameList.h"
@@ -58,11 +57,6 @@ fs::file_time_type TimeAfter(int seconds) {
 
 }  // namespace
 
-std::string Utf8Path(const fs::path& path) {
-    const std::u8string text = path.u8string();
-    return { text.begin(), text.end() };
-}
-
 std::vector<uint8_t> MakeSceneryFile(const std::vector<TestAirport>& airports) {
     struct Section {
         uint32_t type, sectionClass, id;
@@ -96,16 +90,10 @@ std::vector<uint8_t> MakeSceneryFile(const std::vector<TestAirport>& airports) {
 }
 
 TestLibrary::TestLibrary() {
-    root = fs::temp_directory_path() / ("tarvo-library-" + std::to_string(std::random_device{}()));
     fs::create_directories(root / "sim");
     fs::create_directories(root / "program");
     simulator = Utf8Path(root / "sim");
     program = Utf8Path(root / "program");
-}
-
-TestLibrary::~TestLibrary() {
-    std::error_code ignored;
-    fs::remove_all(root, ignored);
 }
 
 fs::path TestLibrary::FileOf(const std::string& area, const std::string& name) const {

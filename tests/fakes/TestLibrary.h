@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "TemporaryFolder.h"
+
 struct TestAirport {
     std::string ident, name, country, state, city;  // Windows-1252
 };
@@ -16,11 +18,9 @@ std::vector<uint8_t> MakeSceneryFile(const std::vector<TestAirport>& airports);
 
 struct TestLibrary {
     TestLibrary();
-    ~TestLibrary();
-    TestLibrary(const TestLibrary&) = delete;
-    TestLibrary& operator=(const TestLibrary&) = delete;
 
-    std::filesystem::path root;
+    const TemporaryFolder temporary;
+    const std::filesystem::path& root = temporary.path;
     std::string simulator, program;  // UTF-8 paths of the two folders
 
     // The file of an area of the simulator's folder. `seconds` tells its time from that of others.
@@ -37,5 +37,3 @@ struct TestLibrary {
     std::string ReadCache(const std::string& name) const;
     void PutCache(const std::string& name, std::string_view text) const;
 };
-
-std::string Utf8Path(const std::filesystem::path& path);

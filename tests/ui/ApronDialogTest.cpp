@@ -32,7 +32,7 @@ TEST_F(ApronDialogTest, SurfaceAndDrawingOfAnApronAreKeptAndUndone) {
     EXPECT_FALSE(IsSet(dialog, IDC_DRAW_SURFACE));
     CloseDialog(dialog, IDCANCEL);
     Command(IDM_UNDO);
-    dialog = OpenByDoubleClick(inside, kApron);
+    dialog = OpenByRightClick(inside, kApron);
     ASSERT_NE(dialog, nullptr);
     EXPECT_EQ(Choice(dialog, IDC_APRON_SURFACE), before);
     EXPECT_TRUE(IsSet(dialog, IDC_DRAW_SURFACE));

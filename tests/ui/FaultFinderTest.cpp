@@ -5,6 +5,7 @@
 #include "platform/Files.h"
 #include "ProgramParts.h"
 #include "Resource.h"
+#include "StandInBrowser.h"
 #include "UiHarness.h"
 
 namespace ui {
@@ -262,6 +263,15 @@ TEST_F(FaultFinderTest, WhileADialogEditsTheMapTheFinderWaits) {
     EXPECT_EQ(NextFault(finder), L"Finish the edit that is open on the map first.");
     CloseDialog(editor, IDCANCEL);
     EXPECT_EQ(NextFault(finder), kTooFar);
+}
+
+TEST_F(FaultFinderTest, HelpOpensTheFindersTopic) {
+    const StandInBrowser browser;
+    StartWithSample("hub");
+    const HWND finder = OpenFinder();
+    ASSERT_NE(finder, nullptr);
+    Press(finder, IDHELP);
+    EXPECT_TRUE(browser.WaitForOpened("file:///C:/UiTest/Tarvo/ReadMe.htm#FaultFinder\n")) << browser.Opened();
 }
 
 TEST_F(FaultFinderTest, AnotherAirportIsAnotherPass) {

@@ -67,6 +67,21 @@ TEST_F(GroundDialogTest, FieldsOfALinkAreKept) {
     CloseDialog(dialog, IDCANCEL);
 }
 
+TEST_F(GroundDialogTest, FieldsTakeNoMoreThanTheirCharacters) {
+    StartOnGround();
+    const auto limitOf = [](HWND edit) { return SendMessageW(edit, EM_GETLIMITTEXT, 0, 0); };
+    const POINT middle = MakeLink();
+    HWND dialog = OpenByDoubleClick(ground, kNode);
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(limitOf(ChildWithId(dialog, IDC_LATITUDE)), 30);
+    EXPECT_EQ(limitOf(ChildWithId(dialog, IDC_LONGITUDE)), 30);
+    CloseDialog(dialog, IDCANCEL);
+    ASSERT_NE(dialog = OpenByDoubleClick(middle, kLink), nullptr);
+    EXPECT_EQ(limitOf(ChildWithId(dialog, IDC_LINK_WIDTH)), 12);
+    CloseDialog(dialog, IDCANCEL);
+    EXPECT_EQ(limitOf(ChildOfClass(ChildWithId(mainWindow, IDC_DESIGNATOR), L"Edit")), 19);
+}
+
 TEST_F(GroundDialogTest, CodesOfASpotAreCheckedAndKept) {
     StartOnGround();
     Use(IDT_PARKING, ground);

@@ -18,6 +18,13 @@ protected:
         GetWindowRect(dialog, &place);
         return { place.left, place.top };
     }
+    // Pixels from the right edge of the dialog to that of the main window.
+    LONG FromRightEdge(HWND dialog) const {
+        RECT main{}, own{};
+        GetWindowRect(mainWindow, &main);
+        GetWindowRect(dialog, &own);
+        return main.right - own.right;
+    }
 };
 
 TEST_F(GroundSelectionTest, ATypeGoesToEverySelectedNodeAsOneAction) {
@@ -171,6 +178,35 @@ TEST_F(GroundSelectionTest, HelpOpensTheTopicOfEachDialog) {
         EXPECT_TRUE(browser.WaitForOpened(opened)) << browser.Opened();
         CloseDialog(dialog, IDCANCEL);
     }
+}
+
+// In the middle it would cover what is to be clicked at.
+TEST_F(GroundSelectionTest, ADialogThatTakesClicksOnTheMapOpensAtTheRightEdge) {
+    constexpr LONG kFromEdge = 24;
+    StartOnGround();
+    const POINT link = MakeLink(), spot = Beside(2 * kApart);
+    Use(IDT_PARKING, spot);
+    for (const auto& [at, title] : { std::pair(ground, kNode), std::pair(spot, kSpot) }) {
+        const HWND dialog = OpenByDoubleClick(at, title);
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_EQ(FromRightEdge(dialog), kFromEdge) << Utf8(title);
+        CloseDialog(dialog, IDCANCEL);
+    }
+    const std::pair<UINT, const wchar_t*> commands[] = {
+        { IDM_INSERT_RUNWAY, L"Runway Properties" },        { IDM_INSERT_HELIPAD, L"Helipad Properties" },
+        { IDM_INSERT_START, L"Start Location Properties" }, { IDM_INSERT_NDB, L"NDB Properties" },
+        { IDM_INSERT_VOR, L"VOR/DME Properties" },          { IDM_AIRPORT_PROPERTIES, L"Airport Properties" }
+    };
+    for (const auto& [command, title] : commands) {
+        const HWND dialog = Open(command, title);
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_EQ(FromRightEdge(dialog), kFromEdge) << Utf8(title);
+        CloseDialog(dialog, IDCANCEL);
+    }
+    const HWND dialog = OpenByDoubleClick(link, kLink);
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_GT(FromRightEdge(dialog), kFromEdge) << "a link has no position: its dialog opens over the middle";
+    CloseDialog(dialog, IDCANCEL);
 }
 
 TEST_F(GroundSelectionTest, ADialogOpensWhereItWasLeft) {

@@ -206,15 +206,6 @@ protected:
         }
         ASSERT_TRUE(CanUndo()) << "nothing was made";
     }
-    HWND OpenByRightClick(POINT at, const wchar_t* title) {
-        EXPECT_TRUE(BringToFront(mainWindow));
-        MovePointer(mainWindow, at.x, at.y);
-        MouseButton(MOUSEEVENTF_RIGHTDOWN);
-        MouseButton(MOUSEEVENTF_RIGHTUP);
-        EXPECT_TRUE(WaitUntil([&] { return InMenu(mainWindow); }));
-        TapKey('P');
-        return DialogWithKeys(title);
-    }
 };
 
 TEST_F(KeyboardTest, WhatStandsInAListIsMadeAndChangedByKeys) {
@@ -424,6 +415,7 @@ TEST_F(KeyboardTest, TheMapMenuOpensThePropertiesOfWhatWasClicked) {
     for (const auto& [at, title] : { std::pair(node, kNode), std::pair(spot, kSpot), std::pair(node, kNode) }) {
         const HWND dialog = OpenByRightClick(at, title);
         ASSERT_NE(dialog, nullptr);
+        ASSERT_TRUE(HasKeys(dialog));
         EXPECT_EQ(Utf8(TextOf(dialog)), Utf8(title));
         ASSERT_NO_FATAL_FAILURE(Leave(dialog, VK_ESCAPE, mainWindow));
     }

@@ -24,6 +24,14 @@ protected:
         const UINT ask = IsListView(dialog) ? LVM_GETITEMCOUNT : LB_GETCOUNT;
         return static_cast<int>(SendMessageW(Rows(dialog), ask, 0, 0));
     }
+    static std::string Header(HWND dialog) {
+        if (!IsListView(dialog)) return Shown(dialog, IDC_LIST_HEADER);
+        std::string text;
+        for (int column = 0; column < kParkingColumns; ++column) {
+            text += (column ? "\t" : "") + Utf8(ListColumnTitle(Rows(dialog), column));
+        }
+        return text;
+    }
     static std::string Row(HWND dialog, int row) {
         if (!IsListView(dialog)) return Utf8(ListBoxText(Rows(dialog), row));
         std::string text;

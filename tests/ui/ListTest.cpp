@@ -30,6 +30,11 @@ TEST_F(ListTest, EachListHasItsTextsAndRows) {
           "Designator\tLength\tWidth",
           "16L/34R\t11901 ft\t150 ft",
           { IDC_LIST_DELETE, IDC_LIST_PROPERTIES } },
+        { IDM_LIST_PARKING,
+          kParkingList,
+          "Name\tType\tRadius\tCodes",
+          "Gate D  1\tGate Medium\t",
+          { IDC_LIST_DELETE, IDC_LIST_PROPERTIES, IDC_LIST_RANDOMIZE, IDC_LIST_ORIGINAL_ORDER } },
         { IDM_LIST_STARTS,
           kStartList,
           "Designator\tHeading",
@@ -48,8 +53,10 @@ TEST_F(ListTest, EachListHasItsTextsAndRows) {
         const HWND dialog = Open(list.command, list.title);
         ASSERT_NE(dialog, nullptr);
         EXPECT_TRUE(IsWindowEnabled(mainWindow)) << "the map stays alive";
-        EXPECT_EQ(Shown(dialog, IDC_LIST_HEADER), list.header);
-        EXPECT_GE(RowThatBegins(dialog, list.row), 0);
+        EXPECT_EQ(Header(dialog), list.header);
+        const bool isThere =
+            IsListView(dialog) ? Row(dialog, 0).starts_with(list.row) : RowThatBegins(dialog, list.row) >= 0;
+        EXPECT_TRUE(isThere) << list.row;
         EXPECT_EQ(Selected(dialog), -1);
         for (const int button : list.buttons) EXPECT_NE(ChildWithId(dialog, button), nullptr);
         EXPECT_EQ(Shown(dialog, IDCANCEL), "Close");
@@ -108,6 +115,14 @@ TEST_F(ListTest, ASelectedRowIsWhatTheMapDeletes) {
     EXPECT_EQ(AllRows(dialog), expected);
 }
 
+TEST_F(ListTest, ARowOfAHiddenLayerShowsIt) {
+    const HWND dialog = StartWithList(IDM_LIST_NAVAIDS, kNavaidList);
+    ASSERT_NE(dialog, nullptr);
+    ASSERT_FALSE(IsChecked(IDM_NAVAIDS));
+    Select(dialog, 0);
+    EXPECT_TRUE(WaitUntil([&] { return IsChecked(IDM_NAVAIDS); }));
+}
+
 TEST_F(ListTest, ADesignatorIsNothingThatTheMapDeletes) {
     const HWND dialog = StartWithList(IDM_LIST_DESIGNATORS, kDesignatorList);
     ASSERT_NE(dialog, nullptr);
@@ -137,8 +152,14 @@ TEST_F(ListTest, ADesignatorInUseGoesOnlyWhenTheUserAgrees) {
     ExpectMessage(dialog, IDC_LIST_DELETE, question);  // Cancel
     EXPECT_EQ(Count(dialog), count);
     Press(dialog, IDC_LIST_DELETE);
+    const auto isInBox = [&] {
+        const HWND box = ChildWithId(mainWindow, IDC_DESIGNATOR);
+        return SendMessageW(box, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(L"Taxi A")) >= 0;
+    };
+    EXPECT_TRUE(isInBox());
     Answer(MessageBoxUp(), IDOK);
     EXPECT_TRUE(WaitForCount(dialog, count - 1));
+    EXPECT_TRUE(WaitUntil([&] { return !isInBox(); })) << "the toolbar offers it no more";
     Command(IDM_UNDO);
     ASSERT_TRUE(WaitForCount(dialog, count));
     EXPECT_EQ(Row(dialog, row), "A\t" + links) << "the links have it again";

@@ -5,7 +5,25 @@
 
 namespace ui {
 
-class MapKeysTest : public UiTest {};
+namespace {
+
+constexpr int kArrow = 1, kMove = 15, kPlacing = 9;  // where the hot spots of the cursors are
+
+// Of the program in front.
+HCURSOR ShownCursor() {
+    CURSORINFO info{};
+    info.cbSize = sizeof info;
+    return GetCursorInfo(&info) ? info.hCursor : nullptr;
+}
+
+}  // namespace
+
+class MapKeysTest : public UiTest {
+protected:
+    bool WaitForHotSpot(int x) {
+        return WaitUntil([&] { return CursorHotSpot(agent).x == x; });
+    }
+};
 
 TEST_F(MapKeysTest, TheLockKeepsTheMapInPlaceButLetsItZoom) {
     StartWithSample("grass");
@@ -56,6 +74,34 @@ TEST_F(MapKeysTest, PGoesFromNoLabelsToTypesToCodesToNone) {
     EXPECT_EQ(press(), 2);
     EXPECT_EQ(press(), 0);
     EXPECT_EQ(press(), 1);
+}
+
+TEST_F(MapKeysTest, TheCursorTurnsToNightAndToAnotherToolUnderThePointerAtRest) {
+    StartWithSample("grass");
+    BringToFront(mainWindow);
+    const POINT ground = GoToEmptyGround(mainWindow);
+    MovePointer(mainWindow, ground.x, ground.y);
+    ASSERT_TRUE(WaitForHotSpot(kArrow));
+    const HCURSOR day = ShownCursor();
+    PostKey(mainWindow, 'L');
+    EXPECT_TRUE(WaitUntil([&] { return ShownCursor() != day; }));
+    PostKey(mainWindow, 'L');
+    EXPECT_TRUE(WaitUntil([&] { return ShownCursor() == day; }));
+    Command(IDT_NORMAL_NODE);
+    EXPECT_TRUE(WaitForHotSpot(kPlacing));
+    Command(IDT_POINTER);
+    EXPECT_TRUE(WaitForHotSpot(kArrow));
+}
+
+TEST_F(MapKeysTest, TheCursorIsThatOfThePlaceWhereThePointerIs) {
+    StartWithSample("grass");
+    const POINT node = CreateNode(mainWindow, IDT_NORMAL_NODE);
+    Command(IDT_POINTER);
+    BringToFront(mainWindow);
+    MovePointer(mainWindow, node.x + 60, node.y);
+    ASSERT_TRUE(WaitForHotSpot(kArrow));
+    MovePointer(mainWindow, node.x, node.y);
+    EXPECT_TRUE(WaitForHotSpot(kMove)) << "it is selected and can be dragged";
 }
 
 TEST_F(MapKeysTest, ARightClickOnTheMapOpensItsMenu) {

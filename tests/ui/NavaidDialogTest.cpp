@@ -2,49 +2,12 @@
 #include <string>
 #include <vector>
 
-#include "EditorSteps.h"
-#include "ListIds.h"
-#include "NavaidIds.h"
+#include "NavaidSteps.h"
 #include "StandInBrowser.h"
 
 namespace ui {
 
-constexpr wchar_t kNdb[] = L"NDB Properties", kVor[] = L"VOR/DME Properties", kIls[] = L"ILS Properties",
-                  kNewIls[] = L"New ILS", kMarker[] = L"Marker Properties", kNewMarkers[] = L"New Marker Beacons";
-
-class NavaidDialogTest : public EditorTest {
-protected:
-    static HWND Rows(HWND list) { return ChildWithId(list, IDC_LIST_ROWS); }
-    static int Count(HWND list) { return static_cast<int>(SendMessageW(Rows(list), LB_GETCOUNT, 0, 0)); }
-    static int RowWith(HWND list, const std::string& text) {
-        for (int row = 0; row < Count(list); ++row) {
-            if (Utf8(ListBoxText(Rows(list), row)).find(text) != std::string::npos) return row;
-        }
-        return -1;
-    }
-    static std::string RowText(HWND list, const std::string& text) {
-        const int row = RowWith(list, text);
-        return row < 0 ? "" : Utf8(ListBoxText(Rows(list), row));
-    }
-    HWND List() {
-        if (const HWND open = FindVisible(program.id, nullptr, L"NAVAID List")) return open;
-        return Open(IDM_LIST_NAVAIDS, L"NAVAID List");
-    }
-    HWND Properties(const std::string& row, const wchar_t* title) {
-        const HWND list = List();
-        PickInListBox(Rows(list), RowWith(list, row));
-        Settle(list);
-        PressButton(list, IDC_LIST_PROPERTIES);
-        return Dialog(title);
-    }
-    static bool IsOn(HWND dialog, int id) { return IsWindowEnabled(ChildWithId(dialog, id)) != FALSE; }
-    void ExpectUnplaced(HWND dialog, const std::string& what) {
-        ExpectRefusal(dialog,
-                      "ERROR: You must enter a latitude and longitude for " + what +
-                          ".\nYou may click on the main window to set the latitude and longitude",
-                      IDC_NAV_LATITUDE);
-    }
-};
+class NavaidDialogTest : public NavaidTest {};
 
 TEST_F(NavaidDialogTest, AnNdbIsInsertedWithAllItsFields) {
     StartOnGround();
@@ -100,31 +63,6 @@ TEST_F(NavaidDialogTest, CancelTakesANewNavaidAway) {
         CloseDialog(dialog, IDCANCEL);
         EXPECT_FALSE(CanUndo());
         EXPECT_EQ(GrabMap(mainWindow).pixels, before.pixels);
-    }
-}
-
-TEST_F(NavaidDialogTest, ADoubleClickOnItsSymbolOpensANavaid) {
-    StartOnGround();
-    const POINT beside = { ground.x + 120, ground.y };
-    const struct {
-        UINT command;
-        const wchar_t *title, *ident, *frequency;
-        POINT at;
-    } rows[] = { { IDM_INSERT_NDB, kNdb, L"ZQ", L"362.5", ground },
-                 { IDM_INSERT_VOR, kVor, L"ZQX", L"113.70", beside } };
-    for (const auto& row : rows) {
-        const HWND dialog = Open(row.command, row.title);
-        ASSERT_NE(dialog, nullptr);
-        Enter(dialog, IDC_NAV_IDENT, row.ident);
-        Enter(dialog, IDC_NAV_FREQUENCY, row.frequency);
-        ClickMap(row.at);
-        CloseDialog(dialog, IDOK);
-    }
-    for (const auto& row : rows) {
-        const HWND dialog = OpenByDoubleClick(row.at, row.title);
-        ASSERT_NE(dialog, nullptr);
-        EXPECT_EQ(Shown(dialog, IDC_NAV_IDENT), Utf8(row.ident));
-        CloseDialog(dialog, IDCANCEL);
     }
 }
 
@@ -349,6 +287,29 @@ TEST_F(NavaidDialogTest, HelpOpensTheNavaidsTopic) {
         EXPECT_TRUE(browser.WaitForOpened(opened)) << browser.Opened();
         CloseDialog(dialog, IDCANCEL);
     }
+}
+
+TEST_F(NavaidDialogTest, HelpOpensTheTopicOfEachPropertiesDialog) {
+    const StandInBrowser browser;
+    StartWithSample("hub");
+    HWND dialog = Open(IDM_INSERT_MARKER_BEACON, kNewMarkers);
+    ASSERT_NE(dialog, nullptr);
+    CloseDialog(dialog, IDOK);
+    std::string opened;
+    const auto expectTopic = [&](const char* topic) {
+        ASSERT_NE(dialog, nullptr);
+        PressButton(dialog, IDHELP);
+        opened += std::string("file:///C:/UiTest/Tarvo/ReadMe.htm#") + topic + "\n";
+        EXPECT_TRUE(browser.WaitForOpened(opened)) << browser.Opened();
+        CloseDialog(dialog, IDCANCEL);
+    };
+    dialog = Properties("\tISNQ\t", kIls);
+    expectTopic("Navaids");
+    dialog = Properties("\tMKR\t", kMarker);
+    expectTopic("Navaids");
+    PressButton(Open(IDM_LIST_COMMS, L"Comm Frequencies List"), IDC_LIST_INSERT);
+    dialog = Dialog(L"COMM Frequency Properties");
+    expectTopic("CommFrequencies");
 }
 
 }  // namespace ui

@@ -74,13 +74,29 @@ TEST_F(OpenAirportFileTest, ASingleFileIsRefusedWithItsReason) {
     EXPECT_TRUE(WaitUntil([&] { return NextTreeItem(places, TVGN_ROOT) != nullptr; }));
 }
 
+TEST_F(OpenAirportFileTest, TheFolderOfTheFileChosenLastIsShownFirstAlsoThatOfADrive) {
+    const std::wstring file = L"C:\\root.bgl";
+    placed.push_back(file);
+    ASSERT_TRUE(CopyFileW(FindSample("hub").path.c_str(), file.c_str(), FALSE));
+    Start();
+    ASSERT_NO_FATAL_FAILURE(OpenFilledDialog());
+    PressButton(dialog, IDC_SPECIFIC_FILE);
+    ASSERT_TRUE(WaitUntil([&] { return IsWindowEnabled(ChildWithId(dialog, IDC_OPEN_FILE)) != 0; }));
+    for (const wchar_t* name : { file.c_str(), L"root.bgl" }) {
+        ASSERT_NO_FATAL_FAILURE(ChooseFile(name)) << Utf8(name);
+        EXPECT_TRUE(WaitUntil([&] { return NextTreeItem(places, TVGN_ROOT) != nullptr; }));
+        EXPECT_EQ(TextOf(ChildWithId(dialog, IDC_FILE_NAME)), file);
+    }
+}
+
 TEST_F(OpenAirportFileTest, WithoutASimulatorTheLibraryIsEmptyAndSingleFilesOpen) {
     const SampleAirport sample = FindSample("hub");
     Start(L"", "[General]\r\nNextUpdateNotice=9999\r\nOverrideFSFolder=C:\\UiTest\\None\r\n");
     ASSERT_NO_FATAL_FAILURE(OpenDialog());
+    ASSERT_NO_FATAL_FAILURE(WaitForCollection());
+    EXPECT_EQ(NextTreeItem(places, TVGN_ROOT), nullptr);
     PressButton(dialog, IDC_SPECIFIC_FILE);
     ASSERT_TRUE(WaitUntil([&] { return IsWindowEnabled(ChildWithId(dialog, IDC_OPEN_FILE)) != 0; }));
-    EXPECT_EQ(NextTreeItem(places, TVGN_ROOT), nullptr);
     ASSERT_NO_FATAL_FAILURE(ChooseFile(sample.path));
     ASSERT_TRUE(WaitUntil([&] { return NextTreeItem(places, TVGN_ROOT) != nullptr; }));
     SetText(field, sample.ident);

@@ -10,6 +10,7 @@
 #include "ProgramParts.h"
 #include "ProgressIds.h"
 #include "Resource.h"
+#include "UiAgent.h"
 #include "UiHarness.h"
 
 namespace ui {
@@ -63,6 +64,13 @@ protected:
         ASSERT_NO_FATAL_FAILURE(OpenDialog());
         ASSERT_TRUE(WaitUntil([&] { return NextTreeItem(places, TVGN_ROOT) != nullptr; })) << "an empty tree";
     }
+    // For a collection that leaves no trace: over then, whatever it found. It is begun here unless it has begun already.
+    void WaitForCollection() {
+        constexpr WPARAM kTimer = 1;
+        if (SendMessageW(agent.window, kAgentEndTimer, kTimer, reinterpret_cast<LPARAM>(dialog)))
+            SendMessageW(dialog, WM_TIMER, kTimer, 0);
+        ASSERT_TRUE(SettlePosted(agent));
+    }
     void Search(const std::wstring& ident) {
         SetText(field, ident);
         PressButton(dialog, IDC_SEARCH);
@@ -70,6 +78,14 @@ protected:
         SettlePosted(agent);
     }
     int DefaultButton() const { return LOWORD(SendMessageW(dialog, DM_GETDEFID, 0, 0)); }
+    // Enter presses it, and it alone looks so.
+    void ExpectDefaultButton(int button) const {
+        EXPECT_EQ(DefaultButton(), button);
+        for (const int other : { IDOK, IDC_SEARCH }) {
+            const LONG kind = GetWindowLongW(ChildWithId(dialog, other), GWL_STYLE) & BS_TYPEMASK;
+            EXPECT_EQ(kind, other == button ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON) << "button " << other;
+        }
+    }
     std::wstring Cell(int row, int column) const { return ListText(airports, row, column); }
     int RowOf(const std::wstring& ident) const {
         for (int row = 0; row < ListRows(airports); ++row) {

@@ -17,7 +17,7 @@ TEST_F(OpenAirportTest, TheDialogStartsEmptyWithTheFocusInTheIdField) {
     EXPECT_EQ(SendMessageW(field, EM_GETLIMITTEXT, 0, 0), 7);
     EXPECT_EQ(ListRows(airports), 0);
     EXPECT_TRUE(HasFocus(field));
-    EXPECT_EQ(DefaultButton(), IDOK);
+    ExpectDefaultButton(IDOK);
     EXPECT_EQ(SendMessageW(ChildWithId(dialog, IDC_ALL_SCENERY), BM_GETCHECK, 0, 0), BST_CHECKED);
     EXPECT_FALSE(IsWindowEnabled(ChildWithId(dialog, IDC_OPEN_FILE)));
     EXPECT_FALSE(IsWindowEnabled(ChildWithId(dialog, IDC_FILE_NAME)));
@@ -53,7 +53,7 @@ TEST_F(OpenAirportTest, TheTreeGoesFromCountryToCityAndListsAirports) {
     EXPECT_EQ(Cell(1, 2), L"10");
     EXPECT_EQ(Cell(1, 3), L"Seattle-Tacoma International Airport");
     EXPECT_EQ(TextOf(field), L"");
-    EXPECT_EQ(DefaultButton(), IDOK);
+    ExpectDefaultButton(IDOK);
     ClickItem(state);  // holds no airport itself
     EXPECT_EQ(ListRows(airports), 2);
     Search(L"CYYJ");
@@ -73,10 +73,10 @@ TEST_F(OpenAirportTest, EnterSearchesAndEnterAgainOpensTheFirstRow) {
     ASSERT_TRUE(HasFocus(field));
     TypeText(L"cyyj");
     ASSERT_TRUE(WaitUntil([&] { return TextOf(field) == L"CYYJ"; })) << Utf8(TextOf(field));
-    EXPECT_EQ(DefaultButton(), IDC_SEARCH);
+    ExpectDefaultButton(IDC_SEARCH);
     TapKey(VK_RETURN);
     ASSERT_TRUE(WaitUntil([&] { return ListRows(airports) == 1; }));
-    EXPECT_EQ(DefaultButton(), IDOK);
+    ExpectDefaultButton(IDOK);
     EXPECT_TRUE(HasFocus(field));
     TapKey(VK_RETURN);
     ExpectOpened(L"CYYJ");

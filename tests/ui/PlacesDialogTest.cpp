@@ -2,6 +2,7 @@
 #include "AirportIds.h"
 #include "EditorSteps.h"
 #include "PlacesIds.h"
+#include "StandInBrowser.h"
 
 namespace ui {
 
@@ -13,6 +14,20 @@ protected:
                       "ERROR: You must enter a latitude and longitude for " + what +
                           ".\nYou may click on the main window to set the latitude and longitude",
                       IDC_PLACE_LATITUDE);
+    }
+    // Its tower stands nowhere yet.
+    void StartOnNewAirport() {
+        Start();
+        const HWND dialog = Open(IDM_NEW, L"Airport Properties");
+        ASSERT_NE(dialog, nullptr);
+        Enter(dialog, IDC_AIRPORT_LATITUDE, L"N47 30");
+        Enter(dialog, IDC_AIRPORT_LONGITUDE, L"W122 30");
+        Enter(dialog, IDC_AIRPORT_ELEVATION, L"400");
+        Enter(dialog, IDC_AIRPORT_IDENT, L"XTST");
+        for (const int id : { IDC_COUNTRY, IDC_CITY, IDC_AIRPORT_NAME }) Enter(dialog, id, L"Nowhere");
+        CloseDialog(dialog, IDOK);
+        const RECT area = MapArea(mainWindow);
+        ground = { area.left + 100, area.top + 100 };
     }
 };
 
@@ -106,21 +121,9 @@ TEST_F(PlacesDialogTest, AnAirportHasOneTowerViewpoint) {
     EXPECT_FALSE(CanUndo());
 }
 
-// The tower of a new airport stands nowhere yet.
 TEST_F(PlacesDialogTest, TheTowerViewpointOfANewAirportIsPlacedOnce) {
-    Start();
-    HWND dialog = Open(IDM_NEW, L"Airport Properties");
-    ASSERT_NE(dialog, nullptr);
-    Enter(dialog, IDC_AIRPORT_LATITUDE, L"N47 30");
-    Enter(dialog, IDC_AIRPORT_LONGITUDE, L"W122 30");
-    Enter(dialog, IDC_AIRPORT_ELEVATION, L"400");
-    Enter(dialog, IDC_AIRPORT_IDENT, L"XTST");
-    for (const int id : { IDC_COUNTRY, IDC_CITY, IDC_AIRPORT_NAME }) Enter(dialog, id, L"Nowhere");
-    CloseDialog(dialog, IDOK);
-    const RECT area = MapArea(mainWindow);
-    ground = { area.left + 100, area.top + 100 };
-
-    dialog = Open(IDM_INSERT_TOWER, kTower);
+    StartOnNewAirport();
+    HWND dialog = Open(IDM_INSERT_TOWER, kTower);
     ASSERT_NE(dialog, nullptr);
     ExpectUnplaced(dialog, "the control tower viewpoint");
     EXPECT_EQ(Shown(dialog, IDC_PLACE_ELEVATION), "400") << "that of the airport is offered";
@@ -148,6 +151,34 @@ TEST_F(PlacesDialogTest, TheTowerViewpointOfANewAirportIsPlacedOnce) {
     CloseDialog(dialog, IDCANCEL);
 }
 
+TEST_F(PlacesDialogTest, TheMapMenuOpensHelipadAndStartLocation) {
+    StartOnGround();
+    const std::pair<int, const wchar_t*> kinds[] = { { IDM_INSERT_HELIPAD, kHelipad }, { IDM_INSERT_START, kStart } };
+    for (const auto& [command, title] : kinds) {
+        HWND dialog = Open(command, title);
+        ASSERT_NE(dialog, nullptr);
+        ClickMap(ground);
+        if (command == IDM_INSERT_HELIPAD) Enter(dialog, IDC_HELIPAD_LENGTH, L"900");  // a small one is hard to hit
+        CloseDialog(dialog, IDOK);
+        dialog = OpenByRightClick(ground, title);
+        ASSERT_NE(dialog, nullptr);
+        CloseDialog(dialog, IDCANCEL);
+        Command(IDM_UNDO);
+        EXPECT_FALSE(CanUndo());
+    }
+}
+
+TEST_F(PlacesDialogTest, TheMapMenuOpensTheTowerViewpoint) {
+    StartOnNewAirport();
+    HWND dialog = Open(IDM_INSERT_TOWER, kTower);
+    ASSERT_NE(dialog, nullptr);
+    ClickMap(ground);
+    CloseDialog(dialog, IDOK);
+    dialog = OpenByRightClick(ground, kTower);
+    ASSERT_NE(dialog, nullptr);
+    CloseDialog(dialog, IDCANCEL);
+}
+
 TEST_F(PlacesDialogTest, InMetresTheLabelsAreMetric) {
     StartOnGround("hub", kMetricSettings);
     HWND dialog = Open(IDM_INSERT_HELIPAD, kHelipad);
@@ -160,6 +191,28 @@ TEST_F(PlacesDialogTest, InMetresTheLabelsAreMetric) {
     ASSERT_NE(dialog, nullptr);
     EXPECT_EQ(Shown(dialog, IDC_PLACE_ELEVATION_LABEL), "&Elevation (m ASL)");
     CloseDialog(dialog, IDCANCEL);
+}
+
+TEST_F(PlacesDialogTest, HelpOpensTheTopicOfEachDialog) {
+    const StandInBrowser browser;
+    StartOnNewAirport();
+    const struct {
+        UINT command;
+        const wchar_t* title;
+        const char* topic;
+    } dialogs[] = { { IDM_INSERT_HELIPAD, kHelipad, "Helipads" },
+                    { IDM_INSERT_TOWER, kTower, "TowerViewpoint" },
+                    { IDM_INSERT_START, kStart, "StartLocations" },
+                    { IDM_AIRPORT_PROPERTIES, L"Airport Properties", "AirportProperties" } };
+    std::string opened;
+    for (const auto& row : dialogs) {
+        const HWND dialog = Open(row.command, row.title);
+        ASSERT_NE(dialog, nullptr);
+        PressButton(dialog, IDHELP);
+        opened += std::string("file:///C:/UiTest/Tarvo/ReadMe.htm#") + row.topic + "\n";
+        EXPECT_TRUE(browser.WaitForOpened(opened)) << browser.Opened();
+        CloseDialog(dialog, IDCANCEL);
+    }
 }
 
 }  // namespace ui

@@ -1,4 +1,7 @@
 // PrintTest.cpp - page setup and printing, on a printer that writes its pages to a file.
+#include <windows.h>
+
+#include <dlgs.h>
 #include <map>
 #include <memory>
 #include <sstream>
@@ -63,17 +66,47 @@ std::string Shown(const std::string& text) {
     return shown;
 }
 
+// What the user has chosen as the measure of the system, "0" metric or "1" not, until the object ends. Programs that
+// start meanwhile go by it.
+class SystemMeasure {
+public:
+    explicit SystemMeasure(const wchar_t* measure) {
+        DWORD bytes = sizeof before;
+        wasSet = RegGetValueW(HKEY_CURRENT_USER, kKey, kValue, RRF_RT_REG_SZ, nullptr, before, &bytes) == ERROR_SUCCESS;
+        Set(measure);
+    }
+    ~SystemMeasure() {
+        if (wasSet) {
+            Set(before);
+        } else {
+            RegDeleteKeyValueW(HKEY_CURRENT_USER, kKey, kValue);
+        }
+    }
+    SystemMeasure(const SystemMeasure&) = delete;
+    SystemMeasure& operator=(const SystemMeasure&) = delete;
+
+private:
+    static constexpr wchar_t kKey[] = L"Control Panel\\International", kValue[] = L"iMeasure";
+    static void Set(const wchar_t* measure) {
+        RegSetKeyValueW(HKEY_CURRENT_USER, kKey, kValue, REG_SZ, measure, 2 * sizeof(wchar_t));
+    }
+    wchar_t before[8] = L"";
+    bool wasSet = false;
+};
+
 class PrintTest : public UiTest {
 protected:
-    void StartWithPrinter() {
+    void StartWithPrinter(const wchar_t* systemMeasure = L"1", const char* settings = kQuietSettings) {
         CreateDirectoryW(kPrintFolder, nullptr);
+        measure = std::make_unique<SystemMeasure>(systemMeasure);
         printer = std::make_unique<TestPrinter>(kPrintFolder);
         ASSERT_TRUE(printer->IsThere()) << "no printer can be declared";
-        ASSERT_NO_FATAL_FAILURE(StartWithSample("hub"));
+        ASSERT_NO_FATAL_FAILURE(StartWithSample("hub", settings));
     }
     void TearDown() override {
         UiTest::TearDown();
         printer.reset();
+        measure.reset();
     }
 
     // What the printer got when the print dialog was answered with OK.
@@ -89,6 +122,9 @@ protected:
         EXPECT_TRUE(WaitUntil([&] { return IsWindowEnabled(mainWindow) != FALSE; }));
         return document;
     }
+    bool WaitForKeyboardOnMap() const {
+        return WaitUntil([&] { return FocusOf(agent) == mainWindow; });
+    }
     HWND OpenSetup() {
         PostCommand(mainWindow, IDM_PAGE_SETUP);
         return Dialog(kSetupTitle);
@@ -99,11 +135,11 @@ protected:
     static void Tick(HWND dialog, int control) { SendMessageW(GetDlgItem(dialog, control), BM_CLICK, 0, 0); }
     static std::wstring Scale(HWND dialog) { return TextOf(GetDlgItem(dialog, IDC_PRINT_SCALE)); }
     // As if typed: the field knows that it was the user.
-    static void TypeScale(HWND dialog, const wchar_t* text) {
-        const HWND field = GetDlgItem(dialog, IDC_PRINT_SCALE);
+    static void TypeInto(HWND field, const wchar_t* text) {
         SendMessageW(field, EM_SETSEL, 0, -1);
         SendMessageW(field, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text));
     }
+    static void TypeScale(HWND dialog, const wchar_t* text) { TypeInto(GetDlgItem(dialog, IDC_PRINT_SCALE), text); }
     // Border, title and a scale.
     static void ChooseAll(HWND dialog, const wchar_t* scale) {
         Tick(dialog, IDC_PRINT_BORDER);
@@ -111,15 +147,25 @@ protected:
         TypeScale(dialog, scale);
     }
     // Into the field, and out of it by the Tab key.
-    void TypeScaleAndLeave(HWND dialog, const wchar_t* text) {
-        const HWND field = GetDlgItem(dialog, IDC_PRINT_SCALE);
+    void TypeAndLeave(HWND dialog, int control, const wchar_t* text) {
+        const HWND field = GetDlgItem(dialog, control);
         PostMessageW(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(field), TRUE);
         ASSERT_TRUE(WaitUntil([&] { return FocusOf(agent) == field; }));
-        TypeScale(dialog, text);
+        TypeInto(field, text);
         PostKey(field, VK_TAB);
         ASSERT_TRUE(WaitUntil([&] { return FocusOf(agent) != field; }));
     }
+    void TypeScaleAndLeave(HWND dialog, const wchar_t* text) { TypeAndLeave(dialog, IDC_PRINT_SCALE, text); }
+    // The sheet in the page setup.
+    static std::vector<uint32_t> Sample(HWND dialog) {
+        return GrabStable([&] { return GrabWindow(GetDlgItem(dialog, rct1)); }).pixels;
+    }
+    static bool WaitForOtherSample(HWND dialog, std::vector<uint32_t>* sample) {
+        const std::vector<uint32_t> before = *sample;
+        return WaitUntil([&] { return (*sample = Sample(dialog)) != before; });
+    }
 
+    std::unique_ptr<SystemMeasure> measure;
     std::unique_ptr<TestPrinter> printer;
 };
 
@@ -163,17 +209,17 @@ TEST_F(PrintTest, ThePageIsMeasured) {
     HWND dialog = OpenSetup();
     ASSERT_NE(dialog, nullptr);
     ChooseAll(dialog, L"1500");
-    const bool metric = TextOf(GetDlgItem(dialog, IDC_PRINT_SCALE_LABEL)) == L"S&cale (ft/cm):";
+    TypeAndLeave(dialog, edt4, L"2");  // the left margin
     CloseDialog(dialog, IDOK);
-    ASSERT_FALSE(metric) << "the numbers are for inches";
-    RECT client{};
-    GetClientRect(mainWindow, &client);
+    ASSERT_NE(dialog = OpenSetup(), nullptr);
+    EXPECT_EQ(TextOf(GetDlgItem(dialog, edt4))[0], L'2') << "the margin is kept";
+    CloseDialog(dialog, IDOK);
     const std::string document = PrintWith(IDM_PRINT);
     const auto clips = Operands(document, "rectclip", 4);
     ASSERT_GT(clips.size(), 100u);
     const std::vector<double> box = clips.front();
-    EXPECT_EQ(box[0], 600 - 150) << "an inch of margin";
-    EXPECT_EQ(box[2], 4958 - 2 * 600) << "the view is wider than the paper";
+    EXPECT_EQ(box[0], 2 * 600 - 150) << "two inches of margin";
+    EXPECT_EQ(box[2], 4958 - 3 * 600) << "the view is wider than the paper, whose right margin is an inch";
     const double shown = 3704.3518 * 3.280839895 / 1500 * 600;  // two nautical miles of the first view, in feet
     EXPECT_NEAR(box[3], shown, 1.01) << "both edges are whole pixels";
     EXPECT_NEAR(box[1] + box[3] / 2, 7016 / 2.0 - 150, 1) << "in the middle";
@@ -233,10 +279,7 @@ TEST_F(PrintTest, TheScaleFollowsWhatIsTyped) {
     StartWithPrinter();
     const HWND dialog = OpenSetup();
     ASSERT_NE(dialog, nullptr);
-    wchar_t measure[2] = L"";
-    GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_IMEASURE, measure, 2);
-    EXPECT_EQ(TextOf(GetDlgItem(dialog, IDC_PRINT_SCALE_LABEL)),
-              measure[0] == L'0' ? L"S&cale (ft/cm):" : L"S&cale (ft/in):");
+    EXPECT_EQ(TextOf(GetDlgItem(dialog, IDC_PRINT_SCALE_LABEL)), L"S&cale (ft/in):");
     EXPECT_FALSE(IsChecked(dialog, IDC_PRINT_BORDER));
     EXPECT_FALSE(IsChecked(dialog, IDC_PRINT_TITLE));
     const std::wstring fitted = Scale(dialog);
@@ -249,6 +292,86 @@ TEST_F(PrintTest, TheScaleFollowsWhatIsTyped) {
     EXPECT_EQ(Scale(dialog), L"400");
     Press(dialog, IDC_FIT_PAGE);
     EXPECT_TRUE(WaitUntil([&] { return Scale(dialog) == fitted; }));
+    CloseDialog(dialog, IDCANCEL);
+}
+
+TEST_F(PrintTest, GroundFollowsTheSettingsAndPaperTheSystem) {
+    struct Case {
+        const wchar_t* measure;
+        const char* settings;
+        const wchar_t* label;
+    };
+    const Case cases[] = {
+        { L"0", "[General]\r\nNextUpdateNotice=9999\r\nMetric=0\r\n", L"S&cale (ft/cm):" },
+        { L"0", "[General]\r\nNextUpdateNotice=9999\r\nMetric=1\r\n", L"S&cale (m/cm):" },
+        { L"1", "[General]\r\nNextUpdateNotice=9999\r\nMetric=1\r\n", L"S&cale (m/in):" },
+    };
+    for (const Case& each : cases) {
+        ASSERT_NO_FATAL_FAILURE(StartWithPrinter(each.measure, each.settings));
+        const HWND dialog = OpenSetup();
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_EQ(TextOf(GetDlgItem(dialog, IDC_PRINT_SCALE_LABEL)), each.label);
+        CloseDialog(dialog, IDCANCEL);
+        TearDown();
+    }
+}
+
+TEST_F(PrintTest, TheSampleFollowsEachControl) {
+    StartWithPrinter();
+    const HWND dialog = OpenSetup();
+    ASSERT_NE(dialog, nullptr);
+    ASSERT_TRUE(BringToFront(dialog));
+    ParkPointer();
+    std::vector<uint32_t> sample = Sample(dialog);
+    Tick(dialog, IDC_PRINT_BORDER);
+    EXPECT_TRUE(WaitForOtherSample(dialog, &sample)) << "border";
+    Tick(dialog, IDC_PRINT_TITLE);
+    EXPECT_TRUE(WaitForOtherSample(dialog, &sample)) << "title";
+    const std::vector<uint32_t> fitted = sample;
+    TypeScaleAndLeave(dialog, L"9000");
+    EXPECT_TRUE(WaitForOtherSample(dialog, &sample)) << "scale";
+    Press(dialog, IDC_FIT_PAGE);
+    EXPECT_TRUE(WaitUntil([&] { return Sample(dialog) == fitted; })) << "Fit Page";
+    CloseDialog(dialog, IDCANCEL);
+}
+
+TEST_F(PrintTest, AfterPrintingTheMapHasTheKeyboardAgain) {
+    StartWithPrinter();
+    ASSERT_TRUE(BringToFront(mainWindow));
+    ASSERT_TRUE(WaitForKeyboardOnMap());
+    EXPECT_EQ(Count(PrintWith(IDM_PRINT), "%%Page:"), 1);
+    EXPECT_TRUE(WaitForKeyboardOnMap());
+}
+
+TEST_F(PrintTest, EachPrintBeginsWithOneCopy) {
+    StartWithPrinter();
+    PostCommand(mainWindow, IDM_PRINT);
+    HWND dialog = Dialog(kPrintTitle);
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(TextOf(GetDlgItem(dialog, edt3)), L"1");
+    TypeAndLeave(dialog, edt3, L"5");
+    CloseDialog(dialog, IDOK);
+    ASSERT_TRUE(WaitUntil([&] { return printer->Document().find("%%EOF") != std::string::npos; }));
+    ASSERT_TRUE(WaitUntil([&] { return IsWindowEnabled(mainWindow) != FALSE; }));
+    PostCommand(mainWindow, IDM_PRINT);
+    ASSERT_NE(dialog = Dialog(kPrintTitle), nullptr);
+    EXPECT_EQ(TextOf(GetDlgItem(dialog, edt3)), L"1");
+    CloseDialog(dialog, IDCANCEL);
+}
+
+TEST_F(PrintTest, ThePrintDialogOffersNothingThatPrintingDoesNotDo) {
+    StartWithPrinter();
+    PostCommand(mainWindow, IDM_PRINT);
+    const HWND dialog = Dialog(kPrintTitle);
+    ASSERT_NE(dialog, nullptr);
+    const auto offers = [&](int control) {
+        const HWND window = GetDlgItem(dialog, control);
+        return IsWindowVisible(window) && IsWindowEnabled(window);
+    };
+    EXPECT_TRUE(offers(rad1)) << "all pages";
+    EXPECT_FALSE(offers(rad2)) << "a selection";
+    EXPECT_FALSE(offers(rad3)) << "some pages";
+    EXPECT_FALSE(offers(chx1)) << "print to file";
     CloseDialog(dialog, IDCANCEL);
 }
 

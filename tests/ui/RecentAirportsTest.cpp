@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "OpenAirportSteps.h"
+#include "UiFiles.h"
 
 namespace ui {
 
@@ -30,6 +31,23 @@ TEST_F(RecentAirportsTest, RecentAirportsAreThereAfterARestart) {
     EXPECT_EQ(RecentTexts(), std::vector<std::wstring>{ L"&1  CYYJ" });
     PostCommand(mainWindow, IDM_RECENT_FIRST);
     EXPECT_TRUE(WaitForTitle(L"Tarvo    CYYJ")) << Utf8(Title());
+}
+
+TEST_F(RecentAirportsTest, APathThatASettingsFileOf8BitsCannotHoldIsThereAfterARestart) {
+    const SampleAirport sample = FindSample("hub");
+    const std::wstring name = L"Flugh\u00E4fen \u6771\u4EAC.bgl";
+    const std::wstring file = PutAddOn(sample.path, name.c_str());
+    Start(L"\"" + file + L"\" " + sample.ident, "[General]\r\nNextUpdateNotice=9999\r\nMine=7\r\n");
+    ASSERT_TRUE(WaitForTitle(L"( file " + name + L" )")) << Utf8(Title());
+    EXPECT_EQ(CloseProgram(), 0u);
+    const std::string bytes = BytesOf(kSettingsFile);
+    EXPECT_EQ(bytes.substr(0, 2), "\xFF\xFE");
+    EXPECT_NE(bytes.find(std::string("M\0i\0n\0e\0=\0007\0", 12)), std::string::npos) << "a key of others is lost";
+    DetachAgent(&agent);
+    EndProgram(&program);
+    Start(L"", nullptr);
+    PostCommand(mainWindow, IDM_RECENT_FIRST);
+    EXPECT_TRUE(WaitForTitle(L"( file " + name + L" )")) << Utf8(Title());
 }
 
 TEST_F(RecentAirportsTest, ARecentAirportThatItsFileDoesNotHoldAnyMoreLeavesNoneOpen) {

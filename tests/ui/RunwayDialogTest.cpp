@@ -40,6 +40,9 @@ TEST_F(RunwayDialogTest, ANewRunwayIsPlacedByAClickAndMustBeMeasured) {
     EXPECT_EQ(Shown(again, IDC_RUNWAY_WIDTH), "150");
     EXPECT_EQ(Choice(again, IDC_END_NUMBER), 37);
     CloseDialog(again, IDOK);
+    const HWND byMenu = OpenByRightClick(ground, kRunwayTitle);
+    ASSERT_NE(byMenu, nullptr);
+    CloseDialog(byMenu, IDCANCEL);
     Command(IDM_UNDO);
     EXPECT_FALSE(CanUndo()) << "OK without a change is no action";
 }

@@ -109,6 +109,19 @@ TEST_F(SaveTest, SaveAsWritesTheAirportAndItReadsBackAsItWas) {
     EXPECT_EQ(different, 0) << "the map of the saved airport differs";
 }
 
+TEST_F(SaveTest, TheDialogOffersBglFilesInTheAddOnFolder) {
+    const std::wstring file = L"C:\\UiTest\\FS9\\AddOn Scenery\\Scenery\\TV2_first.bgl";
+    StartWithSample("hub");
+    PostCommand(mainWindow, IDM_SAVE_AS);
+    const HWND dialog = Dialog(kSaveTitle);
+    ASSERT_NE(dialog, nullptr);
+    constexpr int kFileTypes = 1136;
+    EXPECT_EQ(TextOf(ChildWithId(dialog, kFileTypes)), L"Bgl files");
+    ASSERT_TRUE(AnswerFileDialog(dialog, L"TV2_first.bgl"));
+    EXPECT_TRUE(WaitForTitle(L"( file TV2_first.bgl )")) << Utf8(Title());
+    EXPECT_TRUE(DeleteFileW(file.c_str())) << "another folder was shown";
+}
+
 TEST_F(SaveTest, AnExistingFileIsReplacedOnlyWithConsent) {
     FILE* file = _wfopen(In(L"new.bgl").c_str(), L"wb");
     ASSERT_NE(file, nullptr);

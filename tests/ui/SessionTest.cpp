@@ -17,7 +17,7 @@ constexpr wchar_t kBackup[] = L"C:\\UiTest\\Tarvo\\AutoBackupTemp.bgl";
 constexpr wchar_t kSpecs[] = L"C:\\UiTest\\Tarvo\\ParkingSpecs.txt";
 constexpr wchar_t kSavedSpecs[] = L"C:\\UiTest\\ParkingSpecs.saved";
 constexpr wchar_t kPrompt[] = L"Do you want to save changes to the current facility ?";
-constexpr WPARAM kBackupTimer = 3;
+constexpr WPARAM kLinkTimer = 1, kBackupTimer = 3;
 
 void PutBytes(const std::wstring& path, const std::string& bytes) {
     FILE* file = _wfopen(path.c_str(), L"wb");
@@ -75,6 +75,10 @@ protected:
     void TickBackup() {
         PostMessageW(mainWindow, WM_TIMER, kBackupTimer, 0);
         ASSERT_TRUE(SettlePosted(agent));
+    }
+    // Whether the timer ran; it does not any more.
+    bool RanTimer(WPARAM timer) {
+        return SendMessageW(agent.window, kAgentEndTimer, timer, reinterpret_cast<LPARAM>(mainWindow)) != 0;
     }
     void Kill() {
         DetachAgent(&agent);
@@ -209,7 +213,7 @@ TEST_F(SessionTest, AChangedAirportIsBackedUpRecoveredAfterAKillAndSaved) {
     ASSERT_TRUE(AnswerFileDialog(dialog, target));
     ASSERT_TRUE(WaitForTitle(L"( file TV2_recovered.bgl )")) << Utf8(Title());
     EXPECT_TRUE(WaitUntil([&] { return !IsThere(kBackup); }));
-    EXPECT_EQ(StatusText(mainWindow, kNoticePart), L"");
+    EXPECT_TRUE(WaitForNotice(L"Saved TV2_"));
     EXPECT_EQ(BytesOf(target).size(), backup.size());
     EXPECT_EQ(CloseProgram(), 0u) << "the saved airport still counts as changed";
 }
@@ -261,13 +265,10 @@ TEST_F(SessionTest, ASecondInstanceLeavesTheBackupOfTheFirstAlone) {
 
 TEST_F(SessionTest, TheTimersOfTheLinkAndOfTheBackupRunFromTheStart) {
     Start();
-    const auto ran = [&](WPARAM timer) {
-        return SendMessageW(agent.window, kAgentEndTimer, timer, reinterpret_cast<LPARAM>(mainWindow)) != 0;
-    };
-    EXPECT_TRUE(ran(1));
-    EXPECT_TRUE(ran(kBackupTimer));
-    EXPECT_FALSE(ran(kBackupTimer)) << "the question itself is wrong";
-    EXPECT_FALSE(ran(2)) << "nothing is dragged";
+    EXPECT_TRUE(RanTimer(kLinkTimer));
+    EXPECT_TRUE(RanTimer(kBackupTimer));
+    EXPECT_FALSE(RanTimer(kBackupTimer)) << "the question itself is wrong";
+    EXPECT_FALSE(RanTimer(2)) << "nothing is dragged";
 }
 
 TEST_F(SessionTest, AFailingBackupShowsInTheStatusBarOnly) {
@@ -365,6 +366,12 @@ TEST_F(SessionTest, ShuttingDownAsksAndThenSavesTheSettings) {
     EXPECT_FALSE(IsThere(kBackup));
 }
 
+TEST_F(SessionTest, AfterTheEndOfTheSessionNoTickTakesTheHotKeysAgain) {
+    Start();
+    SendMessageW(mainWindow, WM_ENDSESSION, TRUE, 0);
+    EXPECT_FALSE(RanTimer(kLinkTimer));
+}
+
 TEST_F(SessionTest, EditsAfterTheAnswerToAShutdownAreBackedUp) {
     ASSERT_NO_FATAL_FAILURE(StartModified());
     SendNotifyMessageW(mainWindow, WM_QUERYENDSESSION, 0, 0);
@@ -404,18 +411,6 @@ TEST_F(SessionTest, TheCloseBoxPointsToTheDialogThatIsOpen) {
     PressButton(dialog, IDCANCEL);
     ASSERT_TRUE(WaitUntilGone(dialog));
     EXPECT_EQ(CloseProgram(), 0u);
-}
-
-TEST_F(SessionTest, SettingsThatAnEditorKeptAsUtf8AreReadAndBecomeUtf16) {
-    Start(L"", "\xEF\xBB\xBF[General]\r\nNextUpdateNotice=9999\r\nShowLatLongGrid=0\r\nMine=Z\xC3\xBCrich\r\n");
-    EXPECT_FALSE(IsChecked(IDM_GRID));
-    EXPECT_EQ(CloseProgram(), 0u);
-    EXPECT_EQ(BytesOf(kSettingsFile).substr(0, 2), "\xFF\xFE");
-    const std::string text = SettingsText();
-    EXPECT_NE(text.find("Mine=Z\xFCrich\r\n"), std::string::npos) << text;
-    EXPECT_NE(text.find("ShowLatLongGrid=0\r\n"), std::string::npos) << text;
-    EXPECT_EQ(text.find("[General]"), 2u);
-    EXPECT_EQ(text.rfind("[General]"), 2u) << "a section of the same name again";
 }
 
 TEST_F(SessionTest, AShutdownThatDoesNotAskLeavesABackup) {

@@ -1,6 +1,7 @@
 // SimulatorFolderTest.cpp - what a start asks when the registry does not lead to the simulator.
 #include <shlobj.h>
 
+#include "UiFiles.h"
 #include "UiHarness.h"
 
 namespace ui {
@@ -32,6 +33,16 @@ std::wstring Registered() {
     RegGetValueW(key, nullptr, kValue, RRF_RT_REG_SZ, nullptr, text, &bytes);
     RegCloseKey(key);
     return text;
+}
+
+// It is there, but not shown yet.
+HWND HiddenMainWindow(DWORD process) {
+    HWND window = nullptr;
+    for (DWORD owner = 0; (window = FindWindowExW(nullptr, window, kMainClass, nullptr)) != nullptr;) {
+        GetWindowThreadProcessId(window, &owner);
+        if (owner == process) break;
+    }
+    return window;
 }
 
 }  // namespace
@@ -95,6 +106,20 @@ TEST_F(SimulatorFolderTest, AWrongEntryIsNamedAndStaysWithoutConsent) {
     PressButton(box.window, IDNO);
     Attach();
     EXPECT_EQ(Registered(), L"C:\\UiTest\\");
+}
+
+TEST_F(SimulatorFolderTest, AShutdownUnderTheQuestionKeepsThatTheWindowWasMaximized) {
+    Register(nullptr);
+    Launch(L"", "[General]\r\nNextUpdateNotice=9999\r\nWindowMaximized=1\r\n");
+    const HWND browser = Dialog(kBrowser);
+    ASSERT_NE(browser, nullptr);
+    const HWND window = HiddenMainWindow(program.id);
+    ASSERT_NE(window, nullptr);
+    constexpr LPARAM kCritical = 0x40000000;
+    SendMessageW(window, WM_ENDSESSION, TRUE, kCritical);
+    const std::string settings = BytesOf(kSettingsFile);
+    EXPECT_NE(settings.find("NodeKeyCode=190"), std::string::npos) << "nothing was written: " << settings;
+    EXPECT_NE(settings.find("WindowMaximized=1"), std::string::npos) << settings;
 }
 
 TEST_F(SimulatorFolderTest, CancellingStartsTheProgramWithoutASimulator) {

@@ -51,10 +51,10 @@ void UiTest::Start(const std::wstring& arguments, const char* settings) {
     ASSERT_NO_FATAL_FAILURE(Attach());
 }
 
-void UiTest::StartWithSample(const std::string& name) {
+void UiTest::StartWithSample(const std::string& name, const char* settings) {
     SampleAirport sample = FindSample(name);
     ASSERT_FALSE(sample.path.empty()) << "no sample airport " << name;
-    ASSERT_NO_FATAL_FAILURE(Start(L"\"" + sample.path + L"\" " + sample.ident));
+    ASSERT_NO_FATAL_FAILURE(Start(L"\"" + sample.path + L"\" " + sample.ident, settings));
     ASSERT_TRUE(WaitForTitle(sample.ident)) << "title is " << Utf8(Title());
 }
 

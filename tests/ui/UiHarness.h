@@ -34,7 +34,8 @@ protected:
     // Starts the program and waits for its main window, agent attached. `settings` becomes the settings file; null
     // keeps the one that the start before has left.
     void Start(const std::wstring& arguments = L"", const char* settings = kQuietSettings);
-    void StartWithSample(const std::string& name);  // and waits until the title shows that airport
+    // And waits until the title shows that airport.
+    void StartWithSample(const std::string& name, const char* settings = kQuietSettings);
     // Only the process, without waiting for a window: for tests of what comes up before or over it.
     void Launch(const std::wstring& arguments, const char* settings);
     void Attach();

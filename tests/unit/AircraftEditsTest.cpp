@@ -5,6 +5,7 @@
 #include <initializer_list>
 #include <utility>
 
+#include "aircraft/FilePair.h"
 #include "app/ParkingSpecs.h"
 #include "fakes/AircraftFixture.h"
 
@@ -264,6 +265,35 @@ TEST_F(AircraftEdits, AVariationThatTheBackupDoesNotHaveKeepsItsValues) {
     EXPECT_EQ(Get(kConfig), kOriginal);
     EXPECT_TRUE(RestoreAircraft(Load(0)));
     EXPECT_EQ(Get(kConfig), Changed({ { "=KLM\r\n", "=OLD\r\n" }, { "=GATE", "=" }, { "KLM,NWA", "" } }));
+}
+
+TEST_F(AircraftEdits, AModelComesBackWhereTheBackupDoesNotHaveTheVariation) {
+    Put(kConfigBackup, "[fltsim.0]\r\natc_airline=OLD\r\n");
+    Put(kModelBackup, Model(5));
+    EXPECT_TRUE(RestoreAircraft(Load(1)));
+    EXPECT_EQ(Get(kModel), Model(5));
+    EXPECT_EQ(Get(kConfig), kOriginal);
+    EXPECT_TRUE(fake.messages.empty());
+    EXPECT_FALSE(RestoreAircraft(Load(1))) << "now there is nothing to restore";
+    EXPECT_EQ(fake.messages.size(), 1u);
+}
+
+TEST_F(AircraftEdits, AModelThatIsGoneComesBackFromItsBackup) {
+    EXPECT_TRUE(Apply([](AircraftFields* fields) { *fields = { "X", "g", "X", "20" }; }));
+    std::filesystem::remove(root / kModel);
+    EXPECT_EQ(Load().radius, 0u);
+    EXPECT_TRUE(RestoreAircraft(Load()));
+    EXPECT_EQ(Get(kModel), Model(18));
+    EXPECT_EQ(Get(kConfig), kOriginal);
+    EXPECT_EQ(Load().radius, 18u);
+}
+
+TEST_F(AircraftEdits, AFileThatWasNotThereIsGoneAgainWhenTheNextCannotBeWritten) {
+    const std::string fresh = Simulator() + "/fresh.mdl", unwritable = Simulator() + "/missing/other.mdl";
+    std::string failed;
+    EXPECT_FALSE(WriteChanges({ { fresh, {}, { 'x' }, false }, { unwritable, {}, { 'x' }, false } }, &failed));
+    EXPECT_EQ(failed, unwritable);
+    EXPECT_FALSE(Exists("fresh.mdl"));
 }
 
 TEST_F(AircraftEdits, TheCodeSelectorOffersTheCodesOfAllSpecs) {

@@ -105,6 +105,8 @@ TEST_F(AircraftVariations, ABrokenModelFolderHasNoRadius) {
     EXPECT_EQ(find(std::string("[models]\nnormal=plain.MDL\0x\n", 28)), "");
     EXPECT_NE(find("; x\n[Models]\n Normal = plain \ncrash=plain\n"), "");
     EXPECT_NE(find("[models]\nnormal=plain // of the year\n"), "");
+    Put("Aircraft/a/Model/gone.MDL_backup", Model(18));
+    EXPECT_EQ(find("[models]\nnormal=gone\n"), Simulator() + "/Aircraft/a\\Model\\gone.MDL") << "where it was";
 }
 
 TEST_F(AircraftVariations, WithoutASimulatorThereIsNothing) {

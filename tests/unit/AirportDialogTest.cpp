@@ -147,6 +147,23 @@ TEST_F(AirportDialog, AnotherIdIsAskedAboutAndStoredUpperCased) {
     EXPECT_EQ(model::state.icao, "KBFI");
 }
 
+TEST_F(AirportDialog, BlanksAreRefusedBeforeAnotherIdIsAskedAbout) {
+    EXPECT_FALSE(Edit([](AirportFields& entered) { entered.id = "KBFI", entered.city.clear(); }));
+    ASSERT_EQ(fake.messages.size(), 1u);
+    EXPECT_EQ(LastMessage(), "The City field is blank. You must supply a city");
+}
+
+TEST_F(AirportDialog, AnotherIdIsAskedAboutBeforeThePlaceholderIsRefused) {
+    SetPoint(airport, kPlaceholder);
+    fake.answers = { Answer::Yes };
+    EXPECT_FALSE(Edit([](AirportFields& entered) { entered.id = "KBFI"; }));
+    ASSERT_EQ(fake.messages.size(), 2u);
+    EXPECT_EQ(fake.messages[0].buttons, Buttons::YesNo);
+    EXPECT_EQ(fake.messages[1].text, "You must enter at least an approximate\nlatitude and longitude for the airport");
+    EXPECT_EQ(model::state.icao, "KSEA");
+    EXPECT_EQ(+Airport().ident, model::PackIdent("KSEA") << 5 | 1);
+}
+
 TEST_F(AirportDialog, TheSameIdInSmallLettersIsNoChange) {
     EXPECT_TRUE(Edit([](AirportFields& entered) { entered.id = "ksea"; }));
     EXPECT_TRUE(fake.messages.empty());
@@ -268,7 +285,7 @@ TEST_F(NewAirport, ItStartsUnnamedAtThePlaceholderWithATowerThere) {
     EXPECT_EQ(airport->payloadSize, 46u);
     EXPECT_EQ(+record.longitude, 0x18000000u);
     EXPECT_EQ(+record.latitude, 0x10000000u);
-    EXPECT_EQ(record.ident >> 5, 1u);
+    EXPECT_EQ(+record.ident, 1u << 5);
     EXPECT_EQ(model::state.airport, airport);
     ASSERT_EQ(build::List().size(), 2u);
     EXPECT_EQ(+As<model::TowerViewpointRecord>(model::state.tail).latitude, 0x10000000u);
@@ -282,6 +299,7 @@ TEST_F(NewAirport, ItStartsUnnamedAtThePlaceholderWithATowerThere) {
 
 TEST_F(NewAirport, OkMakesItTheOpenModifiedAirportWithoutHistoryAndLooksAtIt) {
     map::view.rotation = 1;
+    map::view.span = 1000;
     EXPECT_TRUE(Store());
     EXPECT_TRUE(fake.messages.empty());  // no question about the ID
     EXPECT_TRUE(model::state.loaded);
@@ -290,7 +308,9 @@ TEST_F(NewAirport, OkMakesItTheOpenModifiedAirportWithoutHistoryAndLooksAtIt) {
     EXPECT_EQ(model::state.icao, "TST1");
     EXPECT_EQ(+As<model::AirportRecord>(airport).fuel, 0xC0000000u);
     EXPECT_EQ(map::view.rotation, 0);
+    EXPECT_EQ(map::view.span, 3704.3518);
     EXPECT_EQ(map::view.centre.lat, model::PositionOf(airport).lat);
+    EXPECT_EQ(map::view.centre.lon, model::PositionOf(airport).lon);
     map::view = {};
 }
 

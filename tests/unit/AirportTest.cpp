@@ -4,7 +4,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <random>
 
 #include "app/AppState.h"
 #include "bgl/AirportWriter.h"
@@ -14,6 +13,7 @@
 #include "fakes/FakePlatform.h"
 #include "fakes/FakeShell.h"
 #include "fakes/SceneryBytes.h"
+#include "fakes/TemporaryFolder.h"
 #include "map/MapView.h"
 #include "map/Tools.h"
 #include "model/EditHistory.h"
@@ -28,14 +28,8 @@ protected:
     void SetUp() override {
         ResetProgram();
         map::ResizeView(800, 600);
-        folder = fs::temp_directory_path() / ("tarvo-airport-" + std::to_string(std::random_device{}()));
-        fs::create_directories(folder);
     }
-    void TearDown() override {
-        ResetProgram();
-        std::error_code ignored;
-        fs::remove_all(folder, ignored);
-    }
+    void TearDown() override { ResetProgram(); }
     std::string In(const std::string& name) const { return (folder / name).string(); }
 
     // A file with one airport and one node.
@@ -49,7 +43,8 @@ protected:
     }
     static std::string OnlyMessage() { return fake.messages.size() == 1 ? fake.messages[0].text : "not one message"; }
 
-    fs::path folder;
+    const TemporaryFolder temporary;
+    const fs::path& folder = temporary.path;
 };
 
 TEST_F(AirportTest, OpeningShowsTheAirportInTheMiddleNorthUp) {

@@ -3,12 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <cstring>
-#include <filesystem>
-#include <fstream>
 #include <limits>
-#include <random>
 
 #include "bgl/OpenAirport.h"
 #include "fakes/AirportFixture.h"
@@ -347,84 +343,6 @@ TEST_F(AirportWriter, LinksWithoutADesignatorHoldZeroAndNoRecordIsAdded) {
     const ByteList links = Bodies(0x1C).at(0);
     EXPECT_EQ(links[2 + 5], 1);
     EXPECT_EQ(links[2 + 20 + 5], 0);
-}
-
-class AirportFile : public AirportWriter {
-protected:
-    void SetUp() override {
-        AirportWriter::SetUp();
-        folder = std::filesystem::temp_directory_path() / ("tarvo-writer-" + std::to_string(std::random_device{}()));
-        std::filesystem::create_directories(folder);
-    }
-    void TearDown() override {
-        std::error_code ignored;
-        std::filesystem::remove_all(folder, ignored);
-        AirportWriter::TearDown();
-    }
-    static std::string Utf8(const std::filesystem::path& path) {
-        const std::u8string text = path.u8string();
-        return { text.begin(), text.end() };
-    }
-    static ByteList Content(const std::filesystem::path& path) {
-        std::ifstream file(path, std::ios::binary);
-        return ByteList(std::istreambuf_iterator<char>(file), {});
-    }
-    std::filesystem::path folder;
-};
-
-TEST_F(AirportFile, HoldsTheBuiltBytesAndTheTimeOfSaving) {
-    fake.fileTime = kTestTime;
-    const auto path = folder / "TV2_KSEA.bgl";
-    EXPECT_EQ(bgl::WriteAirportFile(Utf8(path)), 1);
-    EXPECT_EQ(Content(path), BuildFile());
-    EXPECT_TRUE(fake.messages.empty());
-}
-
-TEST_F(AirportFile, ReplacesAnOlderFile) {
-    const auto path = folder / u8"TV2_\u00c5land.bgl";
-    std::ofstream(path, std::ios::binary) << std::string(100000, 'x');
-    fake.fileTime = kTestTime;
-    EXPECT_EQ(bgl::WriteAirportFile(Utf8(path)), 1);
-    EXPECT_EQ(Content(path) == BuildFile(), true);
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 1);
-}
-
-TEST_F(AirportFile, CannotBeCreatedInAMissingFolder) {
-    EXPECT_EQ(bgl::WriteAirportFile(Utf8(folder / "missing" / "a.bgl")), 0);
-    ASSERT_EQ(fake.messages.size(), 1u);
-    EXPECT_EQ(fake.messages[0].text, "ERROR: Unable to create .bgl file");
-    EXPECT_EQ(fake.messages[0].buttons, platform::Buttons::Ok);
-    EXPECT_EQ(fake.messages[0].icon, platform::Icon::Exclamation);
-}
-
-TEST_F(AirportFile, CannotReplaceAFolderWhichStaysAsItIs) {
-    const auto path = folder / "taken.bgl";
-    std::filesystem::create_directories(path);
-    std::ofstream(path / "inside") << "content";
-    EXPECT_EQ(bgl::WriteAirportFile(Utf8(path)), 0);
-    EXPECT_EQ(fake.messages.size(), 1u);
-    EXPECT_EQ(Content(path / "inside"), Text("content"));
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 1);  // no sibling left behind
-}
-
-TEST_F(AirportFile, RefusedAirportLeavesTheOldFileAlone) {
-    const auto path = folder / "old.bgl";
-    std::ofstream(path, std::ios::binary) << "old";
-    for (int i = 0; i < 256; ++i) build::Runway(1);
-    EXPECT_EQ(bgl::WriteAirportFile(Utf8(path)), 0);
-    ASSERT_EQ(fake.messages.size(), 1u);
-    EXPECT_EQ(fake.messages[0].text, "ERROR: The airport has 256 runways.\nA scenery file can hold no more than 255.");
-    EXPECT_EQ(fake.messages[0].icon, platform::Icon::Exclamation);
-    EXPECT_EQ(Content(path), Text("old"));
-}
-
-TEST_F(AirportFile, WithoutAirportTheOldFileStaysAndNothingIsSaid) {
-    const auto path = folder / "old.bgl";
-    std::ofstream(path, std::ios::binary) << "old";
-    ClearModel();
-    EXPECT_EQ(bgl::WriteAirportFile(Utf8(path)), 0);
-    EXPECT_TRUE(fake.messages.empty());
-    EXPECT_EQ(Content(path), Text("old"));
 }
 
 }  // namespace

@@ -44,6 +44,7 @@ TEST_F(ApronFault, CrossedEdgesAreReportedWithTheCrossing) {
 TEST_F(ApronFault, ATriangleIsNeverChecked) {
     ApronOf({ { 0, 0 }, { 50, 0 }, { 100, 0 } });
     ApronOf({ { 0, 0 }, { 50, 0 } });
+    ApronOf({});  // has no first corner to start from
     EXPECT_TRUE(Reports().empty());
 }
 
@@ -96,13 +97,20 @@ TEST_F(ApronFault, AnOutlineOfTheMostCornersIsSearchedAtOnce) {
     EXPECT_NEAR(crossing.y, corners[40000].y, 1);
 }
 
-TEST_F(ApronFault, ASawOfLongTeethIsSearchedAtOnce) {
-    std::vector<Point> corners;
-    for (int i = 0; i < 60000; ++i) corners.push_back({ i * 0.1, i % 2 == 0 ? 0.0 : 5000.0 });
-    corners.push_back({ 6000, -1 });
-    corners.push_back({ 0, -1 });
-    Point crossing;
-    EXPECT_FALSE(faults::FindCrossing(corners, &crossing));
+TEST_F(ApronFault, ASawOfLongTeethIsSearchedAtOnceHoweverItIsTurned) {
+    for (const double turn : { 0.0, 20.0, 45.0, 90.0, 135.0, 160.0 }) {
+        const double sine = std::sin(turn * model::kRadiansPerDegree),
+                     cosine = std::cos(turn * model::kRadiansPerDegree);
+        const auto turned = [&](double x, double y) { return Point{ x * cosine - y * sine, x * sine + y * cosine }; };
+        std::vector<Point> corners;
+        for (int i = 0; i < 60000; ++i) corners.push_back(turned(i * 0.1, i % 2 == 0 ? 0.0 : 5000.0));
+        corners.push_back(turned(6000, -1));
+        corners.push_back(turned(0, -1));
+        Point crossing;
+        EXPECT_FALSE(faults::FindCrossing(corners, &crossing)) << turn;
+        std::swap(corners[40001], corners[40003]);
+        EXPECT_TRUE(faults::FindCrossing(corners, &crossing)) << turn;
+    }
 }
 
 TEST_F(ApronFault, CornersOnOnePlaceTouch) {

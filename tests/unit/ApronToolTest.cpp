@@ -50,6 +50,17 @@ TEST_F(ApronToolTest, EscapeClosesTheOutlineIntoAnApron) {
     ExpectOneAction(before);
 }
 
+TEST_F(ApronToolTest, EscapeClosesTheOutlineWhileTheButtonIsStillDown) {
+    ClickAll({ { 0, 0 }, { 100, 0 } });
+    Press({ 100, 100 });
+    Escape();
+    EXPECT_TRUE(tools.outline.empty());
+    EXPECT_EQ(CountKind(kApron), 1u);
+    Release({ 100, 100 });
+    EXPECT_TRUE(tools.outline.empty());
+    EXPECT_EQ(CountKind(kApron), 1u);
+}
+
 TEST_F(ApronToolTest, ADoubleClickClosesToo) {
     ClickAll({ { 0, 0 }, { 100, 0 }, { 100, 100 } });
     OnDoubleClick(PixelOf({ 100, 100 }), {});

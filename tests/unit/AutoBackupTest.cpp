@@ -269,7 +269,7 @@ TEST_F(AutoBackup, ARecoveredAirportAsksForAFileAndItsBackupGoesOnceItIsSaved) {
     fakeShell.savePath = Utf8Path(File("TV2_KSEA.bgl"));
     EXPECT_TRUE(app::SaveAirport());
     EXPECT_FALSE(Exists("AutoBackupTemp.bgl"));
-    EXPECT_EQ(fakeShell.notice, "");
+    EXPECT_EQ(fakeShell.notice, "Saved TV2_KSEA.bgl");
 }
 
 TEST_F(AutoBackup, TheBackupItselfIsNoPlaceToSaveTo) {

@@ -3,7 +3,6 @@
 #include <cmath>
 #include <filesystem>
 #include <fstream>
-#include <random>
 #include <sstream>
 
 #include "app/Settings.h"
@@ -12,6 +11,7 @@
 #include "cli/Tool.h"
 #include "fakes/BuildObjects.h"
 #include "fakes/FakePlatform.h"
+#include "fakes/TemporaryFolder.h"
 #include "map/MapView.h"
 #include "platform/Files.h"
 
@@ -43,14 +43,8 @@ protected:
     void SetUp() override {
         ResetFakes();
         model::ClearModel();
-        folder = fs::temp_directory_path() / ("tarvo-cli-" + std::to_string(std::random_device{}()));
-        fs::create_directories(folder);
     }
-    void TearDown() override {
-        model::ClearModel();
-        std::error_code ignored;
-        fs::remove_all(folder, ignored);
-    }
+    void TearDown() override { model::ClearModel(); }
     std::string In(const std::string& name) const { return (folder / name).string(); }
 
     // A file with one small airport.
@@ -77,7 +71,8 @@ protected:
         std::memcpy(&time, Read(path).data() + 8, sizeof time);
         return time;
     }
-    fs::path folder;
+    const TemporaryFolder temporary;
+    const fs::path& folder = temporary.path;
 };
 
 TEST(Arguments, OptionsMayStandAnywhere) {

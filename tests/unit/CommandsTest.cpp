@@ -307,16 +307,6 @@ TEST_F(CommandsTest, HelpOpensTheReadMeOfTheProgramFolder) {
     EXPECT_EQ(fakeShell.documents[0], "\\ReadMe.htm");  // the program folder of the tests is empty
 }
 
-TEST_F(CommandsTest, AboutAndKeyboardFunctionsHaveTheirOwnTitles) {
-    RunCommand(IDM_ABOUT);
-    RunCommand(IDM_KEYBOARD);
-    ASSERT_EQ(fakeShell.texts.size(), 2u);
-    EXPECT_EQ(fakeShell.textTitles[0], "About Tarvo");
-    EXPECT_EQ(fakeShell.texts[0], "Tarvo Version 2.21 for FS2004");
-    EXPECT_EQ(fakeShell.textTitles[1], "Keyboard Functions");
-    EXPECT_EQ(fakeShell.texts[1], app::kKeyboardText);
-}
-
 TEST_F(CommandsTest, OpenAsksAboutTheAirportBeforeItsDialogComes) {
     for (const int id : { IDM_OPEN, IDT_OPEN }) {
         fakeShell.openDialogs = 0;

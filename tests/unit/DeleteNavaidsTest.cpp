@@ -5,6 +5,7 @@
 
 #include "fakes/DeleteFixture.h"
 #include "model/EditHistory.h"
+#include "model/IlsEnds.h"
 
 namespace {
 
@@ -89,6 +90,16 @@ TEST_F(DeleteNavaids, ARunwayThatNamesAnotherIlsIsNotMatchedByLocalizer) {
     BodyOf(runway).primaryIls = PackIdent("ISEA");
     EXPECT_TRUE(IlsBelongsTo(ils, runway, RunwayEnd::Primary));
     EXPECT_TRUE(IlsBelongsTo(Stock(ils), runway, RunwayEnd::Primary));  // by ident even a stock one does
+}
+
+TEST_F(DeleteNavaids, OfTwoEndsWithTheSameNameTheIlsBelongsToTheOneThatNamesIt) {
+    SceneryObject* ils = IlsByLocalizer(16, 2, "KSEA");
+    SceneryObject* runway = build::Runway(16, 2);
+    SceneryObject* namesake = build::Runway(16, 2);
+    EXPECT_TRUE(IlsBelongsTo(ils, namesake, RunwayEnd::Primary));
+    BodyOf(runway).primaryIls = PayloadAs<IlsPayload>(ils).body.ident >> kIdentShift;
+    EXPECT_TRUE(IlsBelongsTo(ils, runway, RunwayEnd::Primary));
+    EXPECT_FALSE(IlsBelongsTo(ils, namesake, RunwayEnd::Primary));
 }
 
 TEST_F(DeleteNavaids, AnIlsWithoutIdentBelongsToNoRunwayThatNamesNone) {
@@ -215,6 +226,63 @@ TEST_F(DeleteNavaids, ARunwayNamesTheStockIlsAgainWhenItsReplacementGoes) {
     replacement->flags |= kSelected;
     DeleteSelected();
     EXPECT_EQ(+PayloadAs<RunwayPayload>(runway).body.primaryIls, PackIdent("IOLD"));
+}
+
+// A stock ILS of runway 16 of 2 km and its replacement, which the user has moved to the other end.
+class MovedReplacement : public DeleteNavaids {
+protected:
+    void SetUp() override {
+        DeleteNavaids::SetUp();
+        runway = build::Runway(16);
+        stock = Stock(build::Ils("IOLD", { 0, 1300 }));
+        replacement = Whole(build::Ils("INEW", { 0, -1300 }));
+        Tie(stock, replacement);
+        IlsOf(stock).localizer.runwayNumber = 16;
+        IlsOf(replacement).localizer.runwayNumber = 34;
+        BodyOf(runway).secondaryIls = PackIdent("INEW");
+    }
+    SceneryObject *runway = nullptr, *stock = nullptr, *replacement = nullptr;
+};
+
+TEST_F(MovedReplacement, TheStockIlsGetsItsOwnEndBackWhenItGoes) {
+    for (const uint8_t bytes : { uint8_t{ 16 }, uint8_t{ 0 } }) {  // those of a stock file may name no end
+        IlsOf(stock).localizer.runwayNumber = bytes;
+        DeleteSelected();
+        EXPECT_EQ(+BodyOf(runway).primaryIls, PackIdent("IOLD"));
+        EXPECT_EQ(+BodyOf(runway).secondaryIls, 0u);
+        Undo();
+        EXPECT_EQ(+BodyOf(runway).primaryIls, 0u);
+        EXPECT_EQ(+BodyOf(runway).secondaryIls, PackIdent("INEW"));
+    }
+}
+
+TEST_F(MovedReplacement, AnEndThatAnotherIlsHasTakenKeepsThatOne) {
+    BodyOf(runway).primaryIls = PackIdent("IOTH");
+    DeleteSelected();
+    EXPECT_EQ(+BodyOf(runway).primaryIls, PackIdent("IOTH"));
+    EXPECT_EQ(+BodyOf(runway).secondaryIls, 0u);
+}
+
+TEST_F(DeleteNavaids, OfTwoIlsWithOneIdentOnlyTheEndOfTheDeletedOneForgetsIt) {
+    SceneryObject *runway = build::Runway(16), *other = build::Runway(9);
+    for (SceneryObject* each : { runway, other }) BodyOf(each).primaryIls = PackIdent("ISEA");
+    Selected(IlsByLocalizer(16, 0, "KSEA"));
+    IlsByLocalizer(9, 0, "KSEA");
+    EXPECT_EQ(DeleteSelected(), 2);
+    EXPECT_EQ(+BodyOf(runway).primaryIls, 0u);
+    EXPECT_EQ(+BodyOf(other).primaryIls, PackIdent("ISEA"));
+}
+
+TEST_F(DeleteNavaids, AReplacementWithTheBytesOfTheStockFileBelongsToTheEndThatNamesIt) {
+    SceneryObject *served = build::Runway(9), *other = Selected(build::Runway(16));
+    SceneryObject *stock = Stock(IlsByLocalizer(16, 0, "KSEA")), *replacement = IlsByLocalizer(16, 0, "KSEA");
+    Tie(stock, replacement);
+    EXPECT_TRUE(IlsBelongsTo(replacement, other, RunwayEnd::Primary)) << "no end names it";
+    BodyOf(served).secondaryIls = PackIdent("ISEA");
+    EXPECT_FALSE(IlsBelongsTo(replacement, other, RunwayEnd::Primary));
+    EXPECT_TRUE(IlsBelongsTo(replacement, served, RunwayEnd::Secondary));
+    EXPECT_EQ(DeleteSelected(), 1);
+    EXPECT_TRUE(fake.messages.empty());
 }
 
 }  // namespace

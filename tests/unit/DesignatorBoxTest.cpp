@@ -36,8 +36,15 @@ TEST_F(DesignatorBox, TheWordTaxiAndTheBlanksBehindItAreDropped) {
 
 TEST_F(DesignatorBox, OnlyTheFirstSevenCharactersCount) { EXPECT_EQ(TypeDesignator("abcdefghijk", nullptr), seven); }
 
+TEST_F(DesignatorBox, OnlyTheFirst19CharactersOfTheBoxAreRead) {
+    EXPECT_EQ(TypeDesignator("TAXI" + std::string(14, ' ') + "A", nullptr), alpha);
+    EXPECT_EQ(TypeDesignator("TAXI" + std::string(15, ' ') + "A", nullptr), nullptr);
+    EXPECT_TRUE(fake.messages.empty());
+}
+
 TEST_F(DesignatorBox, NothingABlankAndRunwaysAreNoDesignators) {
-    for (const char* text : { "", " A", "taxi", "TAXI  ", "RWY 16L", "rwy", "taxi rwy", "\xE4\xB8\xAD" }) {
+    for (const char* text :
+         { "", " A", "taxi", "TAXI  ", "RWY 16L", "rwy", "taxi rwy", "\xE4\xB8\xAD", "A\tB", "A\n" }) {
         EXPECT_EQ(TypeDesignator(text, alpha), nullptr) << text;
     }
     EXPECT_EQ(Actions(), 0);

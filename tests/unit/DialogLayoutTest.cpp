@@ -4,85 +4,17 @@
 
 #include <algorithm>
 #include <cctype>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <regex>
 #include <set>
 #include <string>
 #include <vector>
 
+#include "fakes/DialogScripts.h"
+
 namespace {
 
-namespace fs = std::filesystem;
-
-struct Box {
-    int left = 0, top = 0, width = 0, height = 0;  // dialog units
-};
-
-struct Control {
-    std::string kind, text, id, style;
-    Box box;
-};
-
-struct Template {
-    std::string name, style;
-    Box box;
-    std::vector<Control> controls;
-};
-
-Box BoxOf(const std::smatch& match, size_t first) {
-    return { std::stoi(match[first]), std::stoi(match[first + 1]), std::stoi(match[first + 2]),
-             std::stoi(match[first + 3]) };
-}
-
-// `KIND "text", id, x, y, width, height, style` or `CONTROL "text", id, class, style, x, y, width, height`.
-bool ReadControl(const std::string& line, Control* control) {
-    static const std::string kStart = R"re(^\s*([A-Z]+)\s+(?:"((?:[^"]|"")*)",\s*)?)re";
-    static const std::string kBox = R"re((\d+),\s*(\d+),\s*(\d+),\s*(\d+))re";
-    static const std::regex common(kStart + R"re(([^",]+),\s*)re" + kBox + "(.*)$");
-    static const std::regex general(kStart + R"re(([^",]+),\s*([^,]+),\s*([^,]+),\s*)re" + kBox);
-    std::smatch match;
-    if (std::regex_search(line, match, common)) {
-        *control = { match[1], match[2], match[3], match[8], BoxOf(match, 4) };
-        if (control->kind == "COMBOBOX") control->box.height = 12;  // the script gives that of the open list
-        return true;
-    }
-    if (!std::regex_search(line, match, general)) return false;
-    *control = { match[4], match[2], match[3], match[5], BoxOf(match, 6) };
-    return true;
-}
-
-Template ReadTemplate(const std::smatch& head, std::istream& script) {
-    Template dialog{ head[1], "", BoxOf(head, 2), {} };
-    std::string line;
-    while (std::getline(script, line) && !line.starts_with("BEGIN")) {
-        if (line.starts_with("STYLE")) dialog.style = line;
-    }
-    while (std::getline(script, line) && !line.starts_with("END")) {
-        Control control;
-        if (line.find_first_not_of(" \r") == std::string::npos) continue;
-        EXPECT_TRUE(ReadControl(line, &control)) << dialog.name << ": " << line;
-        dialog.controls.push_back(control);
-    }
-    return dialog;
-}
-
-std::vector<Template> AllTemplates() {
-    static const std::regex head(R"re(^(\w+) DIALOGEX (\d+), (\d+), (\d+), (\d+))re");
-    std::vector<Template> found;
-    for (const fs::directory_entry& entry :
-         fs::directory_iterator(fs::path(TARVO_TEST_DATA).parent_path().parent_path() / "res")) {
-        if (entry.path().extension() != ".rc") continue;
-        std::ifstream script(entry.path());
-        for (std::string line; std::getline(script, line);) {
-            std::smatch match;
-            if (std::regex_search(line, match, head)) found.push_back(ReadTemplate(match, script));
-        }
-    }
-    return found;
-}
+using namespace scripts;
 
 class DialogLayout : public testing::Test {
 protected:
@@ -159,17 +91,37 @@ TEST_F(DialogLayout, EveryDialogHasADefaultButtonAndIsLeftByEsc) {
 
 // What a screen reader speaks for a field is the text before it. A designator is a pair of boxes with one label.
 TEST_F(DialogLayout, EveryFieldComesAfterItsLabel) {
-    const std::set<std::string> labels = { "LTEXT", "RTEXT", "CTEXT", "AUTOCHECKBOX", "COMBOBOX" };
+    const std::set<std::string> labels = { "LTEXT", "RTEXT", "CTEXT", "COMBOBOX", "\"Static\"" };
+    const std::set<std::string> fields = { "COMBOBOX", "LISTBOX", "WC_LISTVIEW", "WC_TREEVIEW" };
     for (const Template& dialog : dialogs) {
         std::string before;
         for (const Control& control : dialog.controls) {
-            const bool isField = control.kind == "COMBOBOX" ||
+            const bool isField = fields.contains(control.kind) ||
                                  (control.kind == "EDITTEXT" && control.style.find("READONLY") == std::string::npos);
             EXPECT_TRUE(!isField || labels.contains(before))
                 << dialog.name << ": the field at " << control.box.left << ", " << control.box.top;
             before = control.kind;
         }
     }
+}
+
+TEST_F(DialogLayout, EachListHasItsButtons) {
+    const std::map<std::string, std::vector<std::string>> expected = {
+        { "IDD_NAVAID_LIST", { "&Delete", "&Properties", "Close", "&Help" } },
+        { "IDD_RUNWAY_LIST", { "&Delete", "&Properties", "Close", "&Help" } },
+        { "IDD_PARKING_LIST", { "&Delete", "&Properties", "&Randomize", "&Original Order", "Close", "&Help" } },
+        { "IDD_START_LIST", { "&Delete", "&Properties", "Close", "&Help" } },
+        { "IDD_DESIGNATOR_LIST", { "&Delete", "Close", "&Help" } },
+        { "IDD_COMM_LIST", { "&Insert", "&Delete", "&Properties", "Close", "&Help" } },
+    };
+    std::map<std::string, std::vector<std::string>> buttons;
+    for (const Template& dialog : dialogs) {
+        if (!expected.contains(dialog.name)) continue;
+        for (const Control& control : dialog.controls) {
+            if (control.kind.ends_with("PUSHBUTTON")) buttons[dialog.name].push_back(control.text);
+        }
+    }
+    EXPECT_EQ(buttons, expected);
 }
 
 }  // namespace

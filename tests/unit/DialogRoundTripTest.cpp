@@ -60,6 +60,7 @@ protected:
     void Mutate(NodeFields& fields) { Mutate(fields.position), Mutate(fields.type, 3), Mutate(fields.reversed); }
     void Mutate(LinkFields& fields) {
         Mutate(fields.designator, static_cast<int>(DesignatorChoices().size()));
+        Mutate(fields.type, static_cast<int>(LinkTypeChoices(subject).size()));
         Mutate(fields.surface, 24), Mutate(fields.width), Mutate(fields.leftEdge, 3), Mutate(fields.rightEdge, 3);
         Mutate(fields.leftLights), Mutate(fields.rightLights), Mutate(fields.centreLine), Mutate(fields.centreLights);
     }
@@ -133,6 +134,7 @@ protected:
              SceneryObject* object, bool change) {
         const Fields shown = load(object);
         Fields entered = shown;
+        subject = object;
         if (change) Mutate(entered);
         return store(shown, entered, object, &bad);
     }
@@ -180,7 +182,9 @@ protected:
         build::Link(b, a, model::kRunwayLink, runway);
         build::Link(a, spot, model::kParkingLink, blank);
         build::Placed<model::HelipadRecord>(model::kHelipad, {});
-        build::Append(model::kCommFrequency, sizeof(model::CommFrequencyRecord));
+        SceneryObject* comm = build::Append(model::kCommFrequency, sizeof(model::CommFrequencyRecord));
+        As<model::CommFrequencyRecord>(comm).type = 6;
+        As<model::CommFrequencyRecord>(comm).frequency = 119900000;  // the dialog refuses a frequency of 0
         build::Placed<model::StartLocationRecord>(model::kStartLocation, {});
         build::Apron({ build::Encoded({}), build::Encoded({ 100, 0 }), build::Encoded({ 0, 100 }) });
         const model::EncodedPoint from = build::Encoded({}), to = build::Encoded({ 0, 300 });
@@ -296,7 +300,8 @@ protected:
     }
 
     std::mt19937 generator{ 2004 };
-    std::map<uint32_t, int> recordedOf;  // actions of the dialog of each kind
+    const SceneryObject* subject = nullptr;  // of the dialog that is open
+    std::map<uint32_t, int> recordedOf;      // actions of the dialog of each kind
 };
 
 TEST_F(DialogRoundTrip, OkWithoutAChangeChangesNothingWhateverTheRecordsHold) {

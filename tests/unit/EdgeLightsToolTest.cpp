@@ -101,6 +101,22 @@ TEST_F(EdgeLightsToolTest, BackAtTheSameEndThereIsNoStrip) {
     EXPECT_EQ(StripCount(Lights()), 1u);
 }
 
+TEST_F(EdgeLightsToolTest, ADoubleClickWithShiftOnASelectedStripKeepsItSelected) {
+    Drag({ -100, 0 }, { 100, 0 });
+    Drag({ -100, 100 }, { 100, 100 });
+    SetTool(Tool::Pointer);
+    Paint();
+    const KeyState shift = { true, false };
+    Click({ 20, 0 });
+    Click({ 20, 100 }, shift);
+    Click({ 20, 100 }, shift);
+    ASSERT_FALSE(StripAt(Lights(), 1).segmentSelected) << "a click with Shift takes it out";
+    OnDoubleClick(PixelOf({ 20, 100 }), shift);
+    EXPECT_EQ(fake.openedProperties, std::vector<SceneryObject*>{ Lights() });
+    EXPECT_TRUE(StripAt(Lights(), 0).segmentSelected);
+    EXPECT_TRUE(StripAt(Lights(), 1).segmentSelected);
+}
+
 TEST_F(EdgeLightsToolTest, ACancelledPullLeavesNothing) {
     const ByteList before = File();
     Press({ -100, 0 });

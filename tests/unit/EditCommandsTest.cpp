@@ -12,8 +12,10 @@
 #include "fakes/FakePlatform.h"
 #include "fakes/FakeShell.h"
 #include "fakes/RecordingCanvas.h"
+#include "map/LightStrips.h"
 #include "map/MapView.h"
 #include "map/PaintMap.h"
+#include "map/Selection.h"
 #include "model/EditHistory.h"
 #include "model/ObjectList.h"
 #include "model/Positions.h"
@@ -124,6 +126,38 @@ TEST_F(EditCommandsTest, PropertiesAreThoseOfTheObjectUnderTheMenu) {
     EXPECT_EQ(fakeEditors.subjects.back(), node);
     app::NoteMenuPoint({ 10, 10 });
     EXPECT_FALSE(app::IsCommandEnabled(IDM_PROPERTIES));
+}
+
+TEST_F(EditCommandsTest, PropertiesOfAStripOfLightsAreThoseOfTheStripUnderTheMenu) {
+    OpenAirport();
+    const auto strip = [](double north) {
+        const model::EncodedPoint a = build::Encoded({ -100, north }), b = build::Encoded({ 100, north });
+        return model::EdgeLightStrip{ 60, a.longitude, a.latitude, b.longitude, b.latitude, 0, 0, 0 };
+    };
+    const model::SceneryObject* lights = build::EdgeLights({ strip(100), strip(-100), strip(200) });
+    map::layers.lights = true;
+    map::ResizeView(800, 600);
+    map::ResetView(build::kMiddle);
+    RecordingCanvas log;
+    map::PaintMap(&log.canvas);
+    const auto selected = [&] {
+        std::vector<bool> strips;
+        for (uint32_t i = 0; i < map::StripCount(lights); ++i)
+            strips.push_back(map::StripAt(lights, i).segmentSelected);
+        return strips;
+    };
+    using Strips = std::vector<bool>;
+    const auto pixelOf = [](double north) { return map::WorldToPixel(build::At({ 20, north })); };
+    map::SelectAt(pixelOf(100), false);
+    ASSERT_EQ(selected(), (Strips{ true, false, false }));
+    app::NoteMenuPoint(pixelOf(-100));
+    ASSERT_TRUE(app::RunCommand(IDM_PROPERTIES));
+    EXPECT_EQ(fakeEditors.opened.back(), "edge lights");
+    EXPECT_EQ(selected(), (Strips{ false, true, false }));
+    map::SelectAt(pixelOf(100), true);
+    app::RunCommand(IDM_PROPERTIES);
+    EXPECT_EQ(selected(), (Strips{ true, true, false })) << "it is one of those that are selected";
+    map::layers = {};
 }
 
 TEST_F(EditCommandsTest, ANewAirportClosesTheOneBefore) {

@@ -71,6 +71,15 @@ TEST_F(FaultFinder, EachPressDeselectsAndHidesTheMarkerFirst) {
     EXPECT_TRUE(map::faultMarker.shown);
 }
 
+TEST_F(FaultFinder, WhatAPressDeselectsIsPaintedAnew) {
+    MakeCleanAirport();
+    model::state.head->flags |= model::kSelected;
+    fake.repaints = 0;
+    EXPECT_EQ(FindFaults(AllSwitches()), "No faults found.");
+    EXPECT_FALSE(IsSelected(model::state.head));
+    EXPECT_GT(fake.repaints, 0);
+}
+
 TEST_F(FaultFinder, AHoldShortFaultShowsTheLimits) {
     Node({}, model::kHoldShortNode);
     FindFaults(AllSwitches());

@@ -4,6 +4,7 @@
 #include <random>
 #include <set>
 
+#include "dialogs/Subject.h"
 #include "fakes/FaultAirport.h"
 
 namespace {
@@ -127,6 +128,19 @@ TEST_F(FaultSearch, UndoAndRedoAreEdits) {
     model::Redo();
     EXPECT_EQ(NextLine(), "ISOLATED PARKING.");
     EXPECT_EQ(report.objects, std::vector{ first });
+}
+
+TEST_F(FaultSearch, ADialogThatIsCancelledIsNoEdit) {
+    FourIsolated();
+    EXPECT_EQ(NextLine(), "ISOLATED PARKING.");
+    dialogs::MakeProvisional(model::kHelipad, sizeof(model::HelipadRecord));
+    dialogs::CancelDialog();
+    EXPECT_EQ(NextLine(), "ISOLATED PARKING.");
+    dialogs::MoveToClick(model::state.head, build::At({ 700, 700 }));
+    dialogs::CancelDialog();
+    EXPECT_EQ(NextLine(), "ISOLATED NODE.");
+    EXPECT_EQ(NextLine(), "ISOLATED NODE.");
+    EXPECT_EQ(Next(), SearchResult::NoMoreFaults);
 }
 
 TEST_F(FaultSearch, AnEditWhoseHistoryEntryTakesTheSamePlaceInMemoryIsNoticed) {

@@ -2,7 +2,6 @@
 #include "cli/FaultsCommand.h"
 
 #include <filesystem>
-#include <random>
 
 #include "bgl/AirportWriter.h"
 #include "bgl/FileBuilder.h"
@@ -10,6 +9,7 @@
 #include "cli/Tool.h"
 #include "fakes/FaultAirport.h"
 #include "fakes/SceneryBytes.h"
+#include "fakes/TemporaryFolder.h"
 #include "platform/Files.h"
 
 namespace {
@@ -21,16 +21,6 @@ using model::PayloadAs;
 using testing::IsSubstring;
 
 struct FaultsCommand : FaultTest {
-    void SetUp() override {
-        FaultTest::SetUp();
-        folder = fs::temp_directory_path() / ("tarvo-faults-" + std::to_string(std::random_device{}()));
-        fs::create_directories(folder);
-    }
-    void TearDown() override {
-        FaultTest::TearDown();
-        std::error_code ignored;
-        fs::remove_all(folder, ignored);
-    }
     // The airport in the model as a file.
     std::string Save(const std::string& name) const {
         std::vector<uint8_t> bytes;
@@ -51,7 +41,8 @@ struct FaultsCommand : FaultTest {
         Node({ 0, 3000 }, model::kHoldShortNode);
         return Save(name);
     }
-    fs::path folder;
+    const TemporaryFolder temporary;
+    const fs::path& folder = temporary.path;
 };
 
 ToolResult Faults(const std::vector<std::string>& words) {

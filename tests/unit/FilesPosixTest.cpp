@@ -6,11 +6,11 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <random>
 
 #include "bgl/AirportWriter.h"
 #include "fakes/BuildObjects.h"
 #include "fakes/FakePlatform.h"
+#include "fakes/TemporaryFolder.h"
 #include "platform/Files.h"
 
 namespace {
@@ -25,8 +25,6 @@ protected:
     void SetUp() override {
         ResetFakes();
         model::ClearModel();
-        folder = fs::temp_directory_path() / ("tarvo-full-" + std::to_string(std::random_device{}()));
-        fs::create_directories(folder);
         std::ofstream(folder / "a.bgl") << "old";
         ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &usual), 0);
         handler = std::signal(SIGXFSZ, SIG_IGN);  // the write fails instead
@@ -36,8 +34,6 @@ protected:
     void TearDown() override {
         Free();
         std::signal(SIGXFSZ, handler);
-        std::error_code ignored;
-        fs::remove_all(folder, ignored);
         model::ClearModel();
     }
     void Free() const { setrlimit(RLIMIT_FSIZE, &usual); }
@@ -49,7 +45,8 @@ protected:
         EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 1);
     }
 
-    fs::path folder;
+    const TemporaryFolder temporary;
+    const fs::path& folder = temporary.path;
     rlimit usual = {};
     void (*handler)(int) = nullptr;
 };

@@ -5,7 +5,8 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <random>
+
+#include "fakes/TemporaryFolder.h"
 
 namespace {
 
@@ -13,22 +14,9 @@ using namespace platform;
 namespace fs = std::filesystem;
 using Bytes = std::vector<uint8_t>;
 
-std::string Utf8(const fs::path& path) {
-    const std::u8string text = path.u8string();
-    return { text.begin(), text.end() };
-}
-
 class FilesTest : public testing::Test {
 protected:
-    void SetUp() override {
-        folder = fs::temp_directory_path() / ("tarvo-files-" + std::to_string(std::random_device{}()));
-        fs::create_directories(folder);
-    }
-    void TearDown() override {
-        std::error_code ignored;
-        fs::remove_all(folder, ignored);
-    }
-    std::string In(const std::u8string& name) const { return Utf8(folder / name); }
+    std::string In(const std::u8string& name) const { return Utf8Path(folder / name); }
     void Put(const std::u8string& name, const std::string& text) const {
         std::ofstream(folder / name, std::ios::binary) << text;
     }
@@ -40,7 +28,8 @@ protected:
     size_t FileCount() const {
         return static_cast<size_t>(std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
     }
-    fs::path folder;
+    const TemporaryFolder temporary;
+    const fs::path& folder = temporary.path;
 };
 
 TEST_F(FilesTest, WhatIsWrittenReadsBack) {
@@ -83,13 +72,14 @@ TEST_F(FilesTest, NamesMayHoldAnyCharacter) {
     ASSERT_TRUE(WriteFileWhole(path, Bytes{ 7 }));
     EXPECT_TRUE(FileExists(path));
     EXPECT_EQ(Read(path), Bytes{ 7 });
-    const auto files = ListFiles(Utf8(folder), ".bgl");
+    const auto files = ListFiles(Utf8Path(folder), ".bgl");
     ASSERT_EQ(files.size(), 1u);
-    EXPECT_EQ(Utf8(folder) + "/" + files[0].name, Utf8(folder) + "/" + path.substr(Utf8(folder).size() + 1));
+    EXPECT_EQ(Utf8Path(folder) + "/" + files[0].name,
+              Utf8Path(folder) + "/" + path.substr(Utf8Path(folder).size() + 1));
 }
 
 TEST_F(FilesTest, PathsMayBeFarLongerThanTwoHundredAndSixtyCharacters) {
-    std::string deep = Utf8(folder);
+    std::string deep = Utf8Path(folder);
     for (int level = 0; level < 8; ++level) deep += "/" + std::string(60, static_cast<char>('a' + level));
     ASSERT_TRUE(MakeFolders(deep));
     EXPECT_TRUE(FolderExists(deep));
@@ -107,7 +97,7 @@ TEST_F(FilesTest, PathsMayBeFarLongerThanTwoHundredAndSixtyCharacters) {
 TEST_F(FilesTest, ANameMayFillTheLimitOfTheFileSystem) {
     const std::string name = std::string(251, 'n') + ".bgl";
     ASSERT_EQ(name.size(), 255u);
-    const std::string path = Utf8(folder) + "/" + name;
+    const std::string path = Utf8Path(folder) + "/" + name;
     ASSERT_TRUE(WriteFileWhole(path, Bytes{ 1 }));
     ASSERT_TRUE(WriteFileWhole(path, Bytes{ 2 }));
     EXPECT_EQ(Read(path), Bytes{ 2 });
@@ -148,15 +138,15 @@ TEST_F(FilesTest, LinksThatGoRoundInCirclesAreRefused) {
 }
 
 TEST_F(FilesTest, BothSlashesSeparate) {
-    ASSERT_TRUE(MakeFolders(Utf8(folder) + "\\Scenery\\Namw"));
-    ASSERT_TRUE(WriteFileWhole(Utf8(folder) + "/Scenery\\Namw/a.bgl", Bytes{ 1 }));
-    EXPECT_TRUE(FileExists(Utf8(folder) + "\\Scenery/Namw\\a.bgl"));
+    ASSERT_TRUE(MakeFolders(Utf8Path(folder) + "\\Scenery\\Namw"));
+    ASSERT_TRUE(WriteFileWhole(Utf8Path(folder) + "/Scenery\\Namw/a.bgl", Bytes{ 1 }));
+    EXPECT_TRUE(FileExists(Utf8Path(folder) + "\\Scenery/Namw\\a.bgl"));
     EXPECT_TRUE(fs::exists(folder / "Scenery" / "Namw" / "a.bgl"));
 }
 
 TEST_F(FilesTest, OpeningAMissingFileOrAFolderFails) {
     EXPECT_EQ(OpenForReading(In(u8"missing")), nullptr);
-    EXPECT_EQ(OpenForReading(Utf8(folder)), nullptr);
+    EXPECT_EQ(OpenForReading(Utf8Path(folder)), nullptr);
     EXPECT_EQ(OpenForReading(""), nullptr);
 }
 
@@ -199,7 +189,7 @@ TEST_F(FilesTest, AFileAboveTheLimitIsRefused) {
 TEST_F(FilesTest, ListingFiltersByExtensionAndSortsWithoutRegardToCase) {
     for (const char8_t* name : { u8"b.bgl", u8"A.BGL", u8"c.Bgl", u8"d.txt", u8"bgl", u8"e.bgl2" }) Put(name, "xyz");
     fs::create_directory(folder / "folder.bgl");
-    const auto files = ListFiles(Utf8(folder), ".bgl");
+    const auto files = ListFiles(Utf8Path(folder), ".bgl");
     ASSERT_EQ(files.size(), 3u);
     EXPECT_EQ(files[0].name, "A.BGL");
     EXPECT_EQ(files[1].name, "b.bgl");
@@ -211,7 +201,7 @@ TEST_F(FilesTest, ListingFiltersByExtensionAndSortsWithoutRegardToCase) {
 TEST_F(FilesTest, FoldersAreListedAndSortedWithoutRegardToCase) {
     for (const char8_t* name : { u8"b747", u8"A320", u8"Z\u00FCrich" }) fs::create_directory(folder / name);
     Put(u8"c172", "a file");
-    EXPECT_EQ(ListFolders(Utf8(folder)), (std::vector<std::string>{ "A320", "b747", "Z\xC3\xBCrich" }));
+    EXPECT_EQ(ListFolders(Utf8Path(folder)), (std::vector<std::string>{ "A320", "b747", "Z\xC3\xBCrich" }));
     EXPECT_TRUE(ListFolders(In(u8"missing")).empty());
     EXPECT_TRUE(ListFolders(In(u8"c172")).empty());
     EXPECT_TRUE(ListFolders("").empty());
@@ -219,7 +209,7 @@ TEST_F(FilesTest, FoldersAreListedAndSortedWithoutRegardToCase) {
 
 TEST_F(FilesTest, WriteTimesAreFileTimes) {
     Put(u8"a.bgl", "x");
-    const uint64_t time = ListFiles(Utf8(folder), ".bgl").at(0).writeTime;
+    const uint64_t time = ListFiles(Utf8Path(folder), ".bgl").at(0).writeTime;
     constexpr uint64_t kYear2020 = 132223104000000000, kYear2100 = 157469184000000000;
     EXPECT_GT(time, kYear2020);
     EXPECT_LT(time, kYear2100);
@@ -229,8 +219,8 @@ TEST_F(FilesTest, FilesAndFoldersAreToldApart) {
     Put(u8"a", "x");
     EXPECT_TRUE(FileExists(In(u8"a")));
     EXPECT_FALSE(FolderExists(In(u8"a")));
-    EXPECT_TRUE(FolderExists(Utf8(folder)));
-    EXPECT_FALSE(FileExists(Utf8(folder)));
+    EXPECT_TRUE(FolderExists(Utf8Path(folder)));
+    EXPECT_FALSE(FileExists(Utf8Path(folder)));
     EXPECT_FALSE(FileExists(In(u8"b")));
     EXPECT_FALSE(FolderExists(In(u8"b")));
 }
@@ -238,7 +228,7 @@ TEST_F(FilesTest, FilesAndFoldersAreToldApart) {
 TEST_F(FilesTest, AnEntryIsFoundHoweverTheDiskSpellsIt) {
     fs::create_directories(folder / "SCENERY");
     Put(u8"scenery.CFG", "x");
-    const std::string path = Utf8(folder);
+    const std::string path = Utf8Path(folder);
     EXPECT_TRUE(FolderExists(platform::SpelledPath(path, "scenery")));
     EXPECT_TRUE(FileExists(platform::SpelledPath(path, "Scenery.cfg")));
     fs::create_directories(folder / "scenery");
@@ -252,7 +242,7 @@ TEST_F(FilesTest, DeletingAMissingFileCountsAsDone) {
     EXPECT_TRUE(DeleteOneFile(In(u8"a")));
     EXPECT_FALSE(FileExists(In(u8"a")));
     EXPECT_TRUE(DeleteOneFile(In(u8"a")));
-    EXPECT_FALSE(DeleteOneFile(Utf8(folder)));
+    EXPECT_FALSE(DeleteOneFile(Utf8Path(folder)));
 }
 
 TEST_F(FilesTest, MakingFoldersMakesThoseAboveAndAcceptsWhatIsThere) {
@@ -273,7 +263,7 @@ TEST_F(FilesTest, AHeldFileIsHeldOnceUntilItIsGivenBack) {
     first.reset();
     EXPECT_TRUE(platform::HoldFile(In(u8"lock")));
     EXPECT_FALSE(platform::HoldFile(In(u8"missing/lock")));
-    EXPECT_FALSE(platform::HoldFile(Utf8(folder)));
+    EXPECT_FALSE(platform::HoldFile(Utf8Path(folder)));
 }
 
 }  // namespace

@@ -5,8 +5,8 @@
 
 #include <filesystem>
 #include <fstream>
-#include <random>
 
+#include "fakes/TemporaryFolder.h"
 #include "fakes/TestLibrary.h"
 #include "platform/Files.h"
 
@@ -16,14 +16,6 @@ namespace fs = std::filesystem;
 
 class FilesWin : public testing::Test {
 protected:
-    void SetUp() override {
-        folder = fs::temp_directory_path() / ("tarvo-win-" + std::to_string(std::random_device{}()));
-        fs::create_directories(folder);
-    }
-    void TearDown() override {
-        std::error_code ignored;
-        fs::remove_all(folder, ignored);
-    }
     // A file that was written that many seconds ago.
     void Put(const char* name, int seconds) const {
         std::ofstream(folder / name) << "part of";
@@ -35,7 +27,8 @@ protected:
     }
     bool Exists(const char* name) const { return fs::exists(folder / name); }
 
-    fs::path folder;
+    const TemporaryFolder temporary;
+    const fs::path& folder = temporary.path;
 };
 
 TEST_F(FilesWin, AWriteRemovesWhatAKilledOneLeft) {

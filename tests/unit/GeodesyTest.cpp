@@ -90,7 +90,21 @@ TEST(LocalToLatLon, NorthAndEastMoveTheRightWay) {
 
 TEST(LocalToLatLon, EastOfZeroKeepsTheLongitude) {
     const LatLon origin = Position(47.3, -122.7);
-    EXPECT_EQ(LocalToLatLon(origin, { 0, 1234 }).lon, origin.lon);
+    for (int north = -2000; north <= 2000; ++north)
+        ASSERT_EQ(LocalToLatLon(origin, { 0, static_cast<double>(north) }).lon, origin.lon) << north;
+}
+
+TEST(LocalToLatLon, AMicrometreIsNotLostAnywhere) {
+    for (double lat = -80; lat <= 80; lat += 7.3) {
+        const LatLon origin = Position(lat, 13.7);
+        for (double east = -4000; east <= 4000; east += 333.3) {
+            for (const double tiny : { 0.0, 1e-5, 0.1 }) {
+                const Local offset = LatLonToLocal(origin, LocalToLatLon(origin, { east + tiny, -east / 3 }));
+                ASSERT_NEAR(offset.east, east + tiny, 1e-6) << lat;
+                ASSERT_NEAR(offset.north, -east / 3, 1e-6) << lat;
+            }
+        }
+    }
 }
 
 TEST(LocalToLatLon, AtAPoleTheLongitudeStays) {

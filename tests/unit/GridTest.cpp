@@ -21,6 +21,13 @@ protected:
     }
     static void PixelsPerMinute(double pixels) { Scale(pixels / 1852.1759); }
 
+    // Of a point to the nearest one between the ends.
+    static double DistanceToLine(platform::Pixel at, platform::Pixel from, platform::Pixel to) {
+        const double dx = to.x - from.x, dy = to.y - from.y, x = at.x - from.x, y = at.y - from.y;
+        const double share = std::clamp((x * dx + y * dy) / (dx * dx + dy * dy), 0.0, 1.0);
+        return std::hypot(x - share * dx, y - share * dy);
+    }
+
     // Positions are cut to whole pixels, so a line may lie one lower than it should.
     static void ExpectPixels(const std::vector<int>& found, const std::vector<int>& expected) {
         ASSERT_EQ(found.size(), expected.size());
@@ -89,6 +96,16 @@ TEST_F(GridTest, LabelledLinesAreSeventyPixelsApart) {
     EXPECT_EQ(spacing.labelStep % spacing.step, 0);
 }
 
+TEST_F(GridTest, LabelsOfMinutesAndDegreesStandAtRoundParts) {
+    PixelsPerMinute(21);  // half the height is 14 minutes and a bit
+    EXPECT_EQ(ChooseGridSpacing().step, 60);
+    EXPECT_EQ(ChooseGridSpacing().labelStep, 720);  // a fifth of a degree
+    PixelsPerMinute(15.9);                          // half the height is 19 minutes
+    EXPECT_EQ(ChooseGridSpacing().labelStep, 3600);
+    PixelsPerMinute(0.5);  // a degree is 30 pixels: three make room for a label
+    EXPECT_EQ(ChooseGridSpacing().labelStep, 10800);
+}
+
 TEST_F(GridTest, DecimalLabelsShowTenthsOrHundredthsOfMinutes) {
     EXPECT_EQ(GridLabel(49 * 3600 + 15 * 60 + 30, 30), "49 15.5");
     EXPECT_EQ(GridLabel(49 * 3600 + 6, 6), "49 00.1");
@@ -146,6 +163,22 @@ TEST_F(GridTest, OffTheEquatorMeridiansAreCloserThanParallels) {
     EXPECT_NEAR(*middle, 400, 1.5);
 }
 
+// The two corners of a diagonal would leave the others bare.
+TEST_F(GridTest, OnATurnedMapLinesReachEveryCorner) {
+    Open();
+    PixelsPerMinute(240);  // thirty seconds are 120 pixels
+    view.rotation = model::kPi / 4;
+    RecordingCanvas log;
+    Paint(&log);
+    for (const platform::Pixel corner :
+         { platform::Pixel{ 0, 0 }, { kWidth, 0 }, { kWidth, kHeight }, { 0, kHeight } }) {
+        double nearest = 1e9;
+        for (const CanvasCall& line : log.StrokedWith(InkOf(Ink::GridLine)))
+            nearest = std::min(nearest, DistanceToLine(corner, line.points.front(), line.points.back()));
+        EXPECT_LT(nearest, 120) << corner.x << ' ' << corner.y;
+    }
+}
+
 TEST_F(GridTest, LabelsStandAtTheLeftAndTheBottom) {
     Open();
     PixelsPerMinute(240);
@@ -181,6 +214,16 @@ TEST_F(GridTest, AViewOfTheWholeEarthStillHasFewLines) {
         RecordingCanvas log;
         Paint(&log);
         EXPECT_LE(log.StrokedWith(InkOf(Ink::GridLine)).size(), 5000u) << span;
+    }
+}
+
+TEST_F(GridTest, AViewOfNoPlaceOnEarthHasNoLines) {
+    Open();
+    for (const double latitude : { 3.0, -3.0, 1e20, -1e20 }) {
+        view.centre.lat = latitude;
+        RecordingCanvas log;
+        Paint(&log);
+        EXPECT_TRUE(log.StrokedWith(InkOf(Ink::GridLine)).empty()) << latitude;
     }
 }
 

@@ -1,207 +1,14 @@
 #include "dialogs/IlsDialog.h"
 
-#include <algorithm>
-#include <cmath>
-#include <cstring>
-#include <limits>
-
-#include "dialogs/Choices.h"
 #include "dialogs/ListRows.h"
-#include "dialogs/NewIls.h"
-#include "dialogs/Subject.h"
-#include "fakes/DialogFixture.h"
+#include "fakes/IlsFixture.h"
 #include "model/DeleteRules.h"
 
 namespace {
 
 using namespace dialogs;
 
-class IlsDialog : public DialogFixture {
-protected:
-    void SetUp() override {
-        DialogFixture::SetUp();
-        airport = build::Airport("KSEA");
-        As<model::AirportRecord>(airport).magneticVariation = 340;
-        runway = build::Runway(36, 1);
-        Runway().altitude = 130000;
-        Runway().length = 3000;
-        seed = 0;
-    }
-    model::RunwayRecord& Runway() { return As<model::RunwayPayload>(runway).body; }
-    model::RunwayPayload& Parts() { return As<model::RunwayPayload>(runway); }
-    static model::IlsPayload& Ils(SceneryObject* ils) { return As<model::IlsPayload>(ils); }
-
-    SceneryObject* Create(int end) {
-        return CreateIls({ runway, end }, [this] { return seed++; });
-    }
-    static model::Local At(uint32_t longitude, uint32_t latitude) {
-        return model::LatLonToLocal(build::kMiddle, model::BglToLatLon({ latitude, longitude }));
-    }
-    template <class Change>
-    bool Edit(SceneryObject* ils, Change change) {
-        return OkAfter<LoadIlsFields, StoreIlsFields>(ils, change);
-    }
-    SceneryObject *airport = nullptr, *runway = nullptr;
-    uint32_t seed = 0;
-};
-
-class NewIls : public IlsDialog {};
-
-TEST_F(NewIls, EveryFieldIsFilled) {
-    SceneryObject* made = Create(kBaseEnd);
-    ASSERT_EQ(made->payloadSize, 238u);
-    const model::IlsPayload& ils = Ils(made);
-    EXPECT_EQ(ils.body.type, 4);
-    EXPECT_EQ(ils.body.flags, 0x3D);
-    EXPECT_EQ(+ils.body.altitude, 130000);
-    EXPECT_EQ(+ils.body.frequency, 108100000u);
-    uint32_t range;
-    std::memcpy(&range, made->payload + 18, 4);
-    EXPECT_EQ(range, 0x47436100u);
-    EXPECT_EQ(+ils.body.magneticVariation, 340);
-    EXPECT_EQ(+ils.body.ident, 0x02209182u);
-    EXPECT_EQ(+ils.body.region, model::PackIdent("KSEA") << 11);
-    EXPECT_EQ(ils.localizer.runwayNumber, 36);
-    EXPECT_EQ(ils.localizer.runwayDesignator, 1);
-    EXPECT_EQ(+ils.localizer.heading, 0);
-    EXPECT_STREQ(ils.name, "ILS/DME 36L");
-    EXPECT_EQ(+ils.glideSlope.altitude, 130000);
-    EXPECT_EQ(+ils.glideSlope.pitch, 3);
-    EXPECT_EQ(+ils.glideSlope.range, 18520);
-    EXPECT_EQ(+ils.dme.longitude, +ils.glideSlope.longitude);
-    EXPECT_EQ(+ils.dme.range, 50017);
-    EXPECT_EQ(+Runway().primaryIls, model::PackIdent("IABC"));
-    EXPECT_EQ(+Runway().secondaryIls, 0u);
-}
-
-TEST_F(NewIls, CreationIsOneActionWithTheRunwaysIdent) {
-    const auto before = Bytes(runway);
-    Create(kReciprocalEnd);
-    EXPECT_EQ(+Runway().secondaryIls, model::PackIdent("IABC"));
-    EXPECT_EQ(Actions(), 1);
-    model::Undo();
-    EXPECT_EQ(Bytes(runway), before);
-    EXPECT_EQ(model::CountKind(model::kIls), 0u);
-}
-
-TEST_F(NewIls, TheLocalizerStandsBeyondTheFarBlastPad) {
-    Parts().secondaryBlastPad.length = 60;
-    Parts().primaryBlastPad.length = 999;
-    const model::IlsPayload& base = Ils(Create(kBaseEnd));
-    EXPECT_NEAR(At(base.body.longitude, base.body.latitude).north, 1500 + 60 + 304.8, 0.5);
-    Parts().primaryBlastPad.length = 30;
-    const model::IlsPayload& reciprocal = Ils(Create(kReciprocalEnd));
-    EXPECT_NEAR(At(reciprocal.body.longitude, reciprocal.body.latitude).north, -(1500 + 30 + 304.8), 0.5);
-    EXPECT_EQ(+reciprocal.localizer.heading, 180);
-    EXPECT_STREQ(reciprocal.name, "ILS/DME 18R");
-}
-
-TEST_F(NewIls, HeadingsWrapBelow360) {
-    Runway().heading = 270;
-    EXPECT_EQ(+Ils(Create(kReciprocalEnd)).localizer.heading, 90);
-    Runway().heading = std::nextafter(180.0F, 0.0F);  // the other way is 360 to a float
-    EXPECT_EQ(+Ils(Create(kReciprocalEnd)).localizer.heading, 0);
-}
-
-TEST_F(NewIls, ABlastPadOfNonsensicalLengthCountsAsNone) {
-    for (const float length : { std::nanf(""), std::numeric_limits<float>::infinity() }) {
-        Parts().secondaryBlastPad.length = length;
-        const model::IlsPayload& ils = Ils(Create(kBaseEnd));
-        EXPECT_NEAR(At(ils.body.longitude, ils.body.latitude).north, 1500 + 304.8, 0.5);
-        EXPECT_NEAR(+ils.localizer.width, 3.64, 0.01);
-    }
-}
-
-TEST_F(NewIls, WithoutAChosenRunwayThereIsNone) {
-    const auto ends = EndsForNewIls();
-    ASSERT_EQ(ends.size(), 2u);
-    EXPECT_EQ(ChosenEnd(ends, 1, &bad), &ends[1]);
-    for (const int choice : { -1, 2 }) {
-        fake.messages.clear();
-        EXPECT_EQ(ChosenEnd(ends, choice, &bad), nullptr);
-        EXPECT_EQ(LastMessage(), "ERROR: You must select a runway");
-        EXPECT_EQ(bad.field, Field::Runway);
-    }
-}
-
-TEST_F(NewIls, TheGlideSlopeStands300MetresInAnd120MetresToTheRight) {
-    Parts().primaryThreshold.length = 200;
-    const model::IlsPayload& ils = Ils(Create(kBaseEnd));
-    const model::Local place = At(ils.glideSlope.longitude, ils.glideSlope.latitude);
-    EXPECT_NEAR(place.north, -1500 + 200 + 300, 0.5);
-    EXPECT_NEAR(place.east, 120, 0.5);
-    const model::IlsPayload& other = Ils(Create(kReciprocalEnd));
-    EXPECT_NEAR(At(other.glideSlope.longitude, other.glideSlope.latitude).east, -120, 0.5);
-}
-
-TEST_F(NewIls, TheGlideSlopeKeepsAwayFromTheLargestApron) {
-    build::Apron({ build::Encoded({ -300, 0 }), build::Encoded({ -300, 50 }), build::Encoded({ -350, 50 }) });
-    build::Apron({ build::Encoded({ 300, 0 }), build::Encoded({ 300, 500 }), build::Encoded({ 900, 500 }) });
-    const model::IlsPayload& base = Ils(Create(kBaseEnd));
-    EXPECT_NEAR(At(base.glideSlope.longitude, base.glideSlope.latitude).east, -120, 0.5);
-    const model::IlsPayload& other = Ils(Create(kReciprocalEnd));
-    EXPECT_NEAR(At(other.glideSlope.longitude, other.glideSlope.latitude).east, -120, 0.5);
-}
-
-TEST_F(NewIls, TheCourseIs210MetresWideAtTheThresholdWithin3To6Degrees) {
-    const auto width = [&](float length) {
-        Runway().length = length;
-        return +Ils(Create(kBaseEnd)).localizer.width;
-    };
-    EXPECT_NEAR(width(3000), 3.64, 0.01);
-    EXPECT_NEAR(width(2000), 5.22, 0.01);
-    EXPECT_EQ(width(1500), 6);
-    EXPECT_EQ(width(6000), 3);
-}
-
-TEST_F(NewIls, FrequenciesAreOddTenthsAndNotTakenTwice) {
-    uint32_t next = 0;
-    const auto counting = [&] { return next++; };
-    EXPECT_EQ(DrawIlsFrequency(counting), 108100000u);
-    next = 38;
-    EXPECT_EQ(DrawIlsFrequency(counting), 111900000u);
-    Ils(build::Ils("IAAA")).body.frequency = 108100000;
-    Ils(build::Ils("IBBB")).body.frequency = 108300000;
-    next = 0;
-    EXPECT_EQ(DrawIlsFrequency(counting), 108500000u);
-}
-
-TEST_F(NewIls, AFrequencyTakenAfter80MoreDrawsIsKept) {
-    Ils(build::Ils("IAAA")).body.frequency = 108100000;
-    int draws = 0;
-    EXPECT_EQ(DrawIlsFrequency([&] { return ++draws, 0u; }), 108100000u);
-    EXPECT_EQ(draws, 81);
-}
-
-TEST_F(NewIls, SeededNumbersDiffer) {
-    const auto random = SeededRandom();
-    EXPECT_NE(random(), random());
-}
-
-TEST_F(NewIls, OnlyEndsWithoutAnIlsAreOffered) {
-    EXPECT_EQ(EndsForNewIls().size(), 2u);
-    Create(kBaseEnd);
-    const auto ends = EndsForNewIls();
-    ASSERT_EQ(ends.size(), 1u);
-    EXPECT_EQ(EndName(ends[0].runway, ends[0].end), "18R");
-    EXPECT_TRUE(fake.messages.empty());
-    Create(kReciprocalEnd);
-    EXPECT_TRUE(EndsForNewIls().empty());
-    EXPECT_EQ(LastMessage(), "Every runway already has an ILS, you cannot create any more");
-    model::ClearModel();
-    EXPECT_TRUE(EndsForNewIls().empty());
-    EXPECT_EQ(LastMessage(), "You must create a runway before you can create an ILS");
-}
-
-TEST_F(NewIls, AStockIlsThatNamesTheEndCountsWithoutTheRunwaysIdent) {
-    SceneryObject* stock = build::Ils("ISNQ");
-    stock->flags |= model::kStock;
-    Ils(stock).localizer.runwayNumber = 36;
-    Ils(stock).localizer.runwayDesignator = 1;
-    EXPECT_EQ(EndsForNewIls().size(), 2u);
-    Ils(stock).body.region = model::PackIdent("KSEA") << 11;
-    EXPECT_EQ(EndsForNewIls().size(), 1u);
-}
+class IlsDialog : public IlsFixture {};
 
 TEST_F(IlsDialog, EverythingIsShown) {
     SceneryObject* ils = Create(kBaseEnd);
@@ -315,6 +122,23 @@ TEST_F(IlsDialog, APartThatNeverHadAPlaceGetsItsUsualOne) {
     EXPECT_NEAR(At(Ils(ils).glideSlope.longitude, Ils(ils).glideSlope.latitude).north, -1200, 1);
     EXPECT_EQ(Ils(ils).body.flags & 0x18, 0x18);
     EXPECT_EQ(+Ils(ils).dme.range, 50017);
+    EXPECT_EQ(+Ils(ils).dme.longitude, +Ils(ils).glideSlope.longitude);
+    EXPECT_EQ(+Ils(ils).dme.latitude, +Ils(ils).glideSlope.latitude);
+}
+
+TEST_F(IlsDialog, ADmeWithoutAGlideSlopeStandsAtTheLocalizer) {
+    SceneryObject* ils = build::IlsWithParts("ISNQ", { 0, 1800 }, { 120, -1200 }, {});
+    Ils(ils).dme = {};
+    Ils(ils).body.flags = model::kHasGlideSlope;
+    Runway().primaryIls = model::PackIdent("ISNQ");
+    EXPECT_TRUE(Edit(ils, [&](IlsFields& entered) {
+        SwitchGlideSlope(ils, false, &entered);
+        SwitchDme(ils, true, &entered);
+        Ils(ils).body.frequency = 110300000;
+        entered.frequency = "110.30";
+    }));
+    EXPECT_EQ(+Ils(ils).dme.longitude, +Ils(ils).body.longitude);
+    EXPECT_EQ(+Ils(ils).dme.latitude, +Ils(ils).body.latitude);
 }
 
 TEST_F(IlsDialog, TheRunwayFollowsTheIdentifierInTheSameAction) {
@@ -337,6 +161,20 @@ TEST_F(IlsDialog, TheNameGoesToTheRunwayEndThatIsChosen) {
     EXPECT_EQ(+Runway().primaryIls, 0u);
     EXPECT_EQ(+Runway().secondaryIls, model::PackIdent("IABC"));
     EXPECT_EQ(Ils(ils).localizer.runwayNumber, 18);
+}
+
+TEST_F(IlsDialog, OfEndsWithOneNameTheNearestIsChosen) {
+    SceneryObject* namesake = build::Runway(36, 1, { 5000, 0 });
+    As<model::RunwayPayload>(namesake).body.secondaryIls = model::PackIdent("IFAR");
+    build::Ils("IFAR", { 5000, -1500 });
+    SceneryObject* ils = Create(kBaseEnd);
+    EXPECT_TRUE(Edit(ils, [](IlsFields& entered) {
+        entered.number = 18;
+        entered.suffix = 2;
+    })) << "the other 18R has an ILS, but this one stands at the nearer";
+    EXPECT_EQ(+Runway().secondaryIls, model::PackIdent("IABC"));
+    EXPECT_EQ(+As<model::RunwayPayload>(namesake).body.primaryIls, 0u);
+    EXPECT_EQ(+As<model::RunwayPayload>(namesake).body.secondaryIls, model::PackIdent("IFAR"));
 }
 
 TEST_F(IlsDialog, ARunwayEndThatAnotherIlsServesIsRefused) {
@@ -371,13 +209,36 @@ TEST_F(IlsDialog, TwoNewIlsOfOneIdentAreToldApartByTheirRunwayEnds) {
 }
 
 TEST_F(IlsDialog, AStockIlsIsReplaced) {
-    SceneryObject* stock = build::Ils("ISNQ");
-    Ils(stock).body.frequency = 110300000;
-    stock->flags |= model::kStock;
+    SceneryObject* stock = Stock("ISNQ", 0, 0);
     EXPECT_TRUE(Edit(stock, [](IlsFields& entered) { entered.width = "4"; }));
     ASSERT_NE(stock->related, nullptr);
     EXPECT_EQ(+Ils(stock).localizer.width, 0);
     EXPECT_EQ(+Ils(stock->related).localizer.width, 4);
+}
+
+TEST_F(IlsDialog, AStockIlsShowsTheEndThatNamesItAndKeepsItsBytes) {
+    SceneryObject* stock = Stock("ISNQ", 16, 0);
+    EXPECT_EQ(LoadIlsFields(stock).number, 16) << "no end names it";
+    Runway().secondaryIls = model::PackIdent("ISNQ");
+    EXPECT_EQ(LoadIlsFields(stock).number, 18);
+    EXPECT_EQ(LoadIlsFields(stock).suffix, 2);
+    EXPECT_TRUE(Edit(stock, [](IlsFields& entered) { entered.width = "4"; }));
+    ASSERT_NE(stock->related, nullptr);
+    EXPECT_EQ(Ils(stock->related).localizer.runwayNumber, 16);
+    EXPECT_EQ(Ils(stock->related).localizer.runwayDesignator, 0);
+    EXPECT_EQ(LoadIlsFields(stock->related).number, 18);
+}
+
+TEST_F(IlsDialog, AnotherEndOfAStockIlsIsStoredWithItsSuffix) {
+    SceneryObject *other = build::Runway(9, 2), *stock = Stock("ISNQ", 16, 0);
+    Runway().secondaryIls = model::PackIdent("ISNQ");
+    EXPECT_TRUE(Edit(stock, [](IlsFields& entered) { entered.number = 9; }));
+    ASSERT_NE(stock->related, nullptr);
+    EXPECT_EQ(Ils(stock->related).localizer.runwayNumber, 9);
+    EXPECT_EQ(Ils(stock->related).localizer.runwayDesignator, 2);
+    EXPECT_EQ(+As<model::RunwayPayload>(other).body.primaryIls, model::PackIdent("ISNQ"));
+    EXPECT_EQ(+Runway().secondaryIls, 0u);
+    EXPECT_EQ(LoadIlsFields(stock->related).number, 9);
 }
 
 TEST_F(IlsDialog, TheMagneticCourseIsTheHeadingLessTheEastVariation) {
@@ -393,25 +254,16 @@ TEST_F(IlsDialog, ClicksGoToThePartThatHasTheFocus) {
     EXPECT_EQ(IlsPositionOffset(kDmeFields), 68u);
 }
 
-TEST_F(IlsDialog, AnIlsForARunwayThatOnlyItsDialogKnowsIsUndoneWithTheRunway) {
-    const auto before = build::List();
-    SceneryObject* made = MakeProvisional(model::kRunway, sizeof(model::RunwayPayload));
-    std::copy_n(runway->payload, runway->payloadSize, made->payload);
-    SceneryObject* ils = CreateIls({ made, kBaseEnd }, [this] { return seed++; });
-    EXPECT_FALSE(IsProvisional(made));
-    EXPECT_EQ(+As<model::RunwayPayload>(made).body.primaryIls, model::PackIdent("IABC"));
-    EXPECT_EQ(Actions(), 1);
-    const auto after = build::List();
-    EXPECT_EQ(after.size(), before.size() + 2);
-    for (int round = 0; round < 2; ++round) {
-        model::Undo();
-        EXPECT_EQ(build::List(), before);
-        EXPECT_EQ(build::ListFromTail(), before);
-        model::Redo();
-        EXPECT_EQ(build::List(), after);
-        EXPECT_EQ(build::ListFromTail(), after);
-    }
-    EXPECT_TRUE(std::find(after.begin(), after.end(), ils) != after.end());
+TEST_F(IlsDialog, AClickGoesToTheLocalizerWhileThePartInFocusIsOff) {
+    IlsFields fields;
+    for (const int part : { kLocalizerFields, kGlideSlopeFields, kDmeFields })
+        EXPECT_EQ(PartForClick(part, fields), kLocalizerFields);
+    fields.glideSlope = true;
+    EXPECT_EQ(PartForClick(kGlideSlopeFields, fields), kGlideSlopeFields);
+    EXPECT_EQ(PartForClick(kDmeFields, fields), kLocalizerFields);
+    fields.dme = true;
+    EXPECT_EQ(PartForClick(kDmeFields, fields), kDmeFields);
+    EXPECT_EQ(PartForClick(kLocalizerFields, fields), kLocalizerFields);
 }
 
 }  // namespace

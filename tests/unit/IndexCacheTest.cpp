@@ -135,6 +135,21 @@ TEST_F(IndexCache, ARelativePathIsBelowTheSimulatorsFolder) {
     AddFile("Scenery\\Namw\\scenery\\AP915150.bgl", FileKind::Stock);
     ASSERT_TRUE(ReadBack(Compose()));
     EXPECT_EQ(library.files[0].path, "C:\\FS9\\Scenery\\Namw\\scenery\\AP915150.bgl");
+    library = {};
+    AddFile("\\Scenery\\Namw\\scenery\\AP915150.bgl", FileKind::Stock);
+    ASSERT_TRUE(ReadBack(Compose()));
+    EXPECT_EQ(library.files[0].path, "C:\\FS9\\Scenery\\Namw\\scenery\\AP915150.bgl");
+}
+
+TEST_F(IndexCache, LinesHaveTheirLimits) {
+    EXPECT_EQ(bgl::kLongestFileLine, 262u);
+    EXPECT_EQ(bgl::kLongestAirportLine, 249u);
+    AddFile("C:\\a.bgl", FileKind::AddOn);
+    const std::string end = "|C|D|KSEAX|0\n", line(bgl::kLongestAirportLine - end.size() - 2, 'x');
+    bgl::ParseAirportIndex("A|" + line + "x" + end + "A|" + line + end);
+    ASSERT_EQ(library.airports.size(), 1u) << "line feed included";
+    EXPECT_EQ(library.airports[0].state, line);
+    EXPECT_EQ(library.airports[0].ident, "KSEA");
 }
 
 // All or nothing: half a cache would lose airports without a word.

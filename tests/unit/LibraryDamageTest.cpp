@@ -7,58 +7,15 @@
 #include "bgl/AirportIndex.h"
 #include "bgl/LibraryScan.h"
 #include "bgl/SceneryStructure.h"
-#include "fakes/FakePlatform.h"
-#include "fakes/FakeProgress.h"
-#include "fakes/TestLibrary.h"
+#include "fakes/LibraryDamageFixture.h"
 #include "platform/Files.h"
 
 namespace {
 
-using bgl::FileKind;
-using bgl::library;
-using bgl::ScanResult;
-using Bytes = std::vector<uint8_t>;
+using namespace damage;
 
-template <class T>
-void Set(Bytes* bytes, size_t offset, T value) {
-    ASSERT_LE(offset + sizeof value, bytes->size());
-    std::memcpy(bytes->data() + offset, &value, sizeof value);
-}
+class LibraryDamage : public LibraryDamageFixture {};
 
-// Offsets in what MakeSceneryFile gives.
-constexpr size_t kSectionCount = 20, kNameSection = 76;
-constexpr size_t kTypeOf = 0, kClassOf = 4, kCountOf = 8, kTableOf = 12;
-
-constexpr size_t kNameEntrySize = 20;  // of one airport in a name list
-
-class LibraryDamage : public testing::Test {
-protected:
-    LibraryDamage() {
-        ResetFakes();
-        fakeProgress = {};
-        library = {};
-    }
-    ~LibraryDamage() override {
-        fakeProgress = {};
-        library = {};
-    }
-
-    static Bytes Sound() {
-        return MakeSceneryFile({ { "KSEA", "Seattle-Tacoma Intl", "United States", "Washington", "Seattle" },
-                                 { "KBFI", "Boeing", "United States", "Washington", "Seattle" } });
-    }
-    // What the scan of one file says; its airports are in the library then.
-    ScanResult Scan(const Bytes& bytes) {
-        disk.Put("A", "scan.bgl", bytes);
-        library = {};
-        return bgl::ScanBglHeader(bgl::FileNumberOf(disk.simulator + "\\A\\scenery\\scan.bgl"));
-    }
-    void Collect() { bgl::CollectAllAirports(disk.simulator, disk.program); }
-
-    TestLibrary disk;
-};
-
-// The example of the published layout, by hand: 136 bytes of names for one airport.
 TEST_F(LibraryDamage, TheNameListIsReadAsTheFormatHasIt) {
     const uint8_t head[] = { 0x27, 0,  0, 0, 0, 0,  1, 0, 1, 0,  1, 0, 1, 0,  1, 0, 1, 0,   42, 0, 0,
                              0,    47, 0, 0, 0, 65, 0, 0, 0, 80, 0, 0, 0, 92, 0, 0, 0, 116, 0,  0, 0 };
@@ -125,6 +82,22 @@ TEST_F(LibraryDamage, FilesForLaterSimulatorsHoldNoAirportsForUs) {
         EXPECT_EQ(Scan(bytes), ScanResult::NoAirports) << later;
         EXPECT_TRUE(library.airports.empty());
     }
+}
+
+TEST_F(LibraryDamage, AnAirportForUsCountsBesideSectionsOfALaterSimulator) {
+    constexpr size_t kTables = 96;  // behind the entries of the two sections
+    Bytes bytes = Sound();
+    bytes.insert(bytes.begin() + kTables, bgl::kSectionEntrySize, 0);
+    Set(&bytes, kSectionCount, 3u);
+    Set(&bytes, kTables + kTypeOf, 0x2Cu);
+    // Two offsets of tables, and two of their records.
+    for (const size_t offset : { size_t{ 68 }, size_t{ 88 }, kTables + 28, kTables + 44 }) {
+        uint32_t moved = 0;
+        std::memcpy(&moved, bytes.data() + offset, sizeof moved);
+        Set(&bytes, offset, moved + static_cast<uint32_t>(bgl::kSectionEntrySize));
+    }
+    EXPECT_EQ(Scan(bytes), ScanResult::AirportsFound);
+    EXPECT_EQ(library.airports.size(), 2u);
 }
 
 TEST_F(LibraryDamage, AFileCutAtAnyByteIsSurvived) {
@@ -302,169 +275,6 @@ TEST_F(LibraryDamage, AFileThatMayNotBeReadIsPassedOverUntilItChanges) {
     Collect();
     EXPECT_EQ(library.report.opened, 1u);
     EXPECT_EQ(library.airports.size(), 3u);
-}
-
-TEST_F(LibraryDamage, ACacheThatIsBlockedDuringTheScanIsReportedAndTheNextCollectionIsRight) {
-    for (const char* name : { "FileList", "AirportIndex" }) {
-        const auto blocked = disk.root / "program" / name;
-        disk.Put("A", "a.bgl", MakeSceneryFile({ { "OLD1", "", "", "", "" } }), 10);
-        disk.PutAreas({ "A" });
-        Collect();
-        ASSERT_TRUE(library.report.cachesKept);
-        const std::string kept = disk.ReadCache(name);
-        disk.Put("A", "a.bgl", MakeSceneryFile({ { "NEW1", "", "", "", "" } }), 60);
-        fakeProgress.onPosition = [&](int percent) {
-            if (percent != 85) return;
-            std::filesystem::remove(blocked);
-            std::filesystem::create_directories(blocked / "folder");
-        };
-        Collect();
-        fakeProgress.onPosition = nullptr;
-        EXPECT_FALSE(library.report.cachesKept) << name;
-        ASSERT_EQ(library.airports.size(), 1u);
-        EXPECT_EQ(library.airports[0].ident, "NEW1");
-        std::filesystem::remove_all(blocked);
-        disk.PutCache(name, kept);
-        Collect();
-        ASSERT_EQ(library.airports.size(), 1u) << name;
-        EXPECT_EQ(library.airports[0].ident, "NEW1") << name;
-        EXPECT_TRUE(library.report.cachesKept);
-    }
-}
-
-// Both caches in turn cannot be written; what the other one holds must then not be taken for the library.
-TEST_F(LibraryDamage, ACacheThatCouldNotBeWrittenLeavesNoFalseIndex) {
-    for (const char* name : { "FileList", "AirportIndex" }) {
-        const auto blocked = disk.root / "program" / name;
-        disk.Put("A", "a.bgl", MakeSceneryFile({ { "OLD1", "", "", "", "" } }));
-        disk.PutAreas({ "A" });
-        Collect();
-        const std::string kept = disk.ReadCache(name);
-        std::filesystem::remove(blocked);
-        std::filesystem::create_directories(blocked / "folder");
-        disk.Put("A", "a.bgl", MakeSceneryFile({ { "NEW1", "", "", "", "" } }), 60);
-        Collect();
-        EXPECT_FALSE(library.report.cachesKept);
-        std::filesystem::remove_all(blocked);
-        disk.PutCache(name, kept);  // as a refused write leaves it
-        Collect();
-        ASSERT_EQ(library.airports.size(), 1u) << name;
-        EXPECT_EQ(library.airports[0].ident, "NEW1") << name;
-        EXPECT_TRUE(library.report.cachesKept);
-        disk.Remove("A", "a.bgl");
-        Collect();
-    }
-}
-
-class DamagedCache : public LibraryDamage, public testing::WithParamInterface<const char*> {
-protected:
-    DamagedCache() {
-        disk.Put("A", "a.bgl", Sound());
-        disk.Put("A", "b.bgl", MakeSceneryFile({ { "BBBB", "Field", "", "", "" } }));
-        disk.PutAreas({ "A" });
-        Collect();
-    }
-    void ExpectRebuilt() {
-        Collect();
-        EXPECT_EQ(library.report.opened, 2u);
-        EXPECT_EQ(library.airports.size(), 3u);
-        EXPECT_TRUE(fake.messages.empty());
-        Collect();
-        EXPECT_EQ(library.report.opened, 0u);
-        EXPECT_EQ(library.airports.size(), 3u);
-    }
-};
-
-TEST_P(DamagedCache, IsRebuiltWhenItIsMissing) {
-    std::filesystem::remove(disk.root / "program" / GetParam());
-    ExpectRebuilt();
-}
-
-TEST_P(DamagedCache, IsRebuiltWhenItIsCut) {
-    const std::string text = disk.ReadCache(GetParam());
-    for (const size_t size :
-         { size_t{ 0 }, size_t{ 1 }, text.size() / 2, text.rfind('\n', text.size() - 2) + 1, text.size() - 1 }) {
-        disk.PutCache(GetParam(), text.substr(0, size));
-        ExpectRebuilt();
-    }
-}
-
-TEST_P(DamagedCache, IsRebuiltWhenItIsForeign) {
-    disk.PutCache(GetParam(), std::string(100000, '\xFF'));
-    ExpectRebuilt();
-    disk.PutCache(GetParam(), "A|1|0|C:\\somewhere\\else.bgl\n");
-    ExpectRebuilt();
-}
-
-TEST_P(DamagedCache, IsRebuiltWhenAFolderIsInItsPlaceAndSoItCannotBeKept) {
-    std::filesystem::remove(disk.root / "program" / GetParam());
-    std::filesystem::create_directories(disk.root / "program" / GetParam());
-    for (int i = 0; i < 2; ++i) {
-        Collect();
-        EXPECT_EQ(library.airports.size(), 3u);
-        EXPECT_FALSE(library.report.cachesKept);
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(Both, DamagedCache, testing::Values("FileList", "AirportIndex"));
-
-class SpecificFile : public LibraryDamage {
-protected:
-    std::string Path(const std::string& name) const { return Utf8Path(disk.FileOf("A", name)); }
-    void ExpectRefused(const std::string& path, const std::string& message) {
-        EXPECT_FALSE(bgl::CollectAirportsFromFile(path));
-        ASSERT_EQ(fake.messages.size(), 1u);
-        EXPECT_EQ(fake.messages[0].text, message);
-        EXPECT_EQ(fake.messages[0].icon, platform::Icon::Exclamation);
-        EXPECT_EQ(fakeProgress.closed, 1);
-        EXPECT_TRUE(library.airports.empty() && library.files.empty());
-    }
-};
-
-TEST_F(SpecificFile, ItsAirportsAloneAreTheLibrary) {
-    disk.Put("A", "b.bgl", MakeSceneryFile({ { "BBBB", "", "", "", "" } }));
-    disk.Put("A", "mine.bgl", Sound());
-    disk.PutAreas({ "A" });
-    Collect();
-    fakeProgress = {};
-    EXPECT_TRUE(bgl::CollectAirportsFromFile(Path("mine.bgl")));
-    EXPECT_EQ(library.files.size(), 1u);
-    EXPECT_EQ(library.files[0].kind, FileKind::AddOn);
-    EXPECT_TRUE(library.files[0].present);
-    EXPECT_EQ(library.airports.size(), 2u);
-    EXPECT_GT(library.places.size(), 1u);
-    EXPECT_EQ(fakeProgress.positions.front(), 30);
-    EXPECT_EQ(fakeProgress.positions.back(), 100);
-    EXPECT_EQ(fakeProgress.closed, 1);
-}
-
-TEST_F(SpecificFile, AStockNameCountsOnlyBelowAFolderNamedScenery) {
-    disk.Put("A", "ap912345.BGL", Sound());
-    EXPECT_TRUE(bgl::CollectAirportsFromFile(Path("ap912345.BGL")));
-    EXPECT_EQ(library.files[0].kind, FileKind::Stock);
-    const auto elsewhere = disk.root / "AP912345.bgl";
-    std::filesystem::copy_file(disk.FileOf("A", "ap912345.BGL"), elsewhere);
-    EXPECT_TRUE(bgl::CollectAirportsFromFile(Utf8Path(elsewhere)));
-    EXPECT_EQ(library.files[0].kind, FileKind::AddOn);
-    disk.Put("A", "AP91234.bgl", Sound());
-    EXPECT_TRUE(bgl::CollectAirportsFromFile(Path("AP91234.bgl")));
-    EXPECT_EQ(library.files[0].kind, FileKind::AddOn);
-}
-
-TEST_F(SpecificFile, OneThatCannotBeOpenedIsRefused) {
-    ExpectRefused(Path("none.bgl"), "Unable to open file \"" + Path("none.bgl") + "\"");
-}
-
-TEST_F(SpecificFile, OneOfAnotherKindIsRefused) {
-    disk.Put("A", "text.bgl", { 't', 'e', 'x', 't' });
-    ExpectRefused(Path("text.bgl"), "Selected file  " + Path("text.bgl") + "  is not in recognised AFD format");
-}
-
-TEST_F(SpecificFile, OneWithoutAirportsIsRefused) {
-    Bytes bytes = Sound();
-    Set(&bytes, kNameSection + kClassOf, 1u);
-    disk.Put("A", "objects.bgl", bytes);
-    ExpectRefused(Path("objects.bgl"), "Selected file  " + Path("objects.bgl") + "  does not contain any airports");
 }
 
 }  // namespace

@@ -106,7 +106,6 @@ TEST_F(LibraryScan, ACollectionWithNothingChangedOpensNothing) {
     EXPECT_EQ(disk.ReadCache("AirportIndex"), index);
 }
 
-// That nothing is opened shows in what cannot be seen: the files are worthless by then.
 TEST_F(LibraryScan, AirportsWithoutIdentifierAreNotListed) {
     disk.Put("A", "a.bgl", MakeSceneryFile({ Airport(""), Airport("AAAA") }));
     disk.PutAreas({ "A" });
@@ -114,6 +113,7 @@ TEST_F(LibraryScan, AirportsWithoutIdentifierAreNotListed) {
     EXPECT_EQ(Idents(), "AAAA");
 }
 
+// That nothing is opened shows in what cannot be seen: the files are worthless by then.
 TEST_F(LibraryScan, UnchangedFilesAreNotReadAgain) {
     PutAirport("A", "a.bgl", "AAAA");
     disk.PutAreas({ "A" });
@@ -125,6 +125,15 @@ TEST_F(LibraryScan, UnchangedFilesAreNotReadAgain) {
     Collect();
     EXPECT_EQ(Idents(), "");
     EXPECT_EQ(KindOf("a.bgl"), FileKind::NoAirports);
+}
+
+TEST_F(LibraryScan, AFileThatIsOlderThanItWasIsReadAgain) {
+    PutAirport("A", "a.bgl", "ANEW");
+    disk.PutAreas({ "A" });
+    Collect();
+    PutAirport("A", "a.bgl", "AOLD", -60);
+    Collect();
+    EXPECT_EQ(Idents(), "AOLD");
 }
 
 TEST_F(LibraryScan, TouchedDeletedAndAddedFilesAreNoticed) {

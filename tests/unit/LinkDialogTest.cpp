@@ -282,6 +282,20 @@ TEST_F(LinkDialog, ABlankDesignatorThatTheTypeOverrulesIsNotMade) {
     EXPECT_EQ(BlankDesignator(), nullptr);
 }
 
+TEST_F(LinkDialog, TheBlankDesignatorIsNotMadeBeyondTheMostThatAFileHolds) {
+    model::UnlinkObject(blank);
+    model::FreeObject(blank);
+    while (model::CountKind(model::kTaxiDesignator) < 256) build::Designator("Q");
+    const auto before = Bytes(link);
+    EXPECT_FALSE(Edit(link, [](LinkFields& fields) { fields.designator = 0; }));
+    EXPECT_EQ(LastMessage(), "ERROR: An airport can have at most 256 taxiway designators");
+    EXPECT_EQ(bad.field, Field::Designator);
+    EXPECT_EQ(model::CountKind(model::kTaxiDesignator), 256u);
+    EXPECT_EQ(Bytes(link), before);
+    EXPECT_EQ(Actions(), 0);
+    EXPECT_TRUE(Edit(link, [](LinkFields& fields) { fields.surface = 3; })) << "what makes none is no matter";
+}
+
 TEST_F(LinkDialog, AParkingConnectorKeepsItsTypeAndHasTheBlankDesignator) {
     SceneryObject* connector = build::Link(a, build::Spot(), model::kParkingLink);
     EXPECT_TRUE(Edit(connector, [&](LinkFields& fields) {

@@ -111,6 +111,13 @@ TEST_F(LinkIpcTest, OpensAndKnowsBothVersions) {
     EXPECT_EQ(fakeTransport.messages, std::vector<std::string>{ "FsasmLib:IPC" });
 }
 
+TEST_F(LinkIpcTest, TheServerIsSentTheRegisteredMessageWithTheNumberOfTheBlocksName) {
+    Open();
+    EXPECT_EQ(fakeTransport.lastWindow, kFakeWindow);
+    EXPECT_EQ(fakeTransport.lastMessage, kFakeMessage);
+    EXPECT_EQ(fakeTransport.lastNumber, kFakeName);
+}
+
 TEST_F(LinkIpcTest, AnOpenLinkIsNotOpenedAgain) {
     Open();
     EXPECT_EQ(Open(), IpcError::AlreadyOpen);

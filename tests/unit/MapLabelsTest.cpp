@@ -86,6 +86,33 @@ TEST_F(MapLabelsTest, ALabelMovesToAnotherSideRatherThanCoverANeighbour) {
     EXPECT_GT(between[0].points[0].y, 300 + 20);
 }
 
+TEST_F(MapLabelsTest, ALabelIsDrawnAsLongAsAPartOfItIsSeen) {
+    app::settings.showLabels = 1;
+    Scale(2);
+    auto& record = PayloadAs<ParkingSpotRecord>(Spot({ -180, 0 }, 0));
+    record.packed = 9u | 4095u << 12;
+    Spot({ -150, 0 }, 2);  // on its right
+    const auto texts = Texts();
+    ASSERT_EQ(texts.size(), 2u);
+    EXPECT_EQ(texts[0].text, "NW Parking 4095");  // it begins beyond the clip rectangle
+    EXPECT_EQ(texts[0].run.alignX, platform::AlignX::Right);
+    EXPECT_NEAR(texts[0].points[0].x, 400 - 360 - 20 - 3, 1);
+}
+
+TEST_F(MapLabelsTest, LabelsKeepApartAsLargeAsTheMonitorDrawsThem) {
+    app::settings.showLabels = 1;
+    Scale(2);
+    Spot({ 0, 0 }, 1, 1);
+    Spot({ 0, -10 }, 2, 1);  // 20 pixels below
+    EXPECT_EQ(Texts()[1].run.alignX, platform::AlignX::Left);
+    RecordingCanvas fine;
+    fine.canvas.textScale = 2;
+    Paint(&fine);
+    ASSERT_EQ(fine.Drawn("text").size(), 2u);
+    EXPECT_EQ(fine.Drawn("text")[0].run.alignX, platform::AlignX::Left);
+    EXPECT_EQ(fine.Drawn("text")[1].run.alignX, platform::AlignX::Right);
+}
+
 TEST_F(MapLabelsTest, CirclesOnOneAnotherAreLabelledOnceTheyAreLarge) {
     app::settings.showLabels = 1;
     for (uint32_t i = 0; i < 9; ++i) Spot({ (i % 3) * 8.0, i / 3 * 8.0 }, i);

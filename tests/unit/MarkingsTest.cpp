@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstring>
 
 #include "fakes/MapFixture.h"
 #include "map/ScreenPlace.h"
@@ -37,6 +38,24 @@ TEST_F(MarkingsTest, TaxiwayLinesAreDrawnFromAScaleOfThreeTenths) {
     RecordingCanvas single;
     Paint(&single);
     EXPECT_GE(single.StrokedWith(InkOf(Ink::TaxiwayLine)).size(), 3u);  // the centre line and two edges
+}
+
+TEST_F(MarkingsTest, CentreLinesAreAFootWideAndAtLeastAPixel) {
+    auto& link = PayloadAs<TaxiLinkPayload>(build::Link(build::Node({ -300, 0 }), build::Node({ 300, 0 })));
+    link.flagsWord |= 1u << 16;
+    Open();
+    const struct {
+        double scale;
+        int width;
+    } kRows[] = { { 0.5, 1 }, { 1, 1 }, { 5.9, 2 }, { 10, 3 } };
+    for (const auto& row : kRows) {
+        Scale(row.scale);
+        RecordingCanvas page;
+        Paint(&page);
+        const auto lines = page.StrokedWith(InkOf(Ink::TaxiwayLine));
+        ASSERT_EQ(lines.size(), 1u);
+        EXPECT_EQ(lines[0].penWidth, row.width) << row.scale;
+    }
 }
 
 TEST_F(MarkingsTest, EdgeLinesAreDoubleFromSixPixelsToTheMetre) {
@@ -101,6 +120,46 @@ TEST_F(MarkingsTest, HoldShortMarkingsTurnTheirDashesToTheRunway) {
     EXPECT_LT(middleOfSolidBars(), at - 0.5);
 }
 
+TEST_F(MarkingsTest, AnIlsHoldShortNodeHasALadderAndNoBars) {
+    Scale(6);
+    WideRunway();
+    SceneryObject* hold = build::Node({ 60, 0 }, kIlsHoldShortNode);
+    build::Link(hold, build::Node({ 100, 0 }));
+    Open();
+    auto& node = PayloadAs<TaxiNodeRecord>(hold);
+    struct Marks {
+        size_t all = 0, across = 0, rungs = 0;
+        double middle = 0;  // of those across the taxiway of 23 m
+    };
+    const auto marks = [] {
+        RecordingCanvas page;
+        Paint(&page);
+        Marks found;
+        for (const CanvasCall& call : page.FilledWith(InkOf(Ink::TaxiwayLine))) {
+            const int across = std::abs(call.points[2].y - call.points[0].y);
+            const int along = std::abs(call.points[2].x - call.points[0].x);
+            ++found.all;
+            if (along >= 13) ++found.rungs;  // 8 feet are 14.6 pixels
+            if (across < 130) continue;
+            ++found.across;
+            found.middle += (call.points[0].x + call.points[2].x) / 4.0;
+        }
+        return found;
+    };
+    for (const bool reversed : { false, true }) {
+        node.reversed = reversed;
+        const Marks ladder = marks();
+        EXPECT_EQ(ladder.across, 2u);
+        EXPECT_NEAR(ladder.middle, PixelOf({ 60, 0 }).x, 1) << "the rails lie on both sides of the node";
+        EXPECT_EQ(ladder.rungs, 14u) << "pairs, 10 feet and somewhat more from each other";
+        EXPECT_EQ(ladder.all, 16u);
+    }
+    node.type = kHoldShortNode;
+    EXPECT_EQ(marks().across, 2u);
+    EXPECT_EQ(marks().rungs, 0u);
+    EXPECT_GT(marks().all, 20u) << "two rows of dashes";
+}
+
 TEST_F(MarkingsTest, RunwayLightsAreDrawnByNightOnly) {
     Scale(0.25);
     SceneryObject* runway = WideRunway();
@@ -127,6 +186,24 @@ TEST_F(MarkingsTest, ApronLightsStandAtTheirSpacingByNight) {
     RecordingCanvas night;
     Paint(&night);
     EXPECT_EQ(night.FilledWith(InkOf(Ink::LightBlue)).size(), 5u);
+}
+
+TEST_F(MarkingsTest, LampsThatADamagedFileSetsTooCloseAreNotDrawn) {
+    layers.lights = true;
+    const EncodedPoint from = build::Encoded({ 0, -50 }), to = build::Encoded({ 0, 50 });
+    SceneryObject* lights =
+        build::EdgeLights({ { 0.5f, from.longitude, from.latitude, to.longitude, to.latitude, 0, 0, 0 } });
+    Open();
+    const auto lamps = [] {
+        RecordingCanvas night;
+        Paint(&night);
+        return night.FilledWith(InkOf(Ink::LightBlue)).size();
+    };
+    Scale(2000);
+    EXPECT_GT(lamps(), 0u);
+    const float spacing = 0.005f;  // 10 pixels
+    std::memcpy(lights->payload + sizeof(EdgeLightsHead), &spacing, sizeof spacing);
+    EXPECT_EQ(lamps(), 0u);
 }
 
 TEST_F(MarkingsTest, TaxiwayEdgeLinesNeverCrossARunway) {

@@ -141,6 +141,17 @@ TEST_F(NewObjectsTest, TemplatesForTaxiwaysAndApronsAreTwo) {
     EXPECT_EQ(Copied(LinkFromTemplate(kRunwayLink).width), 11);
 }
 
+TEST_F(NewObjectsTest, ALinkOfAnUnknownTypeIsNoTemplate) {
+    for (const uint32_t type : { 0u, 6u, 15u }) {
+        TaxiLinkPayload odd{};
+        odd.flagsWord = type;
+        odd.width = 99;
+        UseLinkTemplate(odd);
+        EXPECT_EQ(Copied(LinkFromTemplate(kTaxiwayLink).width), 22.86F) << type;
+        EXPECT_EQ(Copied(LinkFromTemplate(kParkingLink).width), 22.86F) << type;
+    }
+}
+
 TEST_F(NewObjectsTest, TheFirstTemplatesAreWideAndPaved) {
     const uint32_t taxiway = LinkFromTemplate(kTaxiwayLink).flagsWord;
     EXPECT_EQ(taxiway, kTaxiwayLink | 0x60u | 0x10000u | 4u << 24);

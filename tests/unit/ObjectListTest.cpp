@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "fakes/BuildObjects.h"
 #include "fakes/FakePlatform.h"
@@ -70,6 +71,15 @@ TEST_F(ObjectListTest, AnUnlinkedObjectKeepsItsOwnNextAndPrev) {
     FreeObject(b);
 }
 
+TEST_F(ObjectListTest, HowNewStripsOfLightsAreMadeOutlastsTheAirport) {
+    state.edgeLights = { true, 45 };
+    build::Airport("KSEA");
+    ClearModel();
+    EXPECT_TRUE(state.edgeLights.adjust);
+    EXPECT_EQ(state.edgeLights.optimumSpacing, 45);
+    state.edgeLights = {};
+}
+
 TEST_F(ObjectListTest, TheAirportObjectIsTheCurrentAirportWhileItIsInTheList) {
     EXPECT_EQ(state.airport, nullptr);
     build::Node();
@@ -108,6 +118,32 @@ TEST_F(ObjectListTest, ClearModelFreesListAndBothChainsAndResetsTheState) {
     EXPECT_FALSE(state.loaded);
     EXPECT_FALSE(state.busy);
     EXPECT_FALSE(state.groupStart);
+}
+
+TEST_F(ObjectListTest, TheEditMarkGrowsWithEditsAndOtherAirportsAlone) {
+    uint64_t mark = state.editMark;
+    const auto hasGrown = [&mark] { return std::exchange(mark, state.editMark) < state.editMark; };
+    BeginAction();
+    Undo();
+    Redo();
+    EXPECT_FALSE(hasGrown()) << "nothing was there to take back";
+    AddObject(CreateObject(kTaxiNode, 12));
+    EXPECT_TRUE(hasGrown());
+    ModifyObject(CopyObject(state.head), state.head);
+    EXPECT_TRUE(hasGrown());
+    Undo();
+    EXPECT_TRUE(hasGrown());
+    Redo();
+    EXPECT_TRUE(hasGrown());
+    DeleteObject(state.head);
+    EXPECT_TRUE(hasGrown());
+    SceneryObject* shown = CreateObject(kTaxiNode, 12);
+    AppendObject(shown);
+    UnlinkObject(shown);
+    FreeObject(shown);
+    EXPECT_FALSE(hasGrown()) << "a dialog's own record";
+    ClearModel();
+    EXPECT_TRUE(hasGrown());
 }
 
 TEST_F(ObjectListTest, TheAirportNameIsCutTo48CharactersAndPaddedWithZeros) {

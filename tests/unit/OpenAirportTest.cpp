@@ -4,7 +4,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <random>
 
 #include "bgl/AirportWriter.h"
 #include "bgl/Cells.h"
@@ -15,6 +14,7 @@
 #include "fakes/BuildObjects.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/SceneryBytes.h"
+#include "fakes/TemporaryFolder.h"
 
 namespace {
 
@@ -25,9 +25,6 @@ protected:
     void SetUp() override {
         ResetFakes();
         ClearModel();
-        path =
-            (std::filesystem::temp_directory_path() / ("tarvo-open-" + std::to_string(std::random_device{}()) + ".bgl"))
-                .string();
         build::Airport("KSEA");
         build::Node();
         build::Vor();
@@ -36,11 +33,10 @@ protected:
         EXPECT_EQ(bgl::WriteAirportFile(path), 1);
         EXPECT_TRUE(bgl::FindAirportInFile(path, "", &place));
     }
-    void TearDown() override {
-        ClearModel();
-        std::filesystem::remove(path);
-    }
-    std::string path;
+    void TearDown() override { ClearModel(); }
+
+    const TemporaryFolder folder;
+    const std::string path = Utf8Path(folder.path / "open.bgl");
     bgl::AirportPlace place;
 };
 
@@ -171,8 +167,8 @@ TEST_F(OpenAirport, SeveralAirportsInAFileThatSaveWritesOverAreTold) {
 
 // What opening the first airport of such a file warns of.
 std::string WarningOf(const std::string& name, std::span<const bgl::SectionContent> sections) {
-    const std::filesystem::path path =
-        std::filesystem::temp_directory_path() / (name + std::to_string(std::random_device{}()) + ".bgl");
+    const TemporaryFolder folder;
+    const std::filesystem::path path = folder.path / (name + "1.bgl");
     const ByteList file = bgl::AssembleFile(sections, 1);
     std::ofstream(path, std::ios::binary)
         .write(reinterpret_cast<const char*>(file.data()), static_cast<std::streamsize>(file.size()));
@@ -180,7 +176,6 @@ std::string WarningOf(const std::string& name, std::span<const bgl::SectionConte
     bgl::OpenWarnings warnings;
     EXPECT_TRUE(bgl::FindAirportInFile(path.string(), "", &place));
     EXPECT_TRUE(bgl::OpenAirport(place, "", &warnings));
-    std::filesystem::remove(path);
     return bgl::TextOf(warnings);
 }
 
@@ -206,6 +201,37 @@ TEST_F(OpenAirport, SceneryThatSaveWouldLoseIsTold) {
               "with the open airport alone, and all the rest would be lost.\n\n"
               "Use \"Save As\" to write this airport to a file of its own.");
     EXPECT_EQ(WarningOf("mine_", two), "") << "Save asks for another file";
+}
+
+TEST_F(OpenAirport, AFileThatEndsTooEarlyIsToldOf) {
+    constexpr char kIncomplete[] =
+        "Not all of this airport could be read: its file ends too early or is damaged.\n"
+        "What is missing here will be missing in the file that you save.";
+    for (int i = 0; i < 50; ++i) build::Node();
+    ASSERT_EQ(bgl::WriteAirportFile(path), 1);
+    ASSERT_TRUE(bgl::FindAirportInFile(path, "", &place));
+    bgl::OpenWarnings warnings;
+    EXPECT_TRUE(bgl::OpenAirport(place, "", &warnings));
+    EXPECT_EQ(bgl::TextOf(warnings), "");
+    std::filesystem::resize_file(path, place.offset + place.size - 20);
+    EXPECT_TRUE(bgl::OpenAirport(place, "", &warnings));
+    EXPECT_GT(CountKind(kTaxiNode), 10u) << "what was read so far stays";
+    EXPECT_EQ(bgl::TextOf(warnings), kIncomplete);
+    warnings.doesNotFit = "ERROR: Too much.";
+    EXPECT_EQ(bgl::TextOf(warnings),
+              std::string(kIncomplete) + "\n\nThis airport cannot be saved as it is.\nToo much.");
+}
+
+TEST_F(OpenAirport, NavaidsThatAreCutOffAreToldOf) {
+    const bgl::SectionContent sections[] = { AirportsOf({ "KSEA" }), NdbsInNineCells() };
+    const ByteList file = bgl::AssembleFile(sections, 1);
+    std::ofstream(path, std::ios::binary)
+        .write(reinterpret_cast<const char*>(file.data()), static_cast<std::streamsize>(file.size()) - 10);
+    ASSERT_TRUE(bgl::FindAirportInFile(path, "", &place));
+    bgl::OpenWarnings warnings;
+    EXPECT_TRUE(bgl::OpenAirport(place, "", &warnings));
+    EXPECT_EQ(CountKind(kNdb), 8u);
+    EXPECT_TRUE(warnings.incomplete);
 }
 
 TEST_F(OpenAirport, WhatSaveWritesItselfIsNoLoss) {

@@ -211,6 +211,15 @@ TEST_F(PaintMapTest, HiddenLayersAreNeitherDrawnNorPicked) {
     EXPECT_TRUE(log.Drawn("text").empty());
 }
 
+TEST_F(PaintMapTest, TheClipRectangleIsATenthLargerInWholePixels) {
+    ResizeView(805, 609);
+    const Box clip = ClipBox();
+    EXPECT_EQ(clip.left, -80);
+    EXPECT_EQ(clip.top, -60);
+    EXPECT_EQ(clip.right, 885);
+    EXPECT_EQ(clip.bottom, 669);
+}
+
 TEST_F(PaintMapTest, WhatLiesOutsideTheClipRectangleIsNotDrawn) {
     // A tenth of 800 and 600 pixels around the map: 960 m east, 720 m north.
     build::Link(build::Node({ 1200, 0 }), build::Node({ 1200, 100 }));
@@ -302,7 +311,7 @@ TEST_F(PaintMapTest, TheAircraftIsACrossOf44Pixels) {
     PaintFeedback(&log.canvas);
     const auto lines = log.StrokedWith(InkOf(Ink::CrossHair));
     ASSERT_EQ(lines.size(), 2u);
-    const Pixel centre = PixelOf({ 100, 0 });
+    const Pixel centre = WorldToPixel(simAircraft.position);
     EXPECT_EQ(lines[0].points[0], (Pixel{ centre.x - 22, centre.y }));
     EXPECT_EQ(lines[1].points[1], (Pixel{ centre.x, centre.y + 22 }));
     view.lockedToSim = true;
@@ -312,6 +321,12 @@ TEST_F(PaintMapTest, TheAircraftIsACrossOf44Pixels) {
     RecordingCanvas feedback;
     PaintFeedback(&feedback.canvas);
     EXPECT_TRUE(feedback.Drawn().empty());
+}
+
+TEST_F(PaintMapTest, WithoutAnAirportNoAircraftIsDrawn) {
+    simAircraft = { true, build::kMiddle };
+    PaintFeedback(&log.canvas);
+    EXPECT_TRUE(log.Drawn().empty());
 }
 
 TEST_F(PaintMapTest, TheFaultMarkerIsDrawnWhileShown) {

@@ -6,6 +6,7 @@
 
 #include "fakes/MapFixture.h"
 #include "map/ScreenPlace.h"
+#include "map/Shapes.h"
 
 namespace {
 
@@ -133,6 +134,51 @@ TEST_F(PaintNavaidsTest, AMarkerIsALensAcrossItsCourseWithItsLetter) {
         EXPECT_NEAR(points[3].x - points[0].x, 2 * 70 * 0.5, 2);
         ASSERT_EQ(log.Drawn("text").size(), 1u);
         EXPECT_EQ(log.Drawn("text")[0].text, row.letter);
+    }
+}
+
+TEST_F(PaintNavaidsTest, SymbolsWithoutACourseTurnWithTheMap) {
+    Scale(1);
+    Ils(kHasDme).localizer.heading = 30;
+    PayloadAs<VorDmePayload>(build::Vor({ 50, 20 })).body.flags = 0x01 | kHasDme;
+    build::Ndb({ -60, 40 });
+    const auto middles = [] {
+        std::vector<Point> points;
+        for (const char* name : { "polygon", "ellipse" }) {
+            for (const CanvasCall& call : Calls(name, InkOf(Ink::Navaid))) {
+                const bool isCircle = call.name == "ellipse";
+                for (const Pixel& at : call.points) points.push_back({ double(at.x), double(at.y) });
+                if (!isCircle) continue;
+                const Point last = points.back();
+                points.pop_back();
+                points.back() = (points.back() + last) * 0.5;
+            }
+        }
+        return points;
+    };
+    const std::vector<Point> upright = middles();
+    view.rotation = 0.4;
+    const std::vector<Point> turned = middles();
+    ASSERT_EQ(upright.size(), turned.size());
+    ASSERT_GT(upright.size(), 60u);
+    for (size_t i = 0; i < upright.size(); ++i) {
+        const Point from = upright[i] - Point{ 400, 300 };
+        EXPECT_NEAR(turned[i].x, 400 + from.x * std::cos(0.4) + from.y * std::sin(0.4), 2.5) << i;
+        EXPECT_NEAR(turned[i].y, 300 + from.y * std::cos(0.4) - from.x * std::sin(0.4), 2.5) << i;
+    }
+}
+
+TEST_F(PaintNavaidsTest, ATurnedSquareDoesNotReachIntoItsIdent) {
+    Scale(2);
+    SceneryObject* vor = build::Vor();
+    PayloadAs<VorDmePayload>(vor).body.flags = 0x01 | kHasDme;
+    PayloadAs<VorDmePayload>(vor).body.ident = PackIdent("SEA") << kIdentShift | 2;
+    view.rotation = kPi / 4;
+    RecordingCanvas log;
+    Paint(&log);
+    ASSERT_EQ(log.Drawn("text").size(), 1u);
+    for (const CanvasCall& call : Calls("polygon", InkOf(Ink::Navaid))) {
+        for (const Pixel& corner : call.points) EXPECT_LT(corner.x, log.Drawn("text")[0].points[0].x);
     }
 }
 

@@ -94,6 +94,30 @@ TEST_F(PaintNetworkTest, ARingReachesFartherThanItsNode) {
     EXPECT_EQ(second.StrokedWith(InkOf(Ink::HoldShortNode)).size(), 2u);
 }
 
+TEST_F(PaintNetworkTest, ARingIsToScaleHoweverNearTheMapIs) {
+    layers.holdShortLimits = true;
+    SceneryObject* node = build::Node({ 0, 0 }, kHoldShortNode);
+    Open();
+    Scale(2000);
+    view.centre = build::At({ 60, 0 });
+    Paint(&log);
+    EXPECT_FALSE(IsDrawn(node));
+    const auto rings = log.StrokedWith(InkOf(Ink::HoldShortNode));
+    ASSERT_EQ(rings.size(), 1u);
+    EXPECT_EQ(rings[0].points[1].x - rings[0].points[0].x, 2 * 137'160 + 1);  // 68.58 x 2000
+}
+
+TEST_F(PaintNetworkTest, NoPenIsSoWideThatItWouldBeNone) {
+    SceneryObject* start = build::Node({ -10, 0 });
+    build::Link(start, build::Node({ 10, 0 }));
+    Open();
+    view.centre = PositionOf(start);
+    Scale((platform::kNoPen + 0.1) / 0.4572);
+    Paint(&log);
+    ASSERT_EQ(log.StrokedWith(InkOf(Ink::TaxiLink)).size(), 1u);
+    EXPECT_EQ(log.StrokedWith(InkOf(Ink::TaxiLink))[0].penWidth, platform::kNoPen - 1);
+}
+
 TEST_F(PaintNetworkTest, LinksAreColouredByType) {
     SceneryObject* a = build::Node({ -100, 0 });
     SceneryObject* b = build::Node({ 100, 0 });
@@ -140,6 +164,16 @@ TEST_F(PaintNetworkTest, AClosedLinkHasALineAndACross) {
     EXPECT_NEAR(std::abs(cross[0].points[0].y - 300), 5.39, 1);
 }
 
+TEST_F(PaintNetworkTest, ACrossIsSeenWhereItsLinkLiesBesideThePage) {
+    Scale(10);
+    build::Link(build::Node({ -20, 36.1 }), build::Node({ 20, 36.1 }), kClosedLink);  // 61 pixels above the map
+    PaintOpen();
+    EXPECT_TRUE(log.StrokedWith(InkOf(Ink::TaxiLink)).empty());
+    const auto cross = log.StrokedWith(InkOf(Ink::ClosedCross));
+    ASSERT_EQ(cross.size(), 2u);
+    EXPECT_GT(std::max(cross[0].points[0].y, cross[0].points[1].y), 40);
+}
+
 TEST_F(PaintNetworkTest, AClosedLinkOnTheHighlightedNameIsRedWithTheCross) {
     SceneryObject* name = build::Designator("A");
     build::Link(build::Node({ -100, 0 }), build::Node({ 100, 0 }), kClosedLink, name);
@@ -181,6 +215,29 @@ TEST_F(PaintNetworkTest, ASpotHasACircleAndAPointerOfFivePoints) {
     EXPECT_NEAR(drawn[1].points[0].y, 286, 1);    // 0.35 x 40 ahead: up
     EXPECT_NEAR(drawn[1].points[1].y, 326.4, 1);  // 0.66 x 40 behind
     EXPECT_NEAR(drawn[1].points[1].x, 422.8, 1);  // 0.57 x 40 beside
+}
+
+TEST_F(PaintNetworkTest, ThePointerShowsTheHeadingLessTheTurnOfTheMap) {
+    Scale(2);
+    SceneryObject* spot = build::Spot();
+    auto& record = PayloadAs<ParkingSpotRecord>(spot);
+    record.radius = 20;
+    Open();
+    const struct {
+        float heading;
+        double turn;
+        Point tip;  // 0.35 x 40 from the middle
+    } kRows[] = { { 90, 0, { 414, 300 } }, { 90, kPi / 2, { 400, 286 } }, { 0, kPi / 2, { 386, 300 } } };
+    for (const auto& row : kRows) {
+        record.heading = row.heading;
+        view.rotation = row.turn;
+        RecordingCanvas page;
+        Paint(&page);
+        const auto drawn = page.FilledWith(InkOf(Ink::ParkingFill));
+        ASSERT_EQ(drawn.size(), 2u);
+        EXPECT_NEAR(drawn[1].points[0].x, row.tip.x, 1) << row.heading << " turned by " << row.turn;
+        EXPECT_NEAR(drawn[1].points[0].y, row.tip.y, 1) << row.heading << " turned by " << row.turn;
+    }
 }
 
 TEST_F(PaintNetworkTest, ASpotWhoseCentreLiesOutsideIsNotDrawn) {

@@ -173,6 +173,8 @@ TEST_F(ParkingDialog, CodesThatSceneryFilesCannotHoldAreRefused) {
     EXPECT_FALSE(Edit(spot, [](ParkingFields& entered) { entered.codes = "\xE4\xB8\xAD"; }));
     EXPECT_EQ(LastMessage(), "ERROR: The Parking Codes box contains a character that scenery files cannot hold");
     EXPECT_EQ(bad.field, Field::Codes);
+    EXPECT_FALSE(Edit(spot, [](ParkingFields& entered) { entered.codes = "JAL,A\tB"; }));
+    EXPECT_EQ(LastMessage(), "ERROR: The Parking Codes box contains a character that scenery files cannot hold");
     EXPECT_TRUE(Edit(spot, [](ParkingFields& entered) { entered.codes = "\xC3\x85\xC3\x85\xC3\x85\xC3\x85"; }));
     EXPECT_EQ(spot->payloadSize, 24u);
 }

@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "fakes/FakePlatform.h"
+#include "fakes/TemporaryFolder.h"
 #include "platform/Files.h"
 
 namespace {
@@ -14,17 +15,8 @@ using Codes = std::vector<std::string>;
 
 class ParkingSpecs : public testing::Test {
 protected:
-    ParkingSpecs() {
-        ResetFakes();
-        const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-        folder_ = testing::TempDir() + "tarvo-specs-" + test->name();
-        platform::MakeFolders(folder_);
-    }
-    ~ParkingSpecs() override {
-        std::error_code error;
-        std::filesystem::remove_all(folder_, error);
-        app::parkingSpecs.clear();
-    }
+    ParkingSpecs() { ResetFakes(); }
+    ~ParkingSpecs() override { app::parkingSpecs.clear(); }
 
     bool Load(std::string_view text) {
         const auto* bytes = reinterpret_cast<const uint8_t*>(text.data());
@@ -32,7 +24,8 @@ protected:
         return app::LoadParkingSpecs(folder_);
     }
 
-    std::string folder_;
+    const TemporaryFolder temporary_;
+    const std::string folder_ = Utf8Path(temporary_.path);
 };
 
 std::string MessageFor(const std::string& line, const std::string& what) {
@@ -76,6 +69,24 @@ TEST_F(ParkingSpecs, ColourAbove255CountsAs255) {
     EXPECT_EQ(app::parkingSpecs[0].red, 255);
     EXPECT_EQ(app::parkingSpecs[0].green, 255);
     EXPECT_EQ(app::parkingSpecs[0].blue, 7);
+}
+
+TEST_F(ParkingSpecs, WhatFollowsTheDigitsOfAColourDoesNotCount) {
+    Load("A,12abc,3.9,4 5");
+    ASSERT_EQ(app::parkingSpecs.size(), 1u);
+    EXPECT_TRUE(app::parkingSpecs[0].hasColour);
+    EXPECT_EQ(app::parkingSpecs[0].red, 12);
+    EXPECT_EQ(app::parkingSpecs[0].green, 3);
+    EXPECT_EQ(app::parkingSpecs[0].blue, 4);
+    EXPECT_TRUE(fake.messages.empty());
+}
+
+TEST_F(ParkingSpecs, AColourThatBeginsWithASignIsBad) {
+    Load("A,-5,2,3\nB,1,+2,3");
+    ASSERT_EQ(app::parkingSpecs.size(), 2u);
+    EXPECT_FALSE(app::parkingSpecs[0].hasColour);
+    EXPECT_FALSE(app::parkingSpecs[1].hasColour);
+    EXPECT_EQ(fake.messages.size(), 2u);
 }
 
 TEST_F(ParkingSpecs, BadColourIsReportedAndTheCodesStillRead) {

@@ -239,7 +239,7 @@ TEST_F(PrintLayoutTest, TheSampleIsASheetOfFewPixels) {
     EXPECT_EQ(device.perInchX, 25);
     EXPECT_EQ(device.perInchY, 25);
     EXPECT_EQ(map::SampleDevice(map::UsualPaper(false), 85, 110).perInchY, 10);
-    EXPECT_GE(map::SampleDevice({}, 85, 110).perInchY, 0) << "a paper of no size";
+    EXPECT_EQ(map::SampleDevice({}, 85, 110).perInchY, 100000) << "a paper of no size";
 }
 
 TEST_F(PrintLayoutTest, TheMapIsClippedToItsBox) {
@@ -352,6 +352,23 @@ TEST_F(PrintLayoutTest, ThePaperIsWhatThePageSetupTells) {
     EXPECT_DOUBLE_EQ(map::PaperFrom({ 8268, 11693, 0, 0, 0, 0 }, false).left, 1) << "no margins told";
     EXPECT_DOUBLE_EQ(map::PaperFrom({}, false).height, 11) << "no paper told";
     EXPECT_DOUBLE_EQ(map::PaperFrom({ 8268, 11693, 0, 500, 0, 0 }, false).left, 0) << "a margin may be nothing";
+}
+
+TEST_F(PrintLayoutTest, ThePageSetupGetsThePaperBackAsItToldIt) {
+    for (const bool metric : { false, true }) {
+        const map::PageSetupRecord record = map::RecordOf(map::PaperFrom({ 8268, 11693, 583, 0, 1001, 2999 }, metric));
+        EXPECT_EQ(record.width, 8268);
+        EXPECT_EQ(record.height, 11693);
+        EXPECT_EQ(record.left, 583);
+        EXPECT_EQ(record.top, 0);
+        EXPECT_EQ(record.right, 1001);
+        EXPECT_EQ(record.bottom, 2999);
+    }
+}
+
+TEST_F(PrintLayoutTest, ThePaperIsMetricWhereTheSystemsMeasureIs) {
+    EXPECT_TRUE(map::IsPaperMetric("0"));
+    for (const char* measure : { "1", "", "2", "x" }) EXPECT_FALSE(map::IsPaperMetric(measure)) << measure;
 }
 
 TEST_F(PrintLayoutTest, ASheetChosenWithThePrinterTakesTheOthersPlace) {

@@ -22,7 +22,7 @@ protected:
 
     // The steps from the answer of the print dialog on.
     static Steps StepsOfPrinting() {
-        app::PrintAirportMap();
+        app::Print();
         Steps steps = fakePrinter.steps;
         EXPECT_EQ(Steps(steps.begin(), steps.begin() + 2), (Steps{ "LearnPaper", "AskPrinter" }));
         steps.erase(steps.begin(), steps.begin() + 2);

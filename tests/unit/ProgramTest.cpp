@@ -71,6 +71,7 @@ protected:
 TEST_F(ProgramTest, SpecsComeBeforeSettingsAndThoseBeforeTheSimulator) {
     std::ofstream(File("ParkingSpecs.txt")) << "Air Test,,,,ABC\n,1,2,3\n";
     std::ofstream(File("Tarvo2.ini")) << "[General]\nOverrideFSFolder=E:\\Sim\nMetric=1\n";
+    fake.whileMessageIsUp = [] { EXPECT_FALSE(app::settings.metric) << "the settings come before the specs"; };
     app::LoadProgramFiles();
     EXPECT_EQ(app::parkingSpecs.size(), 1u);
     EXPECT_TRUE(app::settings.metric);
@@ -254,6 +255,24 @@ TEST_F(ProgramTest, AtTheLastMomentTheBackupHoldsNoDragAndNoDialog) {
     app::BeginSession("", "");
     EXPECT_EQ(model::CountKind(model::kTaxiNode), 1u);
     EXPECT_NEAR(model::PositionOf(model::FirstOfKind(model::state.head, model::kTaxiNode)).lat, home.lat, 1e-7);
+}
+
+TEST_F(ProgramTest, AnEndBeforeTheSettingsAreReadKeepsTheirFile) {
+    constexpr char kKept[] = "[General]\nMetric=1\n";
+    std::ofstream(File("Tarvo2.ini"), std::ios::binary) << kKept;
+    app::EndSessionAtOnce();
+    app::EndAsAgreed();
+    EXPECT_EQ(Text("Tarvo2.ini"), kKept);
+}
+
+TEST_F(ProgramTest, AnEndBeforeTheWindowIsShownKeepsThatItWasMaximized) {
+    std::ofstream(File("Tarvo2.ini")) << "[General]\nWindowMaximized=1\n";
+    app::LoadProgramFiles();
+    fakeShell.maximized.reset();
+    app::EndSessionAtOnce();
+    const std::string text = Text("Tarvo2.ini");
+    EXPECT_NE(text.find("WindowMaximized=1\n"), std::string::npos) << text;
+    EXPECT_NE(text.find("Metric=0\n"), std::string::npos) << "nothing was written";
 }
 
 TEST_F(ProgramTest, AnEndWithoutAskingLeavesTheBackupToTheNextStart) {

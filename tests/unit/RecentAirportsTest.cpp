@@ -4,13 +4,13 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <random>
 
 #include "app/Settings.h"
 #include "bgl/AirportWriter.h"
 #include "fakes/BuildObjects.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/FakeShell.h"
+#include "fakes/TemporaryFolder.h"
 #include "model/ObjectList.h"
 
 namespace {
@@ -86,22 +86,17 @@ class OpenRemembered : public testing::Test {
 protected:
     void SetUp() override {
         ResetProgram();
-        folder = fs::temp_directory_path() / ("tarvo-recent-" + std::to_string(std::random_device{}()));
-        fs::create_directories(folder);
         for (const char* ident : { "KAAA", "KBBB" }) {
             model::state.airport = build::Airport(ident);
             EXPECT_EQ(bgl::WriteAirportFile(PathOf(ident)), 1);
             model::ClearModel();
         }
     }
-    void TearDown() override {
-        ResetProgram();
-        std::error_code ignored;
-        fs::remove_all(folder, ignored);
-    }
+    void TearDown() override { ResetProgram(); }
     std::string PathOf(const std::string& ident) const { return (folder / (ident + ".bgl")).string(); }
 
-    fs::path folder;
+    const TemporaryFolder temporary;
+    const fs::path& folder = temporary.path;
 };
 
 TEST_F(OpenRemembered, AnOpenedAirportIsOnTopUnderTheIdentifierOfItsFile) {

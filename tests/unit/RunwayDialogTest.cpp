@@ -1,6 +1,5 @@
 #include "dialogs/RunwayDialog.h"
 
-#include <algorithm>
 #include <cstring>
 #include <limits>
 
@@ -200,6 +199,8 @@ TEST_F(RunwayDialog, FieldsAreReadInTheirOrder) {
 TEST_F(RunwayDialog, AnElevationInFeetIsTruncatedToMillimetres) {
     EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.elevation = "433"; }));
     EXPECT_EQ(+Body().altitude, 131978);  // of 131978.4
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.elevation = "855"; }));
+    EXPECT_EQ(+Body().altitude, 260604);  // 260603 with a foot of 304.8 mm
     EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.elevation = "-10.5"; }));
     EXPECT_EQ(+Body().altitude, -3200);  // of -3200.4
     EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.elevation = "0.5479"; }));
@@ -347,176 +348,6 @@ TEST_F(RunwayDialog, TheMagneticHeadingIsTheTrueOneLessTheEastVariation) {
     As<model::AirportRecord>(airport).magneticVariation = -20;  // as a file may hold it
     EXPECT_EQ(VariationText(), "20.0");
     EXPECT_EQ(MagneticHeadingText("10"), "350.0");
-}
-
-TEST_F(RunwayDialog, LightsMapToTheApproachWordsAndTheLightsByte) {
-    Parts().primaryApproachLights = 0xE000;
-    Parts().secondaryApproachLights = 0x0100;
-    EXPECT_TRUE(Edit([](RunwayFields& entered) {
-        entered.ends[0].approachSystem = 7;
-        entered.ends[0].strobes = "21";
-        entered.ends[0].endLights = entered.ends[0].touchdownLights = true;
-        entered.ends[1].reil = true;
-        entered.edgeLights = 3;
-        entered.centreLights = 1;
-        entered.redEndLights = true;
-    }));
-    EXPECT_EQ(+Parts().primaryApproachLights, 0xE000 | 21 << 8 | 0xA0 | 7);
-    EXPECT_EQ(+Parts().secondaryApproachLights, 0x0140);
-    EXPECT_EQ(Body().lights, 0x17);
-    const RunwayFields fields = LoadRunwayFields(runway);
-    EXPECT_EQ(fields.ends[0].approachSystem, 7);
-    EXPECT_EQ(fields.ends[0].strobes, "21");
-    EXPECT_TRUE(fields.ends[1].reil);
-    EXPECT_EQ(fields.edgeLights, 3);
-    EXPECT_EQ(fields.centreLights, 1);
-}
-
-TEST_F(RunwayDialog, StrobesAreReadInTheirBaseAndKeptToFiveBits) {
-    const auto strobes = [&](const char* text) {
-        EXPECT_TRUE(Edit([&](RunwayFields& entered) { entered.ends[0].strobes = text; })) << text;
-        return +Parts().primaryApproachLights >> 8;
-    };
-    EXPECT_EQ(strobes("0x1F"), 31);
-    EXPECT_EQ(strobes("010"), 8);
-    EXPECT_EQ(strobes(" 9 "), 9);
-    EXPECT_EQ(strobes("33"), 1);
-    EXPECT_EQ(strobes("0"), 0);
-    for (const char* text : { "", "five", "0x", "08", "-1", "3 strobes" }) {
-        EXPECT_FALSE(Edit([&](RunwayFields& entered) { entered.ends[1].strobes = text; })) << text;
-        EXPECT_EQ(bad.field, Field::Strobes);
-        EXPECT_EQ(bad.part, kReciprocalEnd);
-        EXPECT_EQ(PageOf(bad), RunwayPage::Lights);
-    }
-    EXPECT_EQ(LastMessage(), "ERROR: The approach strobes must be a whole number from 0 to 31");
-}
-
-TEST_F(RunwayDialog, AnApproachSystemBeyondTheListIsNoChoiceAndStays) {
-    Parts().primaryApproachLights = 0x1E;
-    EXPECT_EQ(LoadRunwayFields(runway).ends[0].approachSystem, -1);
-    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.ends[0].reil = true; }));
-    EXPECT_EQ(+Parts().primaryApproachLights, 0x5E);
-}
-
-TEST_F(RunwayDialog, EveryMarkingIsItsOwnBit) {
-    const std::pair<bool RunwayFields::*, int> whole[] = {
-        { &RunwayFields::edgeLines, 0 },     { &RunwayFields::threshold, 1 },    { &RunwayFields::aimingPoint, 2 },
-        { &RunwayFields::touchdownZone, 3 }, { &RunwayFields::centreLine, 4 },   { &RunwayFields::numbers, 5 },
-        { &RunwayFields::precision, 6 },     { &RunwayFields::edgePavement, 7 }, { &RunwayFields::noMarkings, 8 },
-    };
-    for (const auto& [box, bit] : whole) {
-        Body().markings = 0xE000;
-        EXPECT_TRUE(Edit([&](RunwayFields& entered) { entered.*box = true; }));
-        EXPECT_EQ(+Body().markings, 0xE000 | 1 << bit);
-        EXPECT_TRUE(Edit([&](RunwayFields& entered) { entered.*box = false; }));
-        EXPECT_EQ(+Body().markings, 0xE000);
-    }
-    for (size_t end = 0; end < 2; ++end) {
-        Body().markings = 0;
-        EXPECT_TRUE(Edit([&](RunwayFields& entered) { entered.ends[end].closedMark = true; }));
-        EXPECT_EQ(+Body().markings, 0x200 << end);
-        Body().markings = 0;
-        EXPECT_TRUE(Edit([&](RunwayFields& entered) { entered.ends[end].stolMark = true; }));
-        EXPECT_EQ(+Body().markings, 0x800 << end);
-    }
-}
-
-TEST_F(RunwayDialog, AVasiIsShownByItsDistanceFromTheRunwayEnd) {
-    Parts().primaryLeftVasi = { 8, 38, 1195.2F, 9, 3 };
-    app::settings.metric = true;
-    const VasiFields fields = LoadRunwayFields(runway).ends[0].left;
-    EXPECT_EQ(kVasiSystems[static_cast<size_t>(fields.system)], std::string("PAPI 4"));
-    EXPECT_EQ(fields.distance, "304.8");
-    EXPECT_EQ(fields.offset, "38.0");
-    EXPECT_EQ(fields.spacing, "9.0");
-    EXPECT_EQ(fields.slope, "3.00");
-    EXPECT_EQ(LoadRunwayFields(runway).ends[1].right.distance, "0.0");
-}
-
-TEST_F(RunwayDialog, EachVasiUnitWritesItsOwnPart) {
-    app::settings.metric = true;
-    const auto fill = [](VasiFields& unit, int system) { unit = { system, "300", "40", "9", "3.25" }; };
-    EXPECT_TRUE(Edit([&](RunwayFields& entered) {
-        fill(entered.ends[0].left, 1);
-        fill(entered.ends[0].right, 2);
-        fill(entered.ends[1].left, 3);
-        fill(entered.ends[1].right, 14);
-    }));
-    const model::VasiPart units[] = { Parts().primaryLeftVasi, Parts().primaryRightVasi, Parts().secondaryLeftVasi,
-                                      Parts().secondaryRightVasi };
-    const int types[] = { 1, 2, 3, 14 };
-    for (size_t i = 0; i < 4; ++i) {
-        EXPECT_EQ(+units[i].type, types[i]);
-        EXPECT_EQ(+units[i].biasZ, 1200);
-        EXPECT_EQ(+units[i].biasX, 40);
-        EXPECT_EQ(+units[i].spacing, 9);
-        EXPECT_EQ(+units[i].pitch, 3.25F);
-    }
-}
-
-TEST_F(RunwayDialog, TheSystemNoneClearsTheUnit) {
-    Parts().secondaryRightVasi = { 8, 38, 1195.2F, 9, 3 };
-    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.ends[1].right.system = 0; }));
-    const model::VasiPart zero = {}, unit = Parts().secondaryRightVasi;
-    EXPECT_EQ(std::memcmp(&unit, &zero, sizeof unit), 0);
-}
-
-TEST_F(RunwayDialog, TheFieldsOfAUnitWithoutASystemAreNeitherJudgedNorStored) {
-    Parts().primaryRightVasi = { 0, 38, 0, 9, 3 };  // carried by the file
-    const auto before = Bytes(runway);
-    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.ends[0].right = { 0, "1", "2", "3", "rubbish" }; }));
-    EXPECT_EQ(Bytes(runway), before);
-    EXPECT_EQ(Actions(), 0);
-    Parts().primaryRightVasi = { 8, 38, 1195.2F, 9, 3 };
-    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.ends[0].right = { 0, "x", "x", "x", "x" }; }));
-    EXPECT_EQ(+Parts().primaryRightVasi.biasX, 0);
-    EXPECT_FALSE(HasVasiUnit({ 0, "1", "2", "3", "4" }));
-    EXPECT_TRUE(HasVasiUnit({ 8, "0", "0", "0", "0" }));
-    EXPECT_TRUE(HasVasiUnit({ -1, "0", "0", "0", "0" })) << "a system that the box cannot show";
-}
-
-TEST_F(RunwayDialog, ARefusedVasiFieldNamesItsUnit) {
-    EXPECT_FALSE(Edit([](RunwayFields& entered) {
-        entered.ends[1].right.system = 8;
-        entered.ends[1].right.slope = "91";
-    }));
-    EXPECT_EQ(LastMessage(), "ERROR: The VASI slope must be a number from 0 to 90 degrees");
-    EXPECT_EQ(bad.field, Field::VasiSlope);
-    EXPECT_EQ(bad.part, 3);
-    EXPECT_EQ(PageOf(bad), RunwayPage::Vasi);
-}
-
-TEST_F(RunwayDialog, AChosenSystemFillsAnEmptyUnitWithAUsualInstallation) {
-    app::settings.metric = true;
-    VasiFields unit = { 0, "0.0", "0.0", "0.0", "0.00" };
-    ChooseVasiSystem(&unit, 8, "45.0");
-    EXPECT_EQ(unit.system, 8);
-    EXPECT_EQ(unit.distance, "304.8");
-    EXPECT_EQ(unit.offset, "37.5");
-    EXPECT_EQ(unit.spacing, "9.0");
-    EXPECT_EQ(unit.slope, "3.00");
-    unit.offset = "50";
-    ChooseVasiSystem(&unit, 7, "45.0");
-    EXPECT_EQ(unit.offset, "50");
-    app::settings.metric = false;
-    unit = { 0, "0", "0", "0", "0.00" };
-    ChooseVasiSystem(&unit, 8, "150");
-    EXPECT_EQ(unit.distance, "1000");
-    EXPECT_EQ(unit.offset, "124");
-}
-
-TEST_F(RunwayDialog, AVasiKeepsItsDistanceWhenTheLengthChanges) {
-    Parts().primaryLeftVasi = { 8, 38, 1195.2F, 9, 3 };
-    app::settings.metric = true;
-    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.length = "3200"; }));
-    EXPECT_FLOAT_EQ(+Parts().primaryLeftVasi.biasZ, 1295.2F);
-    EXPECT_EQ(LoadRunwayFields(runway).ends[0].left.distance, "304.8");
-    EXPECT_EQ(+Parts().primaryRightVasi.biasZ, 0);
-    EXPECT_TRUE(Edit([](RunwayFields& entered) {
-        entered.length = "3000";
-        entered.ends[0].left.distance = "400";
-    }));
-    EXPECT_FLOAT_EQ(+Parts().primaryLeftVasi.biasZ, 1100);
 }
 
 TEST_F(RunwayDialog, AnEndIsNamedAfterItsBoxesAndKeepsACodeThatTheyCannotShow) {

@@ -157,6 +157,55 @@ TEST_F(RunwayWithIls, AClickOnTheMapIsNoMoveUntilOk) {
     ExpectAt(PointOf(ils), 0, 1800);
 }
 
+TEST_F(RunwayWithIls, WhatBelongsToANamesakeStaysAsItIs) {
+    Ils().body.region = model::RegionWordWithAirport(0, As<model::AirportRecord>(airport).ident);
+    SceneryObject* namesake = build::Runway(4, 1, { 3000, 0 });
+    SceneryObject* own = build::Placed<model::StartLocationRecord>(model::kStartLocation, { 3000, -950 });
+    As<model::StartLocationRecord>(own).number = 4;
+    As<model::StartLocationRecord>(own).designatorAndType = 0x11;
+    const auto beforeIls = Bytes(ils), beforeStart = Bytes(start);
+    fake.answers = { Answer::Yes };
+    const RunwayFields shown = LoadRunwayFields(namesake);
+    RunwayFields entered = shown;
+    entered.ends[0].number = 5;
+    entered.position = ShowPoint(build::Encoded({ 3000, 500 }));
+    EXPECT_TRUE(StoreRunwayFields(shown, entered, namesake, &bad));
+    EXPECT_EQ(LastMessage(),
+              "You have changed the position, length or heading of the runway.\n\n"
+              "Do you want to move its start locations with it?");
+    EXPECT_EQ(Bytes(ils), beforeIls);
+    EXPECT_EQ(Bytes(start), beforeStart);
+    EXPECT_EQ(As<model::StartLocationRecord>(own).number, 5);
+    ExpectAt(PointOf(own), 3000, -450);
+}
+
+TEST_F(RunwayWithIls, AnIlsThatNoEndNamesBelongsToTheNearerNamesake) {
+    Body().primaryIls = 0;
+    Ils().body.region = model::RegionWordWithAirport(0, As<model::AirportRecord>(airport).ident);
+    SceneryObject* namesake = build::Runway(4, 1, { 3000, 0 });
+    EXPECT_EQ(BelongingsOf(runway, 0).ils.size(), 1u);
+    EXPECT_TRUE(BelongingsOf(namesake, 0).ils.empty());
+}
+
+TEST_F(RunwayWithIls, EndsOfOneNameKeepTheirStartsApart) {
+    Body().secondaryNumber = Body().primaryNumber, Body().secondaryDesignator = Body().primaryDesignator;
+    SceneryObject* far = build::Placed<model::StartLocationRecord>(model::kStartLocation, { 0, 1450 });
+    As<model::StartLocationRecord>(far).number = 4;
+    As<model::StartLocationRecord>(far).designatorAndType = 0x11;
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.ends[1].number = 22; }));
+    EXPECT_EQ(Start().number, 4);
+    EXPECT_EQ(As<model::StartLocationRecord>(far).number, 22);
+}
+
+TEST_F(RunwayWithIls, APartThatWasNeverPlacedIsNotMoved) {
+    Ils().dme.longitude = Ils().dme.latitude = 0;
+    fake.answers = { Answer::Yes };
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.heading = "90"; }));
+    EXPECT_EQ(+Ils().dme.longitude, 0u);
+    EXPECT_EQ(+Ils().dme.latitude, 0u);
+    ExpectAt(GlideSlope(), -1200, -120);
+}
+
 TEST_F(RunwayWithIls, ARunwayWithNothingOfItsOwnAsksNothing) {
     SceneryObject* alone = build::Runway(7);
     const RunwayFields shown = LoadRunwayFields(alone);

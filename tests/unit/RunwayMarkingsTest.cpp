@@ -71,6 +71,27 @@ TEST_F(RunwayMarkingsTest, MarkingsStayInsideTheRunway) {
     EXPECT_GT(Count(0x7F), 60u);
 }
 
+TEST_F(RunwayMarkingsTest, WhereRunwaysCrossTheMarkingsOfBothAreSeen) {
+    Scale(0.25);
+    Body().markings = 0x7F;
+    SceneryObject* crossing = build::Runway(9);
+    auto& body = PayloadAs<RunwayPayload>(crossing).body;
+    body.heading = 90;
+    body.surface = 4;
+    body.markings = 0x7F;
+    RecordingCanvas log;
+    Paint(&log);
+    size_t surfaces = 0, clips = 0;
+    for (const CanvasCall& call : log.calls) {
+        if (call.name == "clip") ++clips;
+        if (call.name != "polygon" || call.clipDepth > 0 || call.brush != RunwayColour(4)) continue;
+        EXPECT_EQ(clips, 0u) << "a surface over the markings of the other runway";
+        ++surfaces;
+    }
+    EXPECT_EQ(surfaces, 2u);
+    EXPECT_EQ(clips, 2u);
+}
+
 TEST_F(RunwayMarkingsTest, EachFlagAddsItsMarks) {
     Scale(0.3);
     Body().length = 2400;

@@ -5,7 +5,7 @@
 #include <fstream>
 #include <iterator>
 #include <map>
-#include <random>
+#include <optional>
 #include <set>
 #include <sstream>
 
@@ -13,6 +13,7 @@
 #include "bgl/OpenAirport.h"
 #include "bgl/SceneryStructure.h"
 #include "fakes/FakePlatform.h"
+#include "fakes/TemporaryFolder.h"
 #include "model/Ident.h"
 #include "model/Links.h"
 #include "model/ObjectList.h"
@@ -25,11 +26,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string Utf8(const fs::path& path) {
-    const std::u8string text = path.u8string();
-    return { text.begin(), text.end() };
-}
-
 std::string ReadText(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
     return { std::istreambuf_iterator<char>(file), {} };
@@ -37,14 +33,11 @@ std::string ReadText(const fs::path& path) {
 
 struct SampleFolder : testing::Test {
     static void SetUpTestSuite() {
-        folder = fs::temp_directory_path() / ("tarvo-sample-" + std::to_string(std::random_device{}()));
+        folder = temporary.emplace().path;
         std::string error;
-        ASSERT_TRUE(sample::MakeSampleFolder({ Utf8(folder), TARVO_SAMPLE_DATA }, &error)) << error;
+        ASSERT_TRUE(sample::MakeSampleFolder({ Utf8Path(folder), TARVO_SAMPLE_DATA }, &error)) << error;
     }
-    static void TearDownTestSuite() {
-        std::error_code ignored;
-        fs::remove_all(folder, ignored);
-    }
+    static void TearDownTestSuite() { temporary.reset(); }
     void SetUp() override {
         ResetFakes();
         model::ClearModel();
@@ -63,10 +56,11 @@ struct SampleFolder : testing::Test {
     }
     static bool Open(const std::string& relative, const std::string& ident) {
         bgl::AirportPlace place;
-        return bgl::FindAirportInFile(Utf8(folder) + "\\" + relative, ident, &place) &&
-               bgl::OpenAirport(place, Utf8(folder));
+        return bgl::FindAirportInFile(Utf8Path(folder) + "\\" + relative, ident, &place) &&
+               bgl::OpenAirport(place, Utf8Path(folder));
     }
 
+    inline static std::optional<TemporaryFolder> temporary;
     inline static fs::path folder;
 };
 
@@ -96,7 +90,7 @@ TEST_F(SampleFolder, AirportFilesHaveStockNamesAndNavaidFilesThatOfTheirRegion) 
     int airports = 0, navaids = 0;
     for (const char* region : sample::kRegions) {
         for (const auto& entry : fs::directory_iterator(folder / "Scenery" / region / "Scenery")) {
-            const std::string name = Utf8(entry.path().filename());
+            const std::string name = Utf8Path(entry.path().filename());
             if (name == sample::NavaidFileName(region))
                 ++navaids;
             else if (bgl::IsStockFileName(name))
@@ -117,8 +111,8 @@ TEST_F(SampleFolder, EveryAirportOfTheDataIsFoundWhereItsBlockSaysAndReadsBack) 
     for (const sample::AirportRow& row : world.airports) {
         const model::BglPoint code = model::LatLonToBgl(row.position);
         const sample::Block block = sample::BlockOf({ code.lonCode, code.latCode });
-        const std::string path =
-            Utf8(folder) + "\\" + sample::RegionFolder(sample::RegionOf(block)) + "\\" + sample::AirportFileName(block);
+        const std::string path = Utf8Path(folder) + "\\" + sample::RegionFolder(sample::RegionOf(block)) + "\\" +
+                                 sample::AirportFileName(block);
         bgl::AirportPlace place;
         ASSERT_TRUE(bgl::FindAirportInFile(path, row.ident, &place)) << row.ident << " in " << path;
         model::ClearModel();
@@ -189,7 +183,7 @@ TEST_F(SampleFolder, RunwaysNameTheIlsOfEachEndWithoutTheShift) {
 TEST_F(SampleFolder, SameDataGivesTheSameBytes) {
     const fs::path again = folder / "again";
     std::string error;
-    ASSERT_TRUE(sample::MakeSampleFolder({ Utf8(again), TARVO_SAMPLE_DATA }, &error)) << error;
+    ASSERT_TRUE(sample::MakeSampleFolder({ Utf8Path(again), TARVO_SAMPLE_DATA }, &error)) << error;
     size_t compared = 0;
     for (const auto& entry : fs::recursive_directory_iterator(again)) {
         if (!entry.is_regular_file()) continue;
@@ -224,7 +218,7 @@ TEST_F(SampleFolder, AircraftHaveVariationsParkingTypesAndAModelRadius) {
 
 TEST_F(SampleFolder, MissingTablesAreNamed) {
     std::string error;
-    EXPECT_FALSE(sample::MakeSampleFolder({ Utf8(folder / "other"), Utf8(folder / "nowhere") }, &error));
+    EXPECT_FALSE(sample::MakeSampleFolder({ Utf8Path(folder / "other"), Utf8Path(folder / "nowhere") }, &error));
     EXPECT_NE(error.find("airports.csv"), std::string::npos) << error;
 }
 
@@ -233,7 +227,7 @@ TEST_F(SampleFolder, MissingColumnIsNamed) {
     fs::create_directories(data);
     std::ofstream(data / "airports.csv") << "ident,name,lat\nKSEA,Seattle,47\n";
     std::string error;
-    EXPECT_FALSE(sample::MakeSampleFolder({ Utf8(folder / "other"), Utf8(data) }, &error));
+    EXPECT_FALSE(sample::MakeSampleFolder({ Utf8Path(folder / "other"), Utf8Path(data) }, &error));
     EXPECT_NE(error.find("lon"), std::string::npos) << error;
     fs::remove_all(data);
 }

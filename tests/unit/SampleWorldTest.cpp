@@ -4,40 +4,30 @@
 
 #include <filesystem>
 #include <fstream>
-#include <random>
 
 #include "app/ParkingSpecs.h"
 #include "fakes/FakePlatform.h"
+#include "fakes/TemporaryFolder.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-std::string Utf8(const fs::path& path) {
-    const std::u8string text = path.u8string();
-    return { text.begin(), text.end() };
-}
-
 struct SampleWorld : testing::Test {
     void SetUp() override {
         ResetFakes();
-        folder = fs::temp_directory_path() / ("tarvo-world-" + std::to_string(std::random_device{}()));
-        fs::create_directories(folder);
         Put("airports.csv", "ident,name,city,state,country,elevation_ft,lat,lon\n");
         Put("runways.csv", "airport_ident,length_ft,le_ident,he_ident\n");
         Put("navaids.csv", "ident,name,type,frequency_khz,latitude_deg,longitude_deg\n");
         Put("frequencies.csv", "airport_ident,type,description,frequency_mhz\n");
     }
-    void TearDown() override {
-        std::error_code ignored;
-        fs::remove_all(folder, ignored);
-    }
     void Put(const char* name, const std::string& text) const {
         std::ofstream(folder / name, std::ios::binary) << text;
     }
-    bool Load() { return sample::LoadWorld(Utf8(folder), &world, &error); }
+    bool Load() { return sample::LoadWorld(Utf8Path(folder), &world, &error); }
 
-    fs::path folder;
+    const TemporaryFolder temporary;
+    const fs::path& folder = temporary.path;
     sample::World world;
     std::string error;
 };

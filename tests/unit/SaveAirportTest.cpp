@@ -4,14 +4,15 @@
 
 #include <filesystem>
 #include <fstream>
-#include <random>
 
 #include "app/AppState.h"
+#include "app/Notices.h"
 #include "app/Settings.h"
 #include "bgl/AirportIndex.h"
 #include "fakes/BuildObjects.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/FakeShell.h"
+#include "fakes/TemporaryFolder.h"
 #include "map/Tools.h"
 #include "platform/Files.h"
 
@@ -27,18 +28,12 @@ class SaveAirportTest : public testing::Test {
 protected:
     void SetUp() override {
         ResetProgram();
-        folder = fs::temp_directory_path() / ("tarvo-save-" + std::to_string(std::random_device{}()));
-        fs::create_directories(folder);
         model::state.airport = build::Airport("KTST");
         model::state.loaded = true;
         model::state.modified = true;
         app::state.sourceFile = In("AP915150.bgl");
     }
-    void TearDown() override {
-        ResetProgram();
-        std::error_code ignored;
-        fs::remove_all(folder, ignored);
-    }
+    void TearDown() override { ResetProgram(); }
     std::string In(const std::string& name) const { return (folder / name).string(); }
     void Put(const std::string& name, const std::string& text) const {
         std::ofstream(folder / name, std::ios::binary) << text;
@@ -47,8 +42,15 @@ protected:
         std::ifstream file(folder / name, std::ios::binary);
         return { std::istreambuf_iterator<char>(file), {} };
     }
-    fs::path folder;
+    const TemporaryFolder temporary;
+    const fs::path& folder = temporary.path;
 };
+
+TEST_F(SaveAirportTest, TheStatusBarTellsWhatWasSaved) {
+    app::state.savePath = In("TV2_KTST.bgl");
+    EXPECT_TRUE(app::SaveAirport());
+    EXPECT_EQ(app::NoticeText(), "Saved TV2_KTST.bgl");
+}
 
 TEST_F(SaveAirportTest, AFileOfOurOwnIsRewrittenWithoutADialogInAnyMixOfCase) {
     for (const char* name : { "TV2_KTST.bgl", "tv2_ktst.BGL", "Tv2_x.bgl" }) {

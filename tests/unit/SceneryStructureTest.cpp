@@ -4,12 +4,12 @@
 
 #include <filesystem>
 #include <fstream>
-#include <random>
 
 #include "bgl/FileBuilder.h"
 #include "bgl/RecordIds.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/SceneryBytes.h"
+#include "fakes/TemporaryFolder.h"
 
 namespace {
 
@@ -221,8 +221,8 @@ TEST(SceneryStructure, SubsectionsStandInAscendingOrder) {
 }
 
 TEST(SceneryStructure, FileOnTheDiskIsSearchedLikeOneInMemory) {
-    const std::filesystem::path path =
-        std::filesystem::temp_directory_path() / ("tarvo-scenery-" + std::to_string(std::random_device{}()) + ".bgl");
+    const TemporaryFolder folder;
+    const std::filesystem::path path = folder.path / "three.bgl";
     const ByteList bytes = Assembled(ThreeAirports());
     std::ofstream(path, std::ios::binary)
         .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));

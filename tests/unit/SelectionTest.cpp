@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "fakes/MapFixture.h"
+#include "fakes/PickFixture.h"
 #include "map/ApronShape.h"
 #include "map/LightStrips.h"
 #include "map/ScreenPlace.h"
@@ -12,182 +12,7 @@ namespace {
 using namespace map;
 using namespace model;
 
-class SelectionTest : public MapFixture {
-protected:
-    void SetUp() override {
-        MapFixture::SetUp();
-        Scale(1);
-        Open();
-        SetPosition(state.airport, build::At({ -390, 290 }));  // out of the way, in a corner
-    }
-    static SceneryObject* PickedAt(build::Place place) { return PickObject(PixelOf(place)).object; }
-    static Pixel Beside(Pixel at, int dx, int dy = 0) { return { at.x + dx, at.y + dy }; }
-    static SceneryObject* SquareApron() {
-        return build::Apron({ build::Encoded({ -100, -100 }), build::Encoded({ 100, -100 }),
-                              build::Encoded({ 100, 100 }), build::Encoded({ -100, 100 }) });
-    }
-    static SceneryObject* Spot(build::Place place, float radius) {
-        SceneryObject* spot = build::Spot(place);
-        PayloadAs<ParkingSpotRecord>(spot).radius = radius;
-        return spot;
-    }
-    static SceneryObject* Ils() {
-        SceneryObject* ils = build::IlsWithParts("IABC", { 0, 100 }, { 120, 0 }, { 200, 0 });
-        PayloadAs<IlsPayload>(ils).localizer.width = 5;
-        return ils;
-    }
-    static SceneryObject* Strip() {
-        const EncodedPoint from = build::Encoded({ -100, 0 }), to = build::Encoded({ 100, 0 });
-        return build::EdgeLights({ { 60, from.longitude, from.latitude, to.longitude, to.latitude, 0, 0, 0 } });
-    }
-};
-
-TEST_F(SelectionTest, CircleTestIncludesTheBoundary) {
-    EXPECT_TRUE(HitsCircle({ 3, 4 }, { 0, 0 }, 5));
-    EXPECT_FALSE(HitsCircle({ 4, 4 }, { 0, 0 }, 5));
-    EXPECT_TRUE(HitsCircle({ 7, 7 }, { 7, 7 }, 0));
-    EXPECT_FALSE(HitsCircle({ -2'000'000'000, 0 }, { 2'000'000'000, 0 }, 5));
-}
-
-TEST_F(SelectionTest, AFlatSegmentIsHitWithinThreePixelsAbove) {
-    EXPECT_TRUE(HitsSegment({ 5, 3 }, { 0, 0 }, { 10, 0 }));
-    EXPECT_FALSE(HitsSegment({ 5, 4 }, { 0, 0 }, { 10, 0 }));
-    EXPECT_TRUE(HitsSegment({ 5, -2 }, { 0, 0 }, { 10, 0 }));
-    EXPECT_FALSE(HitsSegment({ 5, -3 }, { 0, 0 }, { 10, 0 }));  // strictly
-}
-
-TEST_F(SelectionTest, TheFarEndOfASegmentLiesOutside) {
-    EXPECT_TRUE(HitsSegment({ 0, 0 }, { 0, 0 }, { 10, 0 }));
-    EXPECT_TRUE(HitsSegment({ 9, 0 }, { 0, 0 }, { 10, 0 }));
-    EXPECT_FALSE(HitsSegment({ 10, 0 }, { 0, 0 }, { 10, 0 }));
-    EXPECT_FALSE(HitsSegment({ -1, 0 }, { 0, 0 }, { 10, 0 }));
-}
-
-TEST_F(SelectionTest, ASegmentDrawnBackwardsIsTheSameTheOtherWayRound) {
-    EXPECT_TRUE(HitsSegment({ 10, 0 }, { 10, 0 }, { 0, 0 }));
-    EXPECT_TRUE(HitsSegment({ 1, 0 }, { 10, 0 }, { 0, 0 }));
-    EXPECT_FALSE(HitsSegment({ 0, 0 }, { 10, 0 }, { 0, 0 }));
-}
-
-TEST_F(SelectionTest, ASteepSegmentExchangesTheAxes) {
-    EXPECT_TRUE(HitsSegment({ 3, 5 }, { 0, 0 }, { 0, 10 }));
-    EXPECT_FALSE(HitsSegment({ -3, 5 }, { 0, 0 }, { 0, 10 }));
-    EXPECT_FALSE(HitsSegment({ 0, 10 }, { 0, 0 }, { 0, 10 }));
-    EXPECT_TRUE(HitsSegment({ 5, 13 }, { 0, 0 }, { 10, 20 }));
-}
-
-TEST_F(SelectionTest, ADiagonalCountsAsFlat) {
-    EXPECT_TRUE(HitsSegment({ 5, 8 }, { 0, 0 }, { 10, 10 }));
-    EXPECT_FALSE(HitsSegment({ 5, 9 }, { 0, 0 }, { 10, 10 }));
-}
-
-TEST_F(SelectionTest, ASegmentOfNoLengthIsNeverHit) { EXPECT_FALSE(HitsSegment({ 4, 4 }, { 4, 4 }, { 4, 4 })); }
-
-TEST_F(SelectionTest, APixelBesideANodeStillPicksIt) {
-    SceneryObject* node = build::Node();
-    Paint();
-    const Pixel centre = ScreenPoint(node, 0);
-    EXPECT_EQ(ScreenRadius(node), 6);
-    EXPECT_EQ(PickObject(Beside(centre, 7)).object, node);
-    EXPECT_EQ(PickObject(Beside(centre, 8)).object, nullptr);
-}
-
-TEST_F(SelectionTest, APixelBesideASpotDoesNot) {
-    SceneryObject* spot = Spot({}, 20);
-    Paint();
-    EXPECT_EQ(PickObject(Beside(ScreenPoint(spot, 0), 20)).object, spot);
-    EXPECT_EQ(PickObject(Beside(ScreenPoint(spot, 0), 21)).object, nullptr);
-}
-
-TEST_F(SelectionTest, ANodeIsPickedBeforeTheRunwayUnderIt) {
-    SceneryObject* runway = build::Runway(36);
-    SceneryObject* node = build::Node();
-    Paint();
-    EXPECT_EQ(PickedAt({ 0, 0 }), node);
-    EXPECT_EQ(PickedAt({ 0, 50 }), runway);
-    EXPECT_EQ(PickedAt({ 30, 50 }), nullptr);  // 22.5 m wide on either side
-}
-
-TEST_F(SelectionTest, ALinkIsPickedBeforeTheSpotUnderIt) {
-    SceneryObject* spot = Spot({}, 30);
-    SceneryObject* link = build::Link(build::Node({ -100, 0 }), build::Node({ 100, 0 }));
-    Paint();
-    EXPECT_EQ(PickedAt({ 0, 0 }), link);
-    EXPECT_EQ(PickedAt({ 0, 15 }), spot);
-}
-
-TEST_F(SelectionTest, KindsArePickedInTheirOrder) {
-    layers = { .network = true,
-               .lights = true,
-               .starts = true,
-               .navaids = true,
-               .holdShortLimits = false,
-               .highlightedDesignator = nullptr };
-    std::vector<SceneryObject*> order(1, Strip());
-    order.push_back(build::Ndb());
-    order.push_back(build::Node());
-    order.push_back(build::Link(build::Node({ -120, 0 }), build::Node({ 120, 0 })));
-    order.push_back(Spot({}, 30));
-    order.push_back(build::Placed<StartLocationRecord>(kStartLocation, {}));
-    order.push_back(state.airport);
-    SetPosition(state.airport, build::kMiddle);
-    order.push_back(build::Tower());
-    PayloadAs<TowerViewpointRecord>(order.back()).altitude = 1;
-    order.push_back(build::Runway(36));
-    order.push_back(build::Placed<HelipadRecord>(kHelipad, {}));
-    PayloadAs<HelipadRecord>(order.back()).length = PayloadAs<HelipadRecord>(order.back()).width = 60;
-    order.push_back(SquareApron());
-    order.push_back(build::Marker());
-    Paint();
-    // The one that was hit is made invisible, and the next one shows.
-    for (SceneryObject* expected : order) {
-        SceneryObject* hit = PickedAt({ 0, 1 });
-        ASSERT_EQ(hit, expected) << "kind " << KindOf(expected);
-        hit->view[kDrawnWord] = 0;
-    }
-    EXPECT_EQ(PickedAt({ 0, 1 }), nullptr);
-}
-
-TEST_F(SelectionTest, AmongObjectsOfAKindTheEarliestWins) {
-    SceneryObject* first = build::Node();
-    build::Node({ 1, 0 });
-    Paint();
-    EXPECT_EQ(PickedAt({ 1, 0 }), first);
-}
-
-TEST_F(SelectionTest, AGuidelineIsPickedOnlyWhileTheNetworkIsShown) {
-    SceneryObject* guideline = build::Guideline(build::Marker({ -100, 0 }), build::Marker({ 100, 0 }));
-    Paint();
-    EXPECT_EQ(PickedAt({ 0, 0 }), guideline);
-    layers.network = false;
-    Paint();
-    EXPECT_EQ(PickedAt({ 0, 0 }), nullptr);
-    EXPECT_NE(PickedAt({ 100, 0 }), nullptr);  // its marker
-}
-
-TEST_F(SelectionTest, AMarkerIsHitWithinFivePixels) {
-    SceneryObject* marker = build::Marker();
-    Paint();
-    EXPECT_EQ(PickObject(Beside(ScreenPoint(marker, 0), 5)).object, marker);
-    EXPECT_EQ(PickObject(Beside(ScreenPoint(marker, 0), 6)).object, nullptr);
-}
-
-TEST_F(SelectionTest, ALayerHiddenSinceThePaintIsNotPicked) {
-    build::Node();
-    Paint();
-    layers.network = false;
-    EXPECT_EQ(PickedAt({ 0, 0 }), nullptr);
-}
-
-TEST_F(SelectionTest, AReplacedStockNavaidIsNotPicked) {
-    layers.navaids = true;
-    SceneryObject* stock = build::Ndb();
-    Paint();
-    EXPECT_EQ(PickedAt({ 0, 0 }), stock);
-    stock->flags |= kStock;
-    stock->related = build::Ndb({ 200, 0 });
-    EXPECT_EQ(PickedAt({ 0, 0 }), nullptr);
-}
+class SelectionTest : public PickFixture {};
 
 TEST_F(SelectionTest, TheClickedObjectIsSelectedAloneOrAdded) {
     SceneryObject* a = build::Node({ -50, 0 });
@@ -274,12 +99,32 @@ TEST_F(SelectionTest, AnIlsIsSelectedByItsParts) {
     EXPECT_FALSE(IsSelected(ils));
 }
 
-TEST_F(SelectionTest, AnIlsHasOnlyThePartsItIsFlaggedWith) {
+// It was selected with three parts, and no click could take out those that it does not have.
+TEST_F(SelectionTest, TakingTheLocalizerOutOfAnIlsWithoutOtherPartsDeselectsIt) {
     layers.navaids = true;
-    PayloadAs<IlsPayload>(Ils()).body.flags = 0;
+    SceneryObject* ils = Ils();
+    PayloadAs<IlsPayload>(ils).body.flags = 0;
     Paint();
-    EXPECT_EQ(PickedAt({ 120, 0 }), nullptr);
-    EXPECT_EQ(PickedAt({ 200, 0 }), nullptr);
+    SelectAll();
+    SelectAt(PixelOf({ 0, 100 }), true);
+    EXPECT_FALSE(IsSelected(ils));
+    EXPECT_EQ(PayloadAs<IlsPayload>(ils).selectedParts, 0);
+    PayloadAs<IlsPayload>(ils).body.flags = kHasDme;
+    Paint();
+    SelectAll();
+    SelectAt(PixelOf({ 0, 100 }), true);
+    EXPECT_TRUE(IsSelected(ils));
+    EXPECT_EQ(PayloadAs<IlsPayload>(ils).selectedParts, kDmePart);
+}
+
+TEST_F(SelectionTest, AnIlsThatIsNotSelectedHasNoSelectedParts) {
+    layers.navaids = true;
+    SceneryObject* ils = Ils();
+    PayloadAs<IlsPayload>(ils).selectedParts = kAllIlsParts;
+    Paint();
+    EXPECT_FALSE(IsPickSelected({ ils, kGlideSlopePart }));
+    SelectAt(PixelOf({ 120, 0 }), false);
+    EXPECT_EQ(PayloadAs<IlsPayload>(ils).selectedParts, kGlideSlopePart);
 }
 
 TEST_F(SelectionTest, AnApronIsSelectedWholeOrByVertex) {
@@ -328,7 +173,7 @@ TEST_F(SelectionTest, DeselectingAnApronForgetsItsVertices) {
 
 TEST_F(SelectionTest, ALightStripIsSelectedByPointOrSegment) {
     layers.lights = true;
-    SceneryObject* lights = Strip();
+    SceneryObject* lights = FlatStrip();
     Paint();
     SelectAt(PixelOf({ -100, 0 }), false);
     EXPECT_TRUE(StripAt(lights, 0).startSelected);
@@ -341,6 +186,40 @@ TEST_F(SelectionTest, ALightStripIsSelectedByPointOrSegment) {
     EXPECT_EQ(PickedAt({ 0, 0 }), nullptr);
 }
 
+TEST_F(SelectionTest, AnotherClickTakesAPartOfALightStripOutAgain) {
+    layers.lights = true;
+    SceneryObject* lights = FlatStrip();
+    Paint();
+    for (const double east : { -100.0, 0.0, 100.0 }) SelectAt(PixelOf({ east, 0 }), true);
+    SelectAt(PixelOf({ 0, 0 }), true);
+    EXPECT_FALSE(StripAt(lights, 0).segmentSelected);
+    EXPECT_TRUE(StripAt(lights, 0).startSelected && StripAt(lights, 0).endSelected);
+    SelectAt(PixelOf({ -100, 0 }), true);
+    EXPECT_FALSE(StripAt(lights, 0).startSelected);
+    EXPECT_TRUE(IsSelected(lights));
+    SelectAt(PixelOf({ 100, 0 }), true);
+    EXPECT_FALSE(IsSelected(lights));
+}
+
+TEST_F(SelectionTest, APartOfAWhollySelectedStripIsTakenOut) {
+    layers.lights = true;
+    const EncodedPoint a = build::Encoded({ -100, 0 }), b = build::Encoded({ 100, 0 });
+    const EncodedPoint c = build::Encoded({ -100, 90 }), d = build::Encoded({ 100, 90 });
+    SceneryObject* lights = build::EdgeLights({ { 60, a.longitude, a.latitude, b.longitude, b.latitude, 0, 0, 0 },
+                                                { 60, c.longitude, c.latitude, d.longitude, d.latitude, 0, 0, 0 } });
+    Paint();
+    lights->flags |= kSelected | kWholeSelected;
+    SelectAt(PixelOf({ 0, 0 }), true);
+    EXPECT_EQ(lights->flags & (kSelected | kWholeSelected), kSelected);
+    const LightStrip out = StripAt(lights, 0), kept = StripAt(lights, 1);
+    EXPECT_FALSE(out.segmentSelected || out.startSelected || out.endSelected);
+    EXPECT_TRUE(kept.startSelected && kept.endSelected);
+    SelectAll();
+    SelectAt(PixelOf({ 100, 90 }), true);
+    EXPECT_TRUE(StripAt(lights, 0).startSelected && StripAt(lights, 0).endSelected && StripAt(lights, 1).startSelected);
+    EXPECT_FALSE(StripAt(lights, 1).endSelected || StripAt(lights, 1).segmentSelected);
+}
+
 TEST_F(SelectionTest, SelectAllLeavesOutVorsNdbsAndReplacedStock) {
     SceneryObject* node = build::Node();
     SceneryObject* ndb = build::Ndb();
@@ -349,7 +228,7 @@ TEST_F(SelectionTest, SelectAllLeavesOutVorsNdbsAndReplacedStock) {
     SceneryObject* replacement = Ils();
     stock->flags |= kStock;
     stock->related = replacement;
-    SceneryObject* lights = Strip();
+    SceneryObject* lights = FlatStrip();
     SelectAll();
     EXPECT_EQ(node->flags & (kSelected | kWholeSelected), kSelected | kWholeSelected);
     for (const SceneryObject* left : { ndb, vor, stock }) EXPECT_FALSE(IsSelected(left));
@@ -364,31 +243,12 @@ TEST_F(SelectionTest, SelectAllLeavesOutVorsNdbsAndReplacedStock) {
 
 TEST_F(SelectionTest, AWhollySelectedStripIsSelectedInAllItsParts) {
     layers.lights = true;
-    SceneryObject* lights = Strip();
+    SceneryObject* lights = FlatStrip();
     SelectAll();
     EXPECT_TRUE(IsPickSelected({ lights, PartNumber(0, StripPart::Segment) }));
     EXPECT_TRUE(IsPickSelected({ lights, PartNumber(0, StripPart::End) }));
     DeselectAll();
     EXPECT_FALSE(IsPickSelected({ lights, PartNumber(0, StripPart::Segment) }));
-}
-
-// Of two kinds in one place the earlier in the order is hit, whichever comes first in the list; of one kind the first.
-TEST_F(SelectionTest, TheListDecidesOnlyWithinAKind) {
-    for (const bool nodeFirst : { true, false }) {
-        ClearModel();
-        Open();
-        SetPosition(state.airport, build::At({ -390, 290 }));
-        SceneryObject* node = nodeFirst ? build::Node() : nullptr;
-        SceneryObject* spot = Spot({}, 30);
-        if (!node) node = build::Node();
-        SceneryObject* sameNode = build::Node();
-        SceneryObject* sameSpot = Spot({}, 30);
-        Paint();
-        EXPECT_EQ(PickedAt({ 0, 0 }), node);
-        EXPECT_EQ(PickedAt({ 20, 0 }), spot);
-        EXPECT_NE(PickedAt({ 0, 0 }), sameNode);
-        EXPECT_NE(PickedAt({ 20, 0 }), sameSpot);
-    }
 }
 
 }  // namespace

@@ -5,11 +5,11 @@
 
 #include <filesystem>
 #include <fstream>
-#include <random>
 
 #include "app/Settings.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/FakeProfile.h"
+#include "fakes/TemporaryFolder.h"
 #include "fakes/TestLibrary.h"
 #include "platform/Files.h"
 #include "platform/Profile.h"
@@ -26,16 +26,12 @@ protected:
         ResetFakes();
         fakeProfiles = FakeProfiles{};
         app::settings = app::Settings{};
-        root = fs::temp_directory_path() / ("tarvo-settings-" + std::to_string(std::random_device{}()));
-        fs::create_directories(root);
         folder = Utf8Path(root);
         file = folder + "\\Tarvo2.ini";
     }
     ~SettingsFile() override {
         fakeProfiles = FakeProfiles{};
         app::settings = app::Settings{};
-        std::error_code ignored;
-        fs::remove_all(root, ignored);
     }
 
     void Set(const char* key, const std::string& value) const { SetFakeProfile(file, "General", key, value); }
@@ -56,7 +52,8 @@ protected:
         return static_cast<size_t>(std::distance(fs::directory_iterator(root), fs::directory_iterator()));
     }
 
-    fs::path root;
+    const TemporaryFolder temporary;
+    const fs::path& root = temporary.path;
     std::string folder, file;
 };
 

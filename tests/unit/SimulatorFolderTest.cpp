@@ -4,12 +4,12 @@
 
 #include <filesystem>
 #include <fstream>
-#include <random>
 
 #include "app/AppState.h"
 #include "app/Settings.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/FakeShell.h"
+#include "fakes/TemporaryFolder.h"
 
 namespace {
 
@@ -19,16 +19,11 @@ class SimulatorFolderTest : public testing::Test {
 protected:
     void SetUp() override {
         ResetProgram();
-        root = fs::temp_directory_path() / ("tarvo-sim-" + std::to_string(std::random_device{}()));
         fs::create_directories(root / "with");
         fs::create_directories(root / "without");
         std::ofstream(root / "with" / "FS9.exe") << "x";
     }
-    void TearDown() override {
-        ResetProgram();
-        std::error_code ignored;
-        fs::remove_all(root, ignored);
-    }
+    void TearDown() override { ResetProgram(); }
     std::string In(const std::string& name) const { return (root / name).string(); }
     // The folder, "" when there is none.
     static std::string Found() {
@@ -41,7 +36,8 @@ protected:
         fakeShell.browsedFolder = folder;
         fake.answers = { answer };
     }
-    fs::path root;
+    const TemporaryFolder temporary;
+    const fs::path& root = temporary.path;
 };
 
 TEST_F(SimulatorFolderTest, TheFirstRegisteredFolderWithTheProgramIsTaken) {

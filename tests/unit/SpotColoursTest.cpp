@@ -61,6 +61,17 @@ TEST_F(SpotColoursTest, OtherCodesHaveNoSpec) {
     EXPECT_EQ(NameFor({}), "");
 }
 
+TEST_F(SpotColoursTest, CodesMatchWithoutRegardToCase) {
+    app::parkingSpecs = { Spec("Alaska", 10, { "asa", "Qxe" }), Spec("Horizon", 20, { "QXE", "ASA" }) };
+    EXPECT_EQ(NameFor({ "ASA", "QXE" }), "Alaska") << "by all codes";
+    EXPECT_EQ(NameFor({ "qxe", "asa" }), "Horizon") << "by all codes";
+    EXPECT_EQ(NameFor({ "ASA", "XYZ" }), "Alaska") << "by the first code";
+    EXPECT_EQ(NameFor({ "qxe" }), "Horizon") << "by the first code";
+    app::parkingSpecs = { Spec("Alaska", 10, { "AAA", "asa", "QXE" }) };
+    EXPECT_EQ(NameFor({ "ASA" }), "Alaska") << "by any code";
+    EXPECT_EQ(NameFor({ "qxe" }), "Alaska") << "by any code";
+}
+
 TEST_F(SpotColoursTest, ACodeCountBeyondThePayloadIsNotFollowed) {
     model::SceneryObject* spot = build::Spot({}, { "AAL", "EGF" });
     model::PayloadAs<model::ParkingSpotRecord>(spot).packed |= 0xFFu << 24;
@@ -72,6 +83,15 @@ TEST_F(SpotColoursTest, TheSpecFillsTheSpotWithAGreyOutline) {
     const auto spots = Spots(Rgb(160, 31, 41));
     ASSERT_EQ(spots.size(), 2u);  // the circle and its pointer
     EXPECT_EQ(spots[0].pen, Rgb(100, 100, 100));
+}
+
+TEST_F(SpotColoursTest, TheBlackThatStandsForNoFillIsFilledToo) {
+    app::parkingSpecs = { { .name = "Black", .hasColour = true, .blue = 1, .halfBlue = 1, .codes = { "BLK" } } };
+    ASSERT_EQ(Rgb(0, 0, 1), platform::kNoBrush);
+    build::Spot({ 0, 0 }, { "BLK" });
+    EXPECT_EQ(Spots(Rgb(1, 0, 1)).size(), 2u);
+    layers.lights = true;
+    EXPECT_EQ(Spots(Rgb(1, 0, 1)).size(), 2u);
 }
 
 TEST_F(SpotColoursTest, ByNightAtHalfIntensity) {

@@ -1,4 +1,6 @@
 // StartLocationFaultTest.cpp - check 4: runway ends without their start location.
+#include <limits>
+
 #include "fakes/FaultAirport.h"
 
 namespace {
@@ -113,4 +115,25 @@ TEST_F(StartLocationFault, TheBlastPadsDoNotMoveThePoint) {
     SceneryObject* runway = HeadedRunway(36, 0);
     model::PayloadAs<model::RunwayPayload>(runway).secondaryBlastPad.length = 300;
     ExpectAt(Reports()[0], { 0, 1000 - 60.96 });
+}
+
+TEST_F(StartLocationFault, ADamagedRunwayIsShownAtItsCentre) {
+    using Limits = std::numeric_limits<float>;
+    SceneryObject* runway = HeadedRunway(36, 30, { 300, 400 });
+    const auto expectCentre = [] {
+        const auto reports = Reports();
+        ASSERT_EQ(reports.size(), 2u);
+        for (const faults::FaultReport& report : reports) ExpectAt(report, { 300, 400 });
+    };
+    for (const float length : { Limits::infinity(), Limits::quiet_NaN(), 1e30f, -1e30f, Limits::max() }) {
+        SCOPED_TRACE(length);
+        BodyOf(runway).length = length;
+        expectCentre();
+    }
+    BodyOf(runway).length = 2000;
+    for (const float heading : { Limits::infinity(), Limits::quiet_NaN() }) {
+        SCOPED_TRACE(heading);
+        BodyOf(runway).heading = heading;
+        expectCentre();
+    }
 }

@@ -77,14 +77,35 @@ TEST(Toolbar, EveryButtonHasAPictureOfItsOwn) {
     EXPECT_EQ(pictures.size(), static_cast<size_t>(app::kToolPictures));
 }
 
-TEST(Toolbar, TooltipsAreFoundByTheCommand) {
-    EXPECT_STREQ(app::ToolTipFor(IDT_ZOOM_IN), "Zoom in (mouse wheel or + key)");
-    EXPECT_STREQ(app::ToolTipFor(IDT_HOLD_SHORT_NODE), "Create hold-short nodes by clicking with the mouse");
-    EXPECT_STREQ(app::ToolTipFor(IDT_LOCK), "Lock the map location to the Flight Simulator aircraft location");
+TEST(Toolbar, EveryButtonHasItsTooltip) {
+    const std::map<int, std::string> texts = {
+        { IDT_OPEN, "Open an airport from the scenery files" },
+        { IDT_SAVE, "Save an open airport back to the scenery files" },
+        { IDT_PRINT, "Print the airport map" },
+        { IDT_UNDO, "Undo (Ctrl+Z)" },
+        { IDT_REDO, "Redo (Ctrl+Y)" },
+        { IDT_ZOOM_IN, "Zoom in (mouse wheel or + key)" },
+        { IDT_ZOOM_OUT, "Zoom out (mouse wheel or - key)" },
+        { IDT_LOCK, "Lock the map location to the Flight Simulator aircraft location" },
+        { IDT_POINTER, "Pointer mode" },
+        { IDT_NORMAL_NODE, "Create normal nodes by clicking with the mouse" },
+        { IDT_HOLD_SHORT_NODE, "Create hold-short nodes by clicking with the mouse" },
+        { IDT_ILS_HOLD_SHORT_NODE, "Create ILS hold-short nodes by clicking with the mouse" },
+        { IDT_NORMAL_LINK, "Create normal taxi link by connecting nodes with the mouse" },
+        { IDT_RUNWAY_LINK, "Create runway taxi link by connecting nodes with the mouse" },
+        { IDT_APRON_LINK, "Create apron taxi link by connecting nodes with the mouse" },
+        { IDT_CLOSED_LINK, "Create closed taxi link by connecting nodes with the mouse" },
+        { IDT_PARKING, "Create parking spots by clicking with the mouse" },
+        { IDT_APRON, "Create apron polygon by clicking clicking mouse to place points" },
+        { IDT_APRON_POINT, "Insert new point in existing apron polygon by clicking with the mouse" },
+        { IDT_EDGE_LIGHTS, "Insert apron light strip by clicking and pulling with the mouse" },
+        { IDT_MARKERS, "Create reference markers by clicking with the mouse" },
+        { IDT_GUIDELINES, "Create guidelines with the mouse" },
+    };
+    for (const auto& [command, text] : texts) EXPECT_EQ(app::ToolTipFor(command), text);
     EXPECT_EQ(app::ToolTipFor(0), nullptr);
     EXPECT_EQ(app::ToolTipFor(IDM_SAVE), nullptr);
-    EXPECT_STREQ(app::ToolTipFor(IDT_APRON), "Create apron polygon by clicking clicking mouse to place points");
-    EXPECT_STREQ(app::ToolTipFor(IDT_GUIDELINES), "Create guidelines with the mouse");
+    EXPECT_EQ(texts.size(), static_cast<size_t>(app::kToolPictures));
     for (const app::ToolButton& button : AllButtons())
         EXPECT_EQ(button.command != 0, app::ToolTipFor(button.command) != nullptr) << button.command;
 }

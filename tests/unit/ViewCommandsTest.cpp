@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "app/Commands.h"
+#include "dialogs/OverMap.h"
 #include "fakes/BuildObjects.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/FakeShell.h"
@@ -46,6 +47,17 @@ TEST_F(ViewCommandsTest, ALockedMapIsNeitherPannedNorTurnedButZooms) {
     EXPECT_EQ(map::view.rotation, 0);
     app::RunCommand(IDT_ZOOM_IN);
     EXPECT_DOUBLE_EQ(map::view.span, map::kInitialSpan * 0.9);
+}
+
+TEST_F(ViewCommandsTest, TheMapMenuDoesNotOpenUnderADragOrADialog) {
+    EXPECT_TRUE(app::MayOpenMapMenu());
+    model::state.busy = true;
+    EXPECT_FALSE(app::MayOpenMapMenu());
+    model::state.busy = false;
+    dialogs::overMap.open = true;
+    EXPECT_FALSE(app::MayOpenMapMenu());
+    dialogs::overMap = {};
+    EXPECT_TRUE(app::MayOpenMapMenu());
 }
 
 TEST_F(ViewCommandsTest, JumpHereIsGreyedWithoutASimulator) {
