@@ -21,14 +21,9 @@ void SetRunwayIdent(const RunwayEndRef& ref, uint32_t ident, Edits* edits) {
     std::memcpy(DraftOf(edits, ref.runway)->payload + kEndPlaces[ref.end].ils, &ident, sizeof ident);
 }
 
-bool NamesEnd(const LocalizerPart& localizer, const RunwayEndRef& ref) {
-    return ref.runway->payload[kEndPlaces[ref.end].number] == localizer.runwayNumber &&
-           ref.runway->payload[kEndPlaces[ref.end].designator] == localizer.runwayDesignator;
-}
-
 // The end that the localizer names: of several with the name the nearest.
 bool IsMeant(const SceneryObject* ils, const RunwayEndRef& ref) {
-    return NamesEnd(model::PayloadAs<IlsPayload>(ils).localizer, ref) && !IsNearerToNamesake(ils, ref.runway, ref.end);
+    return model::LocalizerNames(ils, ref.runway, ModelEnd(ref.end)) && !IsNearerToNamesake(ils, ref.runway, ref.end);
 }
 
 // A runway end has room for one ILS.
@@ -52,7 +47,7 @@ void UpdateRunways(const SceneryObject* ils, const SceneryObject* draft, bool ot
     const uint32_t newIdent = is.body.ident >> model::kIdentShift;
     if (!otherEnd && oldIdent == newIdent) return;
     for (const RunwayEndRef& ref : AllRunwayEnds()) {
-        const uint32_t named = NamedIls(ref.runway, static_cast<size_t>(ref.end));
+        const uint32_t named = model::IlsNamedBy(ref.runway, ModelEnd(ref.end));
         if (otherEnd && IsMeant(draft, ref))
             SetRunwayIdent(ref, newIdent, edits);
         else if (named != 0 && named == oldIdent && ServesEnd(ils, ref.runway, ref.end))

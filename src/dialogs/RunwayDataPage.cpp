@@ -156,7 +156,7 @@ void LoadDataPage(const SceneryObject* runway, RunwayFields* fields) {
         LoadBits(kPatternBits[end], body.pattern, &to);
         to.overrun = ShowNumber(kOverrun, PartAt(runway, kEndPlaces[end].blastPad).length);
         to.displaced = ShowNumber(kDisplaced, PartAt(runway, kEndPlaces[end].displaced).length);
-        to.ilsIdent = model::UnpackIdent(NamedIls(runway, end));
+        to.ilsIdent = model::UnpackIdent(model::IlsNamedBy(runway, ModelEnd(static_cast<int>(end))));
     }
 }
 

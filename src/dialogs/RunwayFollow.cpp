@@ -138,23 +138,14 @@ bool IsNearerToNamesake(const SceneryObject* object, const SceneryObject* runway
 }
 
 bool ServesEnd(const SceneryObject* ils, const SceneryObject* runway, int end) {
-    const auto place = end == kBaseEnd ? model::RunwayEnd::Primary : model::RunwayEnd::Secondary;
-    if (model::IlsBelongsTo(ils, runway, place)) return true;
-    if (NamedIls(runway, static_cast<size_t>(end)) != 0 || !model::IsStock(ils) || !model::MayServeUnnamedEnd(ils) ||
-        !model::state.airport)
-        return false;
-    const auto& payload = model::PayloadAs<IlsPayload>(ils);
-    return DesignatorOf(runway, end) ==
-               EndDesignator{ payload.localizer.runwayNumber, payload.localizer.runwayDesignator } &&
-           model::RegionWordNamesAirport(payload.body.region,
-                                         model::PayloadAs<model::AirportRecord>(model::state.airport).ident);
+    return model::IlsServes(ils, runway, ModelEnd(end));
 }
 
 EndBelongings BelongingsOf(const SceneryObject* runway, int end) {
     EndBelongings found;
     for (SceneryObject* object = model::state.head; object; object = object->next) {
         if (KindOf(object) == model::kIls && !model::IsReplacedStock(object) && ServesEnd(object, runway, end) &&
-            (NamedIls(runway, static_cast<size_t>(end)) != 0 || !IsNearerToNamesake(object, runway, end)))
+            (model::IlsNamedBy(runway, ModelEnd(end)) != 0 || !IsNearerToNamesake(object, runway, end)))
             found.ils.push_back(object);
         if (KindOf(object) == model::kStartLocation && StartsAt(object, DesignatorOf(runway, end)) &&
             !IsNearerToNamesake(object, runway, end))

@@ -19,8 +19,7 @@ EndBelongings BelongingsOf(const SceneryObject* runway, int end);
 // location, or the localizer of an ILS, stands nearer to another end of the same name.
 bool IsNearerToNamesake(const SceneryObject* object, const SceneryObject* runway, int end);
 
-// Whether an ILS serves the end: the runway names it, or it names the runway end and this airport. Unlike
-// the rule for deleting, a stock ILS may name the end too, as long as no end names it.
+// Whether an ILS, a stock one too, serves the end (model/IlsEnds.h).
 bool ServesEnd(const SceneryObject* ils, const SceneryObject* runway, int end);
 
 // Where the designators of the draft differ from the runway's: start locations and ILSs get the new ones,

@@ -3,10 +3,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 
 #include "dialogs/Field.h"
 #include "dialogs/RunwayDialog.h"
+#include "model/IlsEnds.h"
 #include "model/Records.h"
 
 namespace dialogs {
@@ -26,12 +26,7 @@ inline constexpr RunwayEndPlaces kEndPlaces[2] = {
       offsetof(model::RunwayPayload, secondaryLeftVasi), offsetof(model::RunwayPayload, secondaryRightVasi) },
 };
 
-// The packed ident of the ILS that the runway names for the end; 0 for none.
-inline uint32_t NamedIls(const SceneryObject* runway, size_t end) {
-    uint32_t ident;
-    std::memcpy(&ident, runway->payload + kEndPlaces[end].ils, sizeof ident);
-    return ident;
-}
+inline model::RunwayEnd ModelEnd(int end) { return end == 0 ? model::RunwayEnd::Primary : model::RunwayEnd::Secondary; }
 
 // The pages: each loads its fields and writes those that changed into the draft.
 void LoadDataPage(const SceneryObject* runway, RunwayFields* fields);

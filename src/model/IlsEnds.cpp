@@ -18,14 +18,6 @@ constexpr RunwayEnd kEnds[] = { RunwayEnd::Primary, RunwayEnd::Secondary };
 
 uint32_t IdentOf(const SceneryObject* ils) { return PayloadAs<IlsPayload>(ils).body.ident >> kIdentShift; }
 
-bool LocalizerNames(const SceneryObject* ils, const SceneryObject* runway, RunwayEnd end) {
-    const LocalizerPart localizer = PayloadAs<IlsPayload>(ils).localizer;
-    const RunwayRecord& body = PayloadAs<RunwayPayload>(runway).body;
-    const bool primary = end == RunwayEnd::Primary;
-    return localizer.runwayNumber == (primary ? body.primaryNumber : body.secondaryNumber) &&
-           localizer.runwayDesignator == (primary ? body.primaryDesignator : body.secondaryDesignator);
-}
-
 // Whether an end names the ident of the ILS; with `localizer` one that the localizer names too.
 bool IsNamed(const SceneryObject* ils, bool localizer) {
     const uint32_t ident = IdentOf(ils);
@@ -48,6 +40,14 @@ double DistanceBehind(LatLon localizer, const SceneryObject* runway, RunwayEnd e
 
 }  // namespace
 
+bool LocalizerNames(const SceneryObject* ils, const SceneryObject* runway, RunwayEnd end) {
+    const LocalizerPart localizer = PayloadAs<IlsPayload>(ils).localizer;
+    const RunwayRecord& body = PayloadAs<RunwayPayload>(runway).body;
+    const bool primary = end == RunwayEnd::Primary;
+    return localizer.runwayNumber == (primary ? body.primaryNumber : body.secondaryNumber) &&
+           localizer.runwayDesignator == (primary ? body.primaryDesignator : body.secondaryDesignator);
+}
+
 uint32_t IlsNamedBy(const SceneryObject* runway, RunwayEnd end) {
     const RunwayRecord& body = PayloadAs<RunwayPayload>(runway).body;
     return end == RunwayEnd::Primary ? body.primaryIls : body.secondaryIls;
@@ -61,14 +61,16 @@ bool HasStockEnd(const SceneryObject* ils) {
     return own.runwayNumber == stock.runwayNumber && own.runwayDesignator == stock.runwayDesignator;
 }
 
-bool MayServeUnnamedEnd(const SceneryObject* ils) { return !IsNamed(ils, !HasStockEnd(ils)); }
-
-bool IlsBelongsTo(const SceneryObject* ils, const SceneryObject* runway, RunwayEnd end) {
+bool IlsServes(const SceneryObject* ils, const SceneryObject* runway, RunwayEnd end) {
     const uint32_t named = IlsNamedBy(runway, end);
     if (named != 0) return named == IdentOf(ils) && (LocalizerNames(ils, runway, end) || !IsNamed(ils, true));
-    return !IsStock(ils) && state.airport && LocalizerNames(ils, runway, end) && MayServeUnnamedEnd(ils) &&
+    return state.airport && LocalizerNames(ils, runway, end) && !IsNamed(ils, !HasStockEnd(ils)) &&
            RegionWordNamesAirport(PayloadAs<IlsPayload>(ils).body.region,
                                   PayloadAs<AirportRecord>(state.airport).ident);
+}
+
+bool IlsBelongsTo(const SceneryObject* ils, const SceneryObject* runway, RunwayEnd end) {
+    return IlsServes(ils, runway, end) && (!IsStock(ils) || IlsNamedBy(runway, end) != 0);
 }
 
 IlsEnd EndByPlace(const SceneryObject* ils) {

@@ -14,6 +14,9 @@ struct IlsEnd {
     bool operator==(const IlsEnd&) const = default;
 };
 
+// Whether the localizer's bytes for its runway end are the number and the designator of that end.
+bool LocalizerNames(const SceneryObject* ils, const SceneryObject* runway, RunwayEnd end);
+
 // The packed ident of the ILS that the runway names for the end; 0 for none.
 uint32_t IlsNamedBy(const SceneryObject* runway, RunwayEnd end);
 
@@ -21,14 +24,13 @@ uint32_t IlsNamedBy(const SceneryObject* runway, RunwayEnd end);
 // stock ILS, and of what replaces one until the user chooses another end.
 bool HasStockEnd(const SceneryObject* ils);
 
-// Whether the ILS may be tied to an end that names none by its localizer alone: no end that the localizer names has
-// its ident yet, and of one with the bytes of a stock file no end at all.
-bool MayServeUnnamedEnd(const SceneryObject* ils);
+// Whether the ILS serves that end: the runway names its ident or, when the runway names none there, its localizer names
+// the end and its region word this airport. Where several ends name the ident, the localizer tells which one it is (new
+// ILSs start with one ident); where several have the name, it is the one that names the ident. An ILS with the bytes of
+// a stock file serves no unnamed end once any end names its ident.
+bool IlsServes(const SceneryObject* ils, const SceneryObject* runway, RunwayEnd end);
 
-// Whether the ILS serves that end: the runway names its ident or, when the runway names none there and the
-// ILS is no stock object, its localizer names the end and its region word this airport. Where several ends
-// name the ident, the localizer tells which one it is (new ILSs start with one ident); where several have the name,
-// it is the one that names the ident.
+// Whether the ILS is deleted with the runway: a stock one does not belong to an end that does not name it.
 bool IlsBelongsTo(const SceneryObject* ils, const SceneryObject* runway, RunwayEnd end);
 
 // The end that the localizer stands behind: seen from there the nearest far end of a runway. No runway when the

@@ -34,27 +34,26 @@ protected:
         PostDoubleClick(at);
         return Dialog(title);
     }
-    // "Properties" of the map's menu, which the right button opens there. A menu that comes up as soon as a dialog has
-    // closed now and then takes no key under Wine; Esc closes it, and the next one does.
+    // "Properties" of the map's menu, which the right button opens there. Under Wine a menu that is asked for as soon
+    // as a dialog has closed now and then does not come up or takes no key; the next one does.
     HWND OpenByRightClick(POINT at, const wchar_t* title) {
         constexpr DWORD kSoon = 4000;
-        HWND dialog = nullptr;
-        for (int attempt = 0; attempt < 3 && !dialog; ++attempt) {
+        for (int attempt = 0; attempt < 3; ++attempt) {
             EXPECT_TRUE(BringToFront(mainWindow));
             Settle(mainWindow);  // what was just made is painted: only then it can be hit
             MovePointer(mainWindow, at.x, at.y);
             MouseButton(MOUSEEVENTF_RIGHTDOWN);
             MouseButton(MOUSEEVENTF_RIGHTUP);
-            EXPECT_TRUE(WaitUntil([&] { return InMenu(mainWindow); }));
+            if (!WaitUntil([&] { return InMenu(mainWindow); }, kSoon)) continue;
             EXPECT_TRUE(SettlePosted(agent));  // the menu is not only announced but up
             TapKey('P');
-            dialog = WaitForDialog(program.id, title, kSoon);
-            if (dialog) break;
+            const HWND dialog = WaitForDialog(program.id, title, kSoon);
+            if (dialog) return dialog;
             TapKey(VK_ESCAPE);
             EXPECT_TRUE(WaitUntil([&] { return !InMenu(mainWindow); }));
         }
-        EXPECT_NE(dialog, nullptr) << "no dialog \"" << Utf8(title) << '"';
-        return dialog;
+        ADD_FAILURE() << "no dialog \"" << Utf8(title) << '"';
+        return nullptr;
     }
     void ClickMap(POINT at) {
         SendClick(mainWindow, at.x, at.y);
