@@ -85,7 +85,28 @@ REG
     wine regedit /S "$(winepath -w "$wine_home/setup.reg" 2>/dev/null)" >/dev/null 2>&1 </dev/null 9>&-
 }
 
-# wine_up virtual|user - on a display of its own, or on the user's.
+# A Wine whose desktop found no display shows no window of any program and says nothing of it. DRIVER.exe tells what
+# screen there is and stays: Wine ends a desktop a second after its last program, and the next could have another.
+desktop_holds() {
+    local size=
+    rm -f "$wine_home/desktop.fifo"
+    mkfifo "$wine_home/desktop.fifo"
+    wine "$1" hold >"$wine_home/desktop.fifo" 2>/dev/null </dev/null 9>&- &
+    read -r -t 60 size <>"$wine_home/desktop.fifo" || true
+    rm -f "$wine_home/desktop.fifo"
+    [ "${size%$'\r'}" = 1280x1024 ] && return
+    echo "no desktop: the screen is \"${size%$'\r'}\", the display's log ends with \"$(tail -1 "$wine_home/xvfb.log")\"" >&2
+    return 1
+}
+
+start_wine() {
+    wineserver -p >/dev/null 2>&1 </dev/null 9>&-
+    # The first program starts Wine's services, which inherit its output for ever; a pipe would never end.
+    wine wineboot >/dev/null 2>&1 </dev/null 9>&-
+}
+
+# wine_up virtual|user [DRIVER.exe] - on a display of its own, or on the user's. With DRIVER.exe the virtual desktop is
+# tried, and made again when it does not come up.
 wine_up() {
     [ -z "${TARVO_WINE_UP:-}" ] || return 0 # ./test has started all this and started us
     mkdir -p "$wine_home"
@@ -97,23 +118,31 @@ wine_up() {
     trap 'exit 143' TERM
     rm -f "$wine_home/display.fifo"
     make_prefix
-    [ "$1" = user ] || start_display
-    wineserver -p >/dev/null 2>&1 </dev/null 9>&-
-    # The first program starts Wine's services, which inherit its output for ever; a pipe would never end.
-    wine wineboot >/dev/null 2>&1 </dev/null 9>&-
-    if [ "$1" = user ]; then write_registry Y; else write_registry N; fi
+    local attempt
+    for attempt in 1 2 3; do
+        [ "$1" = user ] || start_display
+        start_wine
+        if [ "$1" = user ]; then write_registry Y; else write_registry N; fi
+        if [ -z "${2:-}" ] || desktop_holds "$2"; then break; fi
+        [ $attempt -lt 3 ] || fail "there is no desktop to show a window on"
+        stop_wine
+    done
     ln -sfn "$root/build/sample-sim" "$drive_c/FS9"
     export TARVO_WINE_UP=1
+}
+
+stop_wine() {
+    wineserver -k >/dev/null 2>&1 || true
+    [ -n "${xvfb_id:-}" ] || return 0
+    kill "$xvfb_id" 2>/dev/null || true
+    wait "$xvfb_id" 2>/dev/null || true
+    xvfb_id=
 }
 
 wine_down() {
     local status=$?
     trap - EXIT
-    wineserver -k >/dev/null 2>&1 || true
-    if [ -n "${xvfb_id:-}" ]; then
-        kill "$xvfb_id" 2>/dev/null || true
-        wait "$xvfb_id" 2>/dev/null || true
-    fi
+    stop_wine
     exit "$status"
 }
 

@@ -15,6 +15,7 @@ constexpr int kOk = 0, kNotFound = 1, kUsage = 2;
 
 constexpr char kHelp[] =
     "driver list                        all visible top-level windows\n"
+    "driver hold                        prints the screen's size and keeps the desktop until it is ended\n"
     "driver tree    WINDOW              its controls\n"
     "driver wait    WINDOW [MS]         until it is there\n"
     "driver gone    WINDOW [MS]         until it is not\n"
@@ -71,6 +72,17 @@ void Describe(HWND window) {
 
 int ListWindows() {
     for (HWND window : ui::TopLevelWindows()) Describe(window);
+    return kOk;
+}
+
+// A desktop that no window can be made on has a size, but not the display's.
+int HoldDesktop() {
+    HWND window = CreateWindowW(L"Static", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
+    printf("%s%dx%d\n", window ? "" : "no window on ", GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN));
+    fflush(stdout);
+    if (!window) return kNotFound;
+    MSG message;
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);
     return kOk;
 }
 
@@ -225,6 +237,7 @@ int RunStep(const std::wstring& name, const std::wstring& target, const Argument
 
 int wmain(int count, wchar_t** values) {
     if (count == 2 && std::wstring(values[1]) == L"list") return ListWindows();
+    if (count == 2 && std::wstring(values[1]) == L"hold") return HoldDesktop();
     if (count == 4 && std::wstring(values[1]) == L"note") return Note(values[2], values[3]);
     if (count < 3 || !values[2][0]) {
         fputs(kHelp, stderr);
