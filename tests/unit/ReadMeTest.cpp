@@ -188,6 +188,63 @@ TEST_F(ReadMeTest, NoPictureIsShippedUnused) {
     }
 }
 
+TEST_F(ReadMeTest, TheVersionIsThatOfTheProgram) {
+    const std::vector<std::string> program =
+        AllMatches(ReadText(Checkout() / "res" / "Tarvo.rc"), "\"ProductVersion\", \"([0-9.]+)\"");
+    ASSERT_EQ(program.size(), 1u);
+    EXPECT_EQ(AllMatches(page, "<p>Version ([0-9.]+)\\. "), program);
+}
+
+std::string Replaced(const std::string& text, const std::string& from, const std::string& to) {
+    std::string result;
+    size_t start = 0;
+    for (size_t at; (at = text.find(from, start)) != std::string::npos; start = at + from.size())
+        result.append(text, start, at - start).append(to);
+    return result.append(text, start);
+}
+
+// Blanks and line ends as one blank.
+std::string Squeezed(const std::string& text) {
+    std::string result;
+    for (const char c : text) {
+        const bool isBlank = c == ' ' || c == '\n' || c == '\r' || c == '\t';
+        if (!isBlank)
+            result += c;
+        else if (!result.ends_with(' '))
+            result += ' ';
+    }
+    return result;
+}
+
+// What the sources and their tests tell users: literals that stand side by side joined, their line ends as blanks.
+std::string TextsOfTheProgram() {
+    std::string texts;
+    for (const char* folder : { "src", "tests" }) {
+        for (const fs::directory_entry& entry : fs::recursive_directory_iterator(Checkout() / folder)) {
+            if (entry.path().extension() != ".cpp" || entry.path().filename() == "ReadMeTest.cpp") continue;
+            texts += Replaced(Replaced(Squeezed(ReadText(entry.path())), "\" \"", ""), "\\n", " ");
+        }
+    }
+    return texts;
+}
+
+// Messages are quoted up to what differs each time, which is given as dots. One is a word of Windows.
+TEST_F(ReadMeTest, TheMessagesThatItExplainsAreThoseOfTheProgram) {
+    const std::string texts = TextsOfTheProgram(), prefix = "ERROR: ", ofWindows = "Before you can perform";
+    size_t seen = 0;
+    for (const std::string& cell : AllMatches(Squeezed(SectionOf(page, "Troubleshooting")), "<tr><td>(.*?)</td>")) {
+        for (std::string quote : AllMatches(cell, "\"([^\"]*)\"")) {
+            if (quote.starts_with(ofWindows)) continue;
+            if (quote.starts_with(prefix)) quote.erase(0, prefix.size());
+            for (const std::string& part : AllMatches(quote + "...", " ?(.+?) ?\\.\\.\\.")) {
+                EXPECT_NE(texts.find(part), std::string::npos) << part;
+                ++seen;
+            }
+        }
+    }
+    EXPECT_GT(seen, 20u) << "the messages were not found";
+}
+
 // Every element that must be closed is, and in the right order.
 TEST_F(ReadMeTest, TheTagsNest) {
     const std::set<std::string> single = { "!DOCTYPE", "meta", "img", "br", "hr", "link", "col" };
