@@ -8,6 +8,9 @@ set(program_folder ${TARVO_OUTPUT}/Tarvo)
 if(win_sources AND EXISTS ${CMAKE_SOURCE_DIR}/res/Tarvo.rc)
     add_executable(Tarvo WIN32 ${win_sources} res/Tarvo.rc)
     tarvo_product_options(Tarvo)
+    target_precompile_headers(Tarvo PRIVATE <windows.h> <commctrl.h> <algorithm> <cstdint> <string> <vector>)
+    # GCC warns of MinGW's own wmemcpy when it comes from a precompiled header.
+    set_source_files_properties(src/platform/FilesWin.cpp PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
     # What the program says of itself names files as they lie in the checkout, not where that was built.
     foreach(target IN ITEMS core Tarvo)
         target_compile_options(${target} PRIVATE -fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=)

@@ -6,6 +6,5 @@
 
 // One box a check, in the order of the checks.
 #define IDC_FIRST_CHECK 1710
-#define IDC_LAST_CHECK 1716
 #define IDC_FIND_FAULTS 1720
 #define IDC_FAULT_MESSAGE 1721

@@ -54,6 +54,7 @@ make_prefix() {
 }
 
 start_display() {
+    rm -f "$wine_home/display.fifo"
     # With -displayfd the server takes a free number and tells it when it accepts clients.
     mkfifo "$wine_home/display.fifo"
     Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>"$wine_home/display.fifo" \
@@ -62,8 +63,10 @@ start_display() {
     local number=
     read -r -t 30 number <"$wine_home/display.fifo" || true
     rm -f "$wine_home/display.fifo"
-    [ -n "$number" ] || fail "Xvfb does not start: $(tail -1 "$wine_home/xvfb.log")"
     export DISPLAY=:$number
+    [ -n "$number" ] && return
+    echo "no display: Xvfb's log ends with \"$(tail -1 "$wine_home/xvfb.log")\"" >&2
+    return 1
 }
 
 # The simulator's own setup is a 32-bit program, so its key lies in the 32-bit view of the registry.
@@ -100,13 +103,22 @@ desktop_holds() {
 }
 
 start_wine() {
-    wineserver -p >/dev/null 2>&1 </dev/null 9>&-
+    wineserver -p >/dev/null 2>&1 </dev/null 9>&- || return 1
     # The first program starts Wine's services, which inherit its output for ever; a pipe would never end.
     wine wineboot >/dev/null 2>&1 </dev/null 9>&-
 }
 
-# wine_up virtual|user [DRIVER.exe] - on a display of its own, or on the user's. With DRIVER.exe the virtual desktop is
-# tried, and made again when it does not come up.
+start_desktop() {
+    local managed=Y
+    if [ "$1" = virtual ]; then
+        managed=N
+        start_display || return 1
+    fi
+    start_wine && write_registry $managed && { [ -z "${2:-}" ] || desktop_holds "$2"; }
+}
+
+# wine_up virtual|user [DRIVER.exe] - on a display of its own, or on the user's. It is made again when it does not come
+# up; whether windows can be shown on it is known only with DRIVER.exe.
 wine_up() {
     [ -z "${TARVO_WINE_UP:-}" ] || return 0 # ./test has started all this and started us
     mkdir -p "$wine_home"
@@ -116,14 +128,10 @@ wine_up() {
     trap wine_down EXIT
     trap 'exit 130' INT
     trap 'exit 143' TERM
-    rm -f "$wine_home/display.fifo"
     make_prefix
     local attempt
     for attempt in 1 2 3; do
-        [ "$1" = user ] || start_display
-        start_wine
-        if [ "$1" = user ]; then write_registry Y; else write_registry N; fi
-        if [ -z "${2:-}" ] || desktop_holds "$2"; then break; fi
+        if start_desktop "$@"; then break; fi
         [ $attempt -lt 3 ] || fail "there is no desktop to show a window on"
         stop_wine
     done

@@ -21,14 +21,9 @@ namespace {
 
 constexpr uint64_t kFileLimit = 256 << 20;  // bytes
 
-bool Refuse(const std::string& text) {
-    platform::ShowMessage("ERROR: " + text, platform::Buttons::Ok, platform::Icon::Exclamation);
-    return false;
-}
-
 bool RefuseField(const std::string& text, AircraftField field, AircraftField* bad) {
     *bad = field;
-    return Refuse(text);
+    return platform::ShowError(text);
 }
 
 std::string Trimmed(std::string_view text) { return std::string(platform::Trimmed(text)); }
@@ -49,14 +44,14 @@ bool RefuseRadius(AircraftField* bad) {
 }
 
 bool ReadFileOrRefuse(const std::string& path, std::vector<uint8_t>* bytes) {
-    return platform::ReadWholeFile(path, kFileLimit, bytes) || Refuse("Unable to read file\n" + path);
+    return platform::ReadWholeFile(path, kFileLimit, bytes) || platform::ShowError("Unable to read file\n" + path);
 }
 
 // The configuration's bytes in *before and as a text that goes back to those bytes.
 bool ReadConfig(const std::string& path, std::vector<uint8_t>* before, ConfigText* config) {
     if (!ReadFileOrRefuse(path, before)) return false;
     *config = DecodeConfig(*before);
-    return EncodeConfig(*config) == *before || Refuse("The encoding of this file is damaged\n" + path);
+    return EncodeConfig(*config) == *before || platform::ShowError("The encoding of this file is damaged\n" + path);
 }
 
 bool HasSection(const ConfigText& config, const std::string& section) {
@@ -91,7 +86,7 @@ bool AddConfigChange(const Aircraft& aircraft, const AircraftFields& entered, st
     ConfigText config;
     if (!ReadConfig(aircraft.configPath, &change.before, &config)) return false;
     if (!HasSection(config, SectionName(aircraft.number)))
-        return Refuse("This variation is no longer in\n" + aircraft.configPath);
+        return platform::ShowError("This variation is no longer in\n" + aircraft.configPath);
     if (!EditConfig(aircraft, entered, &config, bad)) return false;
     change.after = EncodeConfig(config);
     if (change.after != change.before) changes->push_back(std::move(change));
@@ -102,7 +97,8 @@ bool AddModelChange(const Aircraft& aircraft, uint32_t radius, std::vector<FileC
     if (radius == aircraft.radius) return true;
     FileChange change{ aircraft.modelPath, {}, {}, true };
     if (!ReadFileOrRefuse(aircraft.modelPath, &change.before)) return false;
-    if (RadiusOf(change.before) == 0) return Refuse("This model no longer has a radius\n" + aircraft.modelPath);
+    if (RadiusOf(change.before) == 0)
+        return platform::ShowError("This model no longer has a radius\n" + aircraft.modelPath);
     change.after = change.before;
     for (size_t i = 0; i < sizeof radius; ++i) change.after[kRadiusOffset + i] = static_cast<uint8_t>(radius >> 8 * i);
     changes->push_back(std::move(change));
@@ -111,7 +107,7 @@ bool AddModelChange(const Aircraft& aircraft, uint32_t radius, std::vector<FileC
 
 bool WriteOrRefuse(const std::vector<FileChange>& changes) {
     std::string failed;
-    return WriteChanges(changes, &failed) || Refuse("Unable to write file\n" + failed);
+    return WriteChanges(changes, &failed) || platform::ShowError("Unable to write file\n" + failed);
 }
 
 // Takes the three values from the backup's section of the same number. A backup without that section has nothing to
@@ -130,7 +126,7 @@ bool AddConfigRestore(const Aircraft& aircraft, std::vector<FileChange>* changes
     if (!section) return true;
     for (const char* key : { kAirlineKey, kTypesKey, kCodesKey }) {
         if (!SetConfigValue(&config, name, key, ConfigValue(backup, *section, key)))
-            return Refuse("Unable to restore " + std::string(key) + " in\n" + aircraft.configPath);
+            return platform::ShowError("Unable to restore " + std::string(key) + " in\n" + aircraft.configPath);
     }
     change.after = EncodeConfig(config);
     if (change.after != change.before) changes->push_back(std::move(change));
@@ -191,7 +187,8 @@ bool RestoreAircraft(const Aircraft& aircraft) {
     std::vector<FileChange> changes;
     bool found = false;
     if (!AddConfigRestore(aircraft, &changes, &found) || !AddModelRestore(aircraft, &changes)) return false;
-    if (!found && changes.empty()) return Refuse("This variation is not in\n" + aircraft.configPath + kBackupEnd);
+    if (!found && changes.empty())
+        return platform::ShowError("This variation is not in\n" + aircraft.configPath + kBackupEnd);
     return WriteOrRefuse(changes);
 }
 

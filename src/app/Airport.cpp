@@ -41,11 +41,6 @@ std::string Explanation(const std::string& path, std::string_view ident) {
     return "Selected file  " + path + "  does not contain airport " + platform::UpperCased(ident);
 }
 
-bool Refuse(const std::string& message) {
-    platform::ShowMessage(message, platform::Buttons::Ok, platform::Icon::Exclamation);
-    return false;
-}
-
 // The backup in the root of the current drive goes with the airport; the program's own one stays.
 void DeleteRootBackup() { platform::DeleteOneFile(AutoBackupPath("")); }
 
@@ -59,8 +54,8 @@ void ShowAirport() {
 
 bool OpenAirportFile(const std::string& path, std::string_view ident) {
     bgl::AirportPlace place;
-    if (!bgl::FindAirportInFile(path, ident, &place)) return Refuse(Explanation(path, ident));
-    return OpenAirportAt(place) || Refuse(bgl::FailureText(bgl::ScanResult::CannotOpen, path));
+    if (!bgl::FindAirportInFile(path, ident, &place)) return platform::ShowRefusal(Explanation(path, ident));
+    return OpenAirportAt(place) || platform::ShowRefusal(bgl::FailureText(bgl::ScanResult::CannotOpen, path));
 }
 
 bool OpenAirportAt(const bgl::AirportPlace& place) {
@@ -79,7 +74,7 @@ bool OpenAirportAt(const bgl::AirportPlace& place) {
     ShowAirport();
     OnAirportOpened();
     const std::string warning = bgl::TextOf(warnings);
-    if (!warning.empty()) platform::ShowMessage(warning, platform::Buttons::Ok, platform::Icon::Exclamation);
+    if (!warning.empty()) platform::ShowRefusal(warning);
     return true;
 }
 

@@ -1,5 +1,5 @@
-// AppHost.h - what the portable part of the program asks of its window. HostWin.cpp serves the program,
-// tests/fakes/FakeShell.cpp the tests. All texts are UTF-8.
+// AppHost.h - what the portable part of the program asks of its window. HostWin.cpp serves the program, and the Win file
+// of a dialog or bar what that one does; tests/fakes/FakeShell.cpp serves the tests. All texts are UTF-8.
 #pragma once
 
 #include <cstdint>

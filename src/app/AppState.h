@@ -24,6 +24,7 @@ struct AppState {
     bool recovered = false;               // the open airport came from the backup and is not saved yet
     std::optional<uint64_t> agreedEnd;    // the model's revision for which the user let the system end the program
     std::string notices[kNotices];        // what the status bar tells apart from the read-outs
+    std::optional<uint64_t> remarkMark;   // the model's edit mark under which the remark is true; none: under any
     Settings loadedSettings;              // as the settings file has them
     bool settingsRead = false;            // false also when that file was there and could not be read
     platform::Pixel menuPoint;            // of the map, where its own menu was opened

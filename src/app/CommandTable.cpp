@@ -111,9 +111,9 @@ bool NodesInUse() {
     return map::tools.toolMode == map::Tool::Nodes && map::tools.nodeKind == kind;
 }
 
-template <bool (*dialog)(), bool map::MapLayers::*layer = nullptr>
+template <bool (*dialog)(), uint32_t kind>
 void Insert() {
-    InsertWith(dialog, layer);
+    InsertWith(dialog, kind);
 }
 
 template <dialogs::ListKind kind>
@@ -166,14 +166,14 @@ constexpr Command kCommands[] = {
       "",
       { Any('H') } },
     { IDM_GRID, ToggleGrid, Always, GridShown, "", { Any('G') } },
-    { IDM_INSERT_RUNWAY, Insert<dialogs::InsertRunwayDialog>, AirportAtRest },
-    { IDM_INSERT_HELIPAD, Insert<dialogs::InsertHelipadDialog>, AirportAtRest },
-    { IDM_INSERT_TOWER, Insert<dialogs::InsertTowerDialog>, AirportAtRest },
-    { IDM_INSERT_START, Insert<dialogs::InsertStartDialog, &map::MapLayers::starts>, AirportAtRest },
-    { IDM_INSERT_ILS, Insert<dialogs::InsertIlsDialog, &map::MapLayers::navaids>, AirportAtRest },
-    { IDM_INSERT_MARKER_BEACON, Insert<dialogs::InsertMarkersDialog, &map::MapLayers::navaids>, AirportAtRest },
-    { IDM_INSERT_NDB, Insert<dialogs::InsertNdbDialog, &map::MapLayers::navaids>, AirportAtRest },
-    { IDM_INSERT_VOR, Insert<dialogs::InsertVorDialog, &map::MapLayers::navaids>, AirportAtRest },
+    { IDM_INSERT_RUNWAY, Insert<dialogs::InsertRunwayDialog, model::kRunway>, AirportAtRest },
+    { IDM_INSERT_HELIPAD, Insert<dialogs::InsertHelipadDialog, model::kHelipad>, AirportAtRest },
+    { IDM_INSERT_TOWER, Insert<dialogs::InsertTowerDialog, model::kTowerViewpoint>, AirportAtRest },
+    { IDM_INSERT_START, Insert<dialogs::InsertStartDialog, model::kStartLocation>, AirportAtRest },
+    { IDM_INSERT_ILS, Insert<dialogs::InsertIlsDialog, model::kIls>, AirportAtRest },
+    { IDM_INSERT_MARKER_BEACON, Insert<dialogs::InsertMarkersDialog, model::kMarkerBeacon>, AirportAtRest },
+    { IDM_INSERT_NDB, Insert<dialogs::InsertNdbDialog, model::kNdb>, AirportAtRest },
+    { IDM_INSERT_VOR, Insert<dialogs::InsertVorDialog, model::kVorDme>, AirportAtRest },
     { IDM_LIST_PARKING, List<dialogs::ListKind::Parking>, AirportAtRest },
     { IDM_LIST_DESIGNATORS, List<dialogs::ListKind::Designators>, AirportAtRest },
     { IDM_LIST_RUNWAYS, List<dialogs::ListKind::Runways>, AirportAtRest },
@@ -203,18 +203,19 @@ constexpr Command kCommands[] = {
       "Lock the map location to the Flight Simulator aircraft location" },
     { IDT_POINTER, [] { map::SetTool(map::Tool::Pointer); }, Always,
       [] { return map::tools.toolMode == map::Tool::Pointer; }, "Pointer mode" },
-    { IDT_NORMAL_NODE, UseNodes<1>, AirportLoaded, NodesInUse<1>, "Create normal nodes by clicking with the mouse" },
-    { IDT_HOLD_SHORT_NODE, UseNodes<2>, AirportLoaded, NodesInUse<2>,
+    { IDT_NORMAL_NODE, UseNodes<model::kNormalNode>, AirportLoaded, NodesInUse<model::kNormalNode>,
+      "Create normal nodes by clicking with the mouse" },
+    { IDT_HOLD_SHORT_NODE, UseNodes<model::kHoldShortNode>, AirportLoaded, NodesInUse<model::kHoldShortNode>,
       "Create hold-short nodes by clicking with the mouse" },
-    { IDT_ILS_HOLD_SHORT_NODE, UseNodes<4>, AirportLoaded, NodesInUse<4>,
+    { IDT_ILS_HOLD_SHORT_NODE, UseNodes<model::kIlsHoldShortNode>, AirportLoaded, NodesInUse<model::kIlsHoldShortNode>,
       "Create ILS hold-short nodes by clicking with the mouse" },
-    { IDT_NORMAL_LINK, UseLinks<1>, AirportLoaded, LinksInUse<1>,
+    { IDT_NORMAL_LINK, UseLinks<model::kTaxiwayLink>, AirportLoaded, LinksInUse<model::kTaxiwayLink>,
       "Create normal taxi link by connecting nodes with the mouse" },
-    { IDT_RUNWAY_LINK, UseLinks<2>, AirportLoaded, LinksInUse<2>,
+    { IDT_RUNWAY_LINK, UseLinks<model::kRunwayLink>, AirportLoaded, LinksInUse<model::kRunwayLink>,
       "Create runway taxi link by connecting nodes with the mouse" },
-    { IDT_APRON_LINK, UseLinks<4>, AirportLoaded, LinksInUse<4>,
+    { IDT_APRON_LINK, UseLinks<model::kApronRouteLink>, AirportLoaded, LinksInUse<model::kApronRouteLink>,
       "Create apron taxi link by connecting nodes with the mouse" },
-    { IDT_CLOSED_LINK, UseLinks<5>, AirportLoaded, LinksInUse<5>,
+    { IDT_CLOSED_LINK, UseLinks<model::kClosedLink>, AirportLoaded, LinksInUse<model::kClosedLink>,
       "Create closed taxi link by connecting nodes with the mouse" },
     { IDT_PARKING, Use<map::Tool::Parking>, AirportLoaded, InUse<map::Tool::Parking>,
       "Create parking spots by clicking with the mouse" },

@@ -7,6 +7,7 @@
 #include "app/SaveAirport.h"
 #include "dialogs/DialogHost.h"
 #include "dialogs/Editors.h"
+#include "map/Layers.h"
 #include "map/MapView.h"
 #include "map/Selection.h"
 #include "map/Tools.h"
@@ -55,7 +56,8 @@ bool CanEditAtMenuPoint() {
     return object && dialogs::HasEditor(object);
 }
 
-void InsertWith(bool (*dialog)(), bool map::MapLayers::*layer) {
+void InsertWith(bool (*dialog)(), uint32_t kind) {
+    bool map::MapLayers::*layer = map::LayerOf(kind);
     const bool wasHidden = layer && !(map::layers.*layer);
     if (wasHidden) {
         map::layers.*layer = true;  // nothing is placed unseen

@@ -1,8 +1,9 @@
 // EditCommands.h - the commands that open property dialogs and lists.
 #pragma once
 
+#include <cstdint>
+
 #include "dialogs/ListRows.h"
-#include "map/MapView.h"
 #include "model/SceneryObject.h"
 
 namespace app {
@@ -19,8 +20,8 @@ void EditProperties(model::SceneryObject* object);
 void EditAtMenuPoint();
 bool CanEditAtMenuPoint();
 
-// An Insert command: runs the dialog that makes the object, with the layer shown on which it will lie (null: one that
-// is always shown). When the dialog is cancelled a layer that was hidden is hidden again.
-void InsertWith(bool (*dialog)(), bool map::MapLayers::*layer);
+// An Insert command: runs the dialog that makes the object of that kind, with the layer shown on which it will lie.
+// When the dialog is cancelled a layer that was hidden is hidden again.
+void InsertWith(bool (*dialog)(), uint32_t kind);
 
 }  // namespace app

@@ -6,7 +6,6 @@
 #include <shellapi.h>
 
 #include "app/AppHost.h"
-#include "app/Commands.h"
 #include "app/MenuStatesWin.h"
 #include "app/ToolbarWin.h"
 #include "platform/PlatformWin.h"
@@ -19,20 +18,6 @@ namespace {
 using platform::kPathLimit;
 
 }  // namespace
-
-void ShowMenuStates(HMENU menu) {
-    for (int position = 0; position < GetMenuItemCount(menu); ++position) {
-        if (const HMENU inner = GetSubMenu(menu, position)) {
-            ShowMenuStates(inner);
-            continue;
-        }
-        const auto id = static_cast<int>(GetMenuItemID(menu, position));
-        if (id <= 0) continue;  // a separator
-        const auto place = static_cast<UINT>(position);
-        EnableMenuItem(menu, place, MF_BYPOSITION | (IsCommandEnabled(id) ? MF_ENABLED : MF_GRAYED));
-        CheckMenuItem(menu, place, MF_BYPOSITION | (IsCommandChecked(id) ? MF_CHECKED : MF_UNCHECKED));
-    }
-}
 
 bool AskSavePath(const SaveQuestion& question, std::string* path) {
     std::wstring file = platform::WideFromUtf8(question.name);

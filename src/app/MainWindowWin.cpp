@@ -15,10 +15,12 @@
 #include "app/MapMenuWin.h"
 #include "app/MapMouseWin.h"
 #include "app/MapSurfaceWin.h"
+#include "app/Notices.h"
 #include "app/PointerText.h"
 #include "app/Program.h"
 #include "app/SessionWin.h"
 #include "app/StatusBarWin.h"
+#include "app/Timers.h"
 #include "app/Toolbar.h"
 #include "app/ToolbarWin.h"
 #include "app/ToolCombosWin.h"
@@ -83,6 +85,7 @@ void OnPaint() {
     GetClientRect(window.handle, &client);
     PaintMapArea(dc, client, MapArea(), window.dpi / 96.0);
     EndPaint(window.handle, &paint);
+    DropOldRemark();                // the airport may have been edited
     ShowPointerText();              // something else may lie under the pointer
     ShowStatus(map::tools.cursor);  // the map may have moved under the pointer
     RefreshMapCursor();
@@ -164,7 +167,7 @@ LRESULT CALLBACK MainWindowProc(HWND handle, UINT message, WPARAM wParam, LPARAM
     case WM_PAINT: OnPaint(); return 0;
     case WM_KEYDOWN: OnKey(wParam); return 0;
     case WM_COMMAND: OnCommand(wParam, lParam); return 0;
-    case WM_USER: CommitTypedDesignator(); return 0;
+    case kTypingFinished: CommitTypedDesignator(); return 0;
     case WM_NOTIFY: return OnNotify(reinterpret_cast<NMHDR*>(lParam));
     case WM_INITMENUPOPUP: ShowCommandStates(); return 0;
     case WM_SETCURSOR:
@@ -180,7 +183,7 @@ LRESULT CALLBACK MainWindowProc(HWND handle, UINT message, WPARAM wParam, LPARAM
         break;
     case WM_TIMER:
         if (wParam == kComboTimer) OnComboTimer();
-        if (wParam == map::kDragTimer) map::OnDragTimer();
+        if (wParam == kDragTimer) map::OnDragTimer();
         OnTimer(wParam);
         return 0;
     case WM_DROPFILES: OnDroppedFiles(handle, reinterpret_cast<HDROP>(wParam)); return 0;

@@ -6,17 +6,16 @@
 #include "app/EditCommands.h"
 #include "app/MapSurfaceWin.h"
 #include "app/Notices.h"
-#include "dialogs/DialogHost.h"
-#include "map/LinkTemplate.h"
+#include "app/Timers.h"
 #include "map/MapHost.h"
 #include "platform/PlatformWin.h"
 
 namespace map {
 
-void StartDragTimer() { SetTimer(platform::MainWindow(), kDragTimer, kDragTimerPeriod, nullptr); }
+void StartDragTimer() { SetTimer(platform::MainWindow(), app::kDragTimer, kDragTimerPeriod, nullptr); }
 
 void StopDragTimer() {
-    if (platform::MainWindow()) KillTimer(platform::MainWindow(), kDragTimer);
+    if (platform::MainWindow()) KillTimer(platform::MainWindow(), app::kDragTimer);
 }
 
 void RequestFeedback() { app::RepaintFeedback(); }
@@ -26,9 +25,3 @@ void OpenProperties(model::SceneryObject* object) { app::EditProperties(object);
 void ShowRemark(std::string_view text) { app::SetNotice(app::Notice::Remark, std::string(text)); }
 
 }  // namespace map
-
-namespace dialogs {
-
-void UseLinkTemplate(const model::TaxiLinkPayload& link) { map::UseLinkTemplate(link); }
-
-}  // namespace dialogs

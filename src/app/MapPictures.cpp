@@ -35,19 +35,14 @@ bool MayReplace(const std::string& path) {
     return platform::ShowMessage(text, platform::Buttons::YesNo, platform::Icon::Exclamation) == platform::Answer::Yes;
 }
 
-bool Refuse(const char* why) {
-    platform::ShowMessage(why, platform::Buttons::Ok, platform::Icon::Exclamation);
-    return false;
-}
-
 bool WritePicture(const PictureTarget& target) {
     std::vector<uint8_t> bytes;
     ShowWaitCursor(true);
     const bool made = DrawMapPicture(target.format, map::PictureSizeOf(target.times), &bytes);
     const bool written = made && platform::WriteFileWhole(target.path, bytes);
     ShowWaitCursor(false);
-    if (!made) return Refuse("ERROR: There is not enough memory for a picture of this size.");
-    return written || Refuse("ERROR: Unable to create picture file");
+    if (!made) return platform::ShowError("There is not enough memory for a picture of this size.");
+    return written || platform::ShowError("Unable to create picture file");
 }
 
 PictureQuestion NewQuestion() {

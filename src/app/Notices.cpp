@@ -3,12 +3,23 @@
 
 #include "app/AppHost.h"
 #include "app/AppState.h"
+#include "model/ObjectList.h"
 
 namespace app {
 
 void SetNotice(Notice notice, const std::string& text) {
+    if (notice == Notice::Remark) state.remarkMark.reset();
     state.notices[static_cast<int>(notice)] = text;
     ShowNoticeText(NoticeText());
+}
+
+void RemarkOnAirport(const std::string& text) {
+    SetNotice(Notice::Remark, text);
+    state.remarkMark = model::state.editMark;
+}
+
+void DropOldRemark() {
+    if (state.remarkMark && state.remarkMark != model::state.editMark) SetNotice(Notice::Remark, "");
 }
 
 std::string NoticeText() {

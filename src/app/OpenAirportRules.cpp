@@ -138,7 +138,7 @@ const AirportRow* ChooseRow(std::vector<AirportRow>* rows, int selected, std::st
     const bool typed = !platform::Trimmed(identText).empty();
     if (typed) *rows = SearchRows(identText);
     if (typed && !rows->empty()) return &rows->front();
-    platform::ShowMessage("You must select an AIRPORT", platform::Buttons::Ok, platform::Icon::Exclamation);
+    platform::ShowRefusal("You must select an AIRPORT");
     return nullptr;
 }
 

@@ -29,7 +29,7 @@ constexpr const char* kBadColour =
 void Complain(std::string_view line, const std::string& what) {
     std::string text = "Error found in ";
     text.append(kFileName).append(" file on the following line:\n\n").append(line).append("\n\n").append(what);
-    platform::ShowMessage(text, platform::Buttons::Ok, platform::Icon::Exclamation);
+    platform::ShowRefusal(text);
 }
 
 // The fields of a line, trimmed.

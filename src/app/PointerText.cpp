@@ -15,6 +15,7 @@
 #include "model/Names.h"
 #include "model/ObjectList.h"
 #include "model/Records.h"
+#include "model/SpotBits.h"
 #include "platform/Text.h"
 
 namespace app {
@@ -43,10 +44,7 @@ int NumberOfNode(const SceneryObject* node) {
 
 std::string NodeText(const SceneryObject* node) { return NodeKind(node) + std::to_string(NumberOfNode(node)); }
 
-std::string RunwayText(const SceneryObject* runway) {
-    return "Runway " + dialogs::EndName(runway, dialogs::kBaseEnd) + "/" +
-           dialogs::EndName(runway, dialogs::kReciprocalEnd);
-}
+std::string RunwayText(const SceneryObject* runway) { return "Runway " + model::RunwayName(runway); }
 
 std::string LinkText(const SceneryObject* link) {
     const auto& payload = PayloadAs<model::TaxiLinkPayload>(link);
@@ -86,7 +84,7 @@ std::string BeaconText(const SceneryObject* beacon) {
 }
 
 std::string HelipadText(const SceneryObject* pad) {
-    const size_t type = PayloadAs<model::HelipadRecord>(pad).type & 0xFu;
+    const size_t type = PayloadAs<model::HelipadRecord>(pad).type & model::kPadTypeMask;
     const bool isMarked = type > 0 && type < dialogs::kHelipadTypes.size();
     return isMarked ? std::string("Helipad, ") + dialogs::kHelipadTypes[type] : "Helipad";
 }

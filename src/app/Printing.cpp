@@ -9,8 +9,6 @@ namespace app {
 
 namespace {
 
-void Tell(const char* message) { platform::ShowMessage(message, platform::Buttons::Ok, platform::Icon::Exclamation); }
-
 // A document that cannot be begun is no failure: the system may have asked for a file's name in vain.
 PrintStep PrintDocument() {
     if (!BeginDocument()) return PrintStep::Cancelled;
@@ -37,12 +35,12 @@ void Print() {
     const PrintStep printed = PrintDocument();
     ShowPrinting(false);
     ReleasePrinter();
-    if (printed == PrintStep::Failed) Tell("ERROR: The map could not be printed.");
+    if (printed == PrintStep::Failed) platform::ShowError("The map could not be printed.");
 }
 
 void RefusePrinter() {
     ForgetPrinter();
-    Tell("ERROR: The printer cannot be used.");
+    platform::ShowError("The printer cannot be used.");
 }
 
 }  // namespace app

@@ -40,11 +40,10 @@ bool KeepSettings() {
 }
 
 void SaySettingsAreLost() {
-    platform::ShowMessage(
+    platform::ShowRefusal(
         "The settings and the list of recent airports could not be kept:\n"
         "Tarvo may not write Tarvo2.ini in its folder\n\n" +
-            state.programFolder,
-        platform::Buttons::Ok, platform::Icon::Exclamation);
+        state.programFolder);
 }
 
 void SayWhatWasRecovered(const std::string& file) {

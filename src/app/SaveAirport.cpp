@@ -29,6 +29,7 @@ std::string FirstSaveFolder() {
 
 // The airport is from then on that of the written file.
 bool WriteToSavePath() {
+    SetNotice(Notice::Remark, "");  // it may tell of an earlier save
     if (bgl::WriteAirportFile(state.savePath) != 1) return false;
     model::state.modified = false;
     OnAirportSaved();
@@ -36,7 +37,7 @@ bool WriteToSavePath() {
     settings.lastSavedFile = state.savePath;
     bgl::NoteSavedFile(state.savePath);  // the index finds the airport there from now on
     SetWindowTitle(TitleText());
-    SetNotice(Notice::Remark, "Saved " + std::string(FileNameOf(state.savePath)));
+    RemarkOnAirport("Saved " + std::string(FileNameOf(state.savePath)));
     ShowCommandStates();
     return true;
 }
@@ -57,16 +58,12 @@ bool SaveAirportAs() {
     // A stock file holds hundreds of airports, or all navaids of a region; and what is read from a file of such a name
     // is taken for stock.
     if (bgl::IsStockFileName(path) || bgl::IsStockSceneryPath(path, state.simulatorFolder)) {
-        platform::ShowMessage(
-            "ERROR: The name of a stock scenery file cannot be used.\nPlease save the airport under another name.",
-            platform::Buttons::Ok, platform::Icon::Exclamation);
-        return false;
+        return platform::ShowError(
+            "The name of a stock scenery file cannot be used.\nPlease save the airport under another name.");
     }
     if (IsAutoBackupName(path)) {  // here, beside another copy of the program, or in the root of a drive
-        platform::ShowMessage(
-            "ERROR: Tarvo deletes files of the autobackup's name.\nPlease save the airport under another name.",
-            platform::Buttons::Ok, platform::Icon::Exclamation);
-        return false;
+        return platform::ShowError(
+            "Tarvo deletes files of the autobackup's name.\nPlease save the airport under another name.");
     }
     state.savePath = path;  // also when the write fails: the next Save of a stock airport tries it again
     return WriteToSavePath();

@@ -7,6 +7,7 @@
 #include "app/Program.h"
 #include "app/SimLink.h"
 #include "app/SimLinkHost.h"
+#include "app/Timers.h"
 #include "platform/DialogWin.h"
 #include "platform/PlatformWin.h"
 #include "platform/WideTextWin.h"
@@ -15,7 +16,6 @@ namespace app {
 
 namespace {
 
-constexpr UINT_PTR kBackupTimer = 3;
 constexpr UINT kBackupPeriod = 120000;  // milliseconds
 
 bool saysWhyItStays = false;  // the system's shutdown screen has our reason

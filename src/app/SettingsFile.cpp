@@ -18,7 +18,6 @@ namespace {
 
 constexpr const char* kFileName = "\\Tarvo2.ini";
 constexpr std::string_view kDraftStart = "Tarvo2.new", kDraftEnd = ".ini";  // the number of the process between them
-constexpr uint64_t kLeftAfter = 60 * 10000000ull;                           // a minute, in units of FILETIME
 constexpr uint64_t kLargestFile = 16 * 1024 * 1024;                         // bytes
 constexpr const char* kGeneral = "General";
 constexpr const char* kPrevious = "Previously Opened Files";
@@ -139,7 +138,7 @@ bool IsDraft(std::string_view name) {
 // What was left by a process that was killed while it wrote.
 void RemoveLeftDrafts(const std::string& programFolder) {
     for (const platform::FileEntry& file : platform::ListFiles(programFolder, std::string(kDraftEnd))) {
-        if (IsDraft(file.name) && file.writeTime + kLeftAfter < platform::SystemFileTime())
+        if (IsDraft(file.name) && platform::IsLeftOver(file.writeTime, platform::SystemFileTime()))
             platform::DeleteOneFile(programFolder + "\\" + file.name);
     }
 }

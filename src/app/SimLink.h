@@ -8,7 +8,7 @@
 
 namespace app {
 
-constexpr int kSimLinkTimer = 1, kSimLinkPeriod = 100;  // milliseconds
+constexpr int kSimLinkPeriod = 100;  // milliseconds
 
 // At every tick of the timer.
 void PollSimulator();

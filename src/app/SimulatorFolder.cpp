@@ -45,13 +45,12 @@ void OfferRegistryEntry(const std::vector<std::string>& registered, const std::s
     if (platform::ShowMessage(question, platform::Buttons::YesNo, platform::Icon::Exclamation) != platform::Answer::Yes)
         return;
     if (WriteRegisteredSimulatorFolder(chosen)) return;
-    platform::ShowMessage(
+    platform::ShowRefusal(
         "Windows did not let Tarvo write the Registry entry for Flight Simulator.\n\n"
         "The folder is used until Tarvo ends. To have it found the next time,\n"
         "write this line below [General] in Tarvo2.ini:\n\n"
         "OverrideFSFolder=" +
-            chosen,
-        platform::Buttons::Ok, platform::Icon::Exclamation);
+        chosen);
 }
 
 }  // namespace

@@ -7,10 +7,10 @@
 
 #include "app/AppHost.h"
 #include "app/StatusText.h"
+#include "app/Timers.h"
 #include "app/ToolBoxesWin.h"
 #include "app/ToolCombos.h"
 #include "dialogs/DesignatorBox.h"
-#include "dialogs/DialogHost.h"
 #include "dialogs/OverMap.h"
 #include "dialogs/ParkingDialog.h"
 #include "map/Tools.h"
@@ -139,7 +139,7 @@ void OnTypingLeft() {
 
 bool HandleEditKey(WPARAM key) {
     switch (TypingKeyOf(static_cast<int>(key), IsOpen(toolBoxes.designator))) {
-    case TypingKey::Finish: PostMessageW(platform::MainWindow(), WM_USER, 0, 0); return true;
+    case TypingKey::Finish: PostMessageW(platform::MainWindow(), kTypingFinished, 0, 0); return true;
     case TypingKey::TakeBack:
         RestoreDesignator();
         SetFocus(platform::MainWindow());
@@ -220,9 +220,3 @@ bool LeaveToolBoxes() {
 }
 
 }  // namespace app
-
-namespace dialogs {
-
-void UseParkingType(uint32_t type) { map::tools.lastParkingType = static_cast<int>(type); }
-
-}  // namespace dialogs

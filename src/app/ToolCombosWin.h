@@ -13,8 +13,8 @@ void ShowToolBoxes();
 void ShowRotation();
 
 // What the main window hears: a notice of a box (false when it is of none), the timer that an opened list of parking
-// specs starts, and the end of typing in the designator box.
-constexpr UINT_PTR kComboTimer = 4;
+// specs starts, and the message that the end of typing in the designator box posts.
+constexpr UINT kTypingFinished = WM_USER;
 bool OnComboNotice(int id, int code);
 void OnComboTimer();
 void CommitTypedDesignator();

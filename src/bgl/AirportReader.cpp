@@ -181,29 +181,32 @@ Next ReadRecord(Reading* reading, const RecordHead& head) {
     }
 }
 
-void ReadRecords(Reading* reading) {
-    for (;;) {
+// Whether nothing was missed.
+bool ReadRecords(Reading* reading) {
+    while (HoldsRecord(reading->in)) {
         const size_t start = reading->in.at;
         RecordHead head;
-        if (!TakeRecordHead(&reading->in, &head)) return;
+        if (!TakeRecordHead(&reading->in, &head)) return false;
         const Next next = ReadRecord(reading, head);
-        if (next == Next::End) return;
+        if (next == Next::End) return false;
         if (next == Next::Inside) continue;
-        if (head.size > reading->in.bytes.size() - start) return;
+        if (head.size > reading->in.bytes.size() - start) return !HoldsRecord(reading->in);
         reading->in.at = start + head.size;
     }
+    return true;
 }
 
 }  // namespace
 
-void ReadAirport(std::span<const uint8_t> bytes) {
+bool ReadAirport(std::span<const uint8_t> bytes) {
     Reading reading;
     reading.in.bytes = bytes;
     reading.bodyBytesLeft = bytes.size() * kReadAgain;
-    ReadRecords(&reading);
+    const bool isWhole = ReadRecords(&reading);
     FinishEdgeLights(&reading.apron);
     model::ResolveLinks();
     model::state.loaded = model::state.airport != nullptr;
+    return isWhole;
 }
 
 }  // namespace bgl

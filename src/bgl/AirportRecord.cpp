@@ -16,6 +16,7 @@
 #include "model/Links.h"
 #include "model/ObjectList.h"
 #include "model/Records.h"
+#include "model/SpotBits.h"
 #include "platform/Text.h"
 
 namespace bgl {

@@ -124,11 +124,11 @@ int WriteAirportFile(const std::string& path) {
     std::vector<uint8_t> bytes;
     std::string message;
     if (!BuildAirportFile(platform::SystemFileTime(), &bytes, &message)) {
-        if (!message.empty()) platform::ShowMessage(message, platform::Buttons::Ok, platform::Icon::Exclamation);
+        if (!message.empty()) platform::ShowRefusal(message);
         return 0;
     }
     if (platform::WriteFileWhole(path, bytes)) return 1;
-    platform::ShowMessage("ERROR: Unable to create .bgl file", platform::Buttons::Ok, platform::Icon::Exclamation);
+    platform::ShowError("Unable to create .bgl file");
     return 0;
 }
 

@@ -59,19 +59,26 @@ inline bool TakeRecordHead(ByteReader* reader, RecordHead* head) {
     return Take(reader, &head->id) && Take(reader, &head->size) && head->size >= kRecordHeadSize;
 }
 
+// Bytes behind the last record in which none begins are padding.
+inline bool HoldsRecord(const ByteReader& reader) { return BytesLeft(reader) >= kRecordHeadSize; }
+
 // Calls visit(head, body) for the records that the bytes hold one after the other. The body of a record
-// that is longer than the bytes is cut short, and is the last.
+// that is longer than the bytes is cut short, and is the last. False when something was missed: such a
+// record's end, or what lies behind a head that makes no sense.
 template <class Visit>
-void WalkRecords(Bytes records, Visit visit) {
+bool WalkRecords(Bytes records, Visit visit) {
     ByteReader reader{ records };
-    RecordHead head;
-    while (TakeRecordHead(&reader, &head)) {
+    while (HoldsRecord(reader)) {
+        RecordHead head;
+        if (!TakeRecordHead(&reader, &head)) return false;
         const size_t bodySize = head.size - kRecordHeadSize;
-        const size_t held = bodySize < BytesLeft(reader) ? bodySize : BytesLeft(reader);
+        const bool isWhole = bodySize <= BytesLeft(reader);
         Bytes body;
-        TakeBytes(&reader, held, &body);
+        TakeBytes(&reader, isWhole ? bodySize : BytesLeft(reader), &body);
         visit(head, body);
+        if (!isWhole) return false;
     }
+    return true;
 }
 
 }  // namespace bgl

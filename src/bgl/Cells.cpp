@@ -13,11 +13,11 @@ constexpr int kFullLevel = 30;  // a cell of that level is one unit wide
 constexpr uint32_t kGridMask = 0x3FF;
 constexpr int kGridBits = 10;
 
-constexpr CodeRect kWholeWorld = { 0, kTurn, 0, kPoleToPole };
+constexpr CodeRect kWholeWorld = { 0, model::kEncodedTurn, 0, kPoleToPole };
 
 int64_t ModuloTurn(int64_t longitude) {
-    const int64_t rest = longitude % kTurn;
-    return rest < 0 ? rest + kTurn : rest;
+    const int64_t rest = longitude % model::kEncodedTurn;
+    return rest < 0 ? rest + model::kEncodedTurn : rest;
 }
 
 // A damaged file may hold a latitude beyond the north pole: below 0.
@@ -80,7 +80,7 @@ CodeRect RectAround(model::LatLon centre, double metres) {
     const model::BglPoint northWest = corner(315), southEast = corner(135);
     int64_t west = Signed(northWest.lonCode);
     const int64_t east = Signed(southEast.lonCode);
-    if (east < west) west -= kTurn;
+    if (east < west) west -= model::kEncodedTurn;
     return { west, east - west, Signed(northWest.latCode), Signed(southEast.latCode) };
 }
 

@@ -12,7 +12,6 @@
 
 namespace bgl {
 
-constexpr int64_t kTurn = 0x30000000;        // one turn of the encoded longitude
 constexpr int64_t kPoleToPole = 0x20000000;  // encoded latitude of the south pole
 
 // The simulator's own files hold a block of the world each: 96 columns and 64 rows.

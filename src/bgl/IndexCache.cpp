@@ -8,7 +8,6 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
-#include <span>
 #include <vector>
 
 #include "bgl/AirportIndex.h"

@@ -3,6 +3,9 @@
 
 #include <algorithm>
 #include <chrono>
+#include <optional>
+#include <set>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -43,10 +46,29 @@ bool IsForLaterSimulator(const SceneryStructure& file) {
     });
 }
 
-// An add-on may hold both an airport for this simulator and sections of a later one.
-bool HoldsAirport(SceneryStructure structure) {
-    AirportPlace place;
-    return FindAirport(&structure, "", &place);
+using Idents = std::set<std::string>;
+
+std::string ComparedIdent(std::string_view ident) { return platform::UpperCased(ident.substr(0, kIdentLength)); }
+
+// An add-on may hold both airports for this simulator and airports of a later one, and names them all in one list:
+// those for this one.
+Idents HeldIdents(SceneryStructure structure) {
+    Idents held;
+    for (const AirportPlace& place : FindAllAirports(&structure)) held.insert(ComparedIdent(place.ident));
+    return held;
+}
+
+// What goes on while the names of one file are read.
+struct NameScan {
+    SceneryStructure structure;
+    uint32_t file = 0;  // its number in the library
+    uint64_t nameBytesLeft = kMostNameBytes;
+    std::optional<Idents> held;  // names of other airports stay out; none for a file that is asked no further
+};
+
+bool MayBeOpened(const NameScan& scan, const std::string& ident) {
+    if (ident.empty()) return false;  // nobody could open it by its identifier
+    return !scan.held || scan.held->contains(ComparedIdent(ident));
 }
 
 // Opens the structure with what it may read kept within the limits above.
@@ -60,26 +82,27 @@ bool ReadLimitedStructure(const ByteSource& source, SceneryStructure* file) {
     return true;
 }
 
-// Takes the names' sizes from *nameBytesLeft and ends where that is too little.
-void AddAirports(Bytes subsection, uint32_t file, uint64_t* nameBytesLeft) {
+// Takes the names' sizes from what is left for them and ends where that is too little.
+void AddAirports(Bytes subsection, NameScan* scan) {
     NameListView list;
     if (!OpenNameList(subsection, &list)) return;
     for (uint32_t i = 0; i < list.airportCount; ++i) {
         const NamedAirport airport = NameListEntry(list, i);
         const size_t size = airport.country.size() + airport.state.size() + airport.city.size() + airport.name.size();
-        if (size > *nameBytesLeft) break;
-        *nameBytesLeft -= size;
+        if (size > scan->nameBytesLeft) break;
+        scan->nameBytesLeft -= size;
         const std::string ident = model::UnpackIdent(airport.ident >> model::kIdentShift);
-        if (ident.empty()) continue;  // nobody could open it by its identifier
-        AddAirport(airport.country, airport.state, airport.city, airport.name, ident, file);
+        if (!MayBeOpened(*scan, ident)) continue;
+        AddAirport(airport.country, airport.state, airport.city, airport.name, ident, scan->file);
     }
 }
 
-bool AddNameLists(SceneryStructure* structure, const SectionEntry& section, uint32_t file, uint64_t* nameBytesLeft) {
+bool AddNameLists(const SectionEntry& section, NameScan* scan) {
+    SceneryStructure* structure = &scan->structure;
     const std::vector<SubsectionEntry> subsections = ReadSubsections(structure, section);
     for (const SubsectionEntry& subsection : subsections) {
         if (!CoverRecords(structure, subsection)) break;
-        AddAirports(ReadStretch(structure->source, subsection.offset, subsection.size), file, nameBytesLeft);
+        AddAirports(ReadStretch(structure->source, subsection.offset, subsection.size), scan);
     }
     return !subsections.empty();
 }
@@ -205,13 +228,14 @@ ScanResult ScanBglHeader(uint32_t file) {
     ++library.report.opened;
     const platform::FileHandle handle = platform::OpenForReading(library.files[file].path);
     if (!handle) return ScanResult::CannotOpen;
-    SceneryStructure structure;
-    if (!ReadLimitedStructure(SourceOfFile(handle.get()), &structure)) return ScanResult::NotScenery;
-    if (IsForLaterSimulator(structure) && !HoldsAirport(structure)) return ScanResult::NoAirports;
+    NameScan scan;
+    scan.file = file;
+    if (!ReadLimitedStructure(SourceOfFile(handle.get()), &scan.structure)) return ScanResult::NotScenery;
+    if (IsForLaterSimulator(scan.structure)) scan.held = HeldIdents(scan.structure);
+    if (scan.held && scan.held->empty()) return ScanResult::NoAirports;
     bool found = false;
-    uint64_t nameBytesLeft = kMostNameBytes;
-    for (const SectionEntry& section : structure.sections) {
-        if (section.sectionClass == kNameList) found |= AddNameLists(&structure, section, file, &nameBytesLeft);
+    for (const SectionEntry& section : scan.structure.sections) {
+        if (section.sectionClass == kNameList) found |= AddNameLists(section, &scan);
     }
     return found ? ScanResult::AirportsFound : ScanResult::NoAirports;
 }
@@ -257,8 +281,7 @@ bool CollectAirportsFromFile(const std::string& path) {
     CloseProgress();
     if (result == ScanResult::AirportsFound) return true;
     ReleaseLibrary();
-    platform::ShowMessage(FailureText(result, path), platform::Buttons::Ok, platform::Icon::Exclamation);
-    return false;
+    return platform::ShowRefusal(FailureText(result, path));
 }
 
 }  // namespace bgl

@@ -18,12 +18,12 @@ void WalkNavaids(SceneryStructure* file, std::initializer_list<uint32_t> section
             if (!wanted(subsection.id)) continue;
             if (!CoverRecords(file, subsection)) return;
             const std::vector<uint8_t> bytes = ReadStretch(file->source, subsection.offset, subsection.size);
-            if (bytes.size() < subsection.size) file->isCut = true;
-            WalkRecords(bytes, [&](const RecordHead& head, Bytes body) {
+            const bool isWhole = WalkRecords(bytes, [&](const RecordHead& head, Bytes body) {
                 record.head = head;
                 record.body = body;
                 visit(record);
             });
+            if (!isWhole || bytes.size() < subsection.size) file->isCut = true;
             ++record.subsection;
         }
     }

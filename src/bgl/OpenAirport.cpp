@@ -75,8 +75,8 @@ bool ReadFrom(const ByteSource& source, const AirportPlace& place, bool* incompl
         ReadStretch(source, place.offset, std::min<uint64_t>(place.size, kLongestAirport));
     if (!StartsWithAirport(records)) return false;
     model::ClearModel();
-    ReadAirport(records);
-    *incomplete = records.size() < place.size;
+    const bool isWhole = ReadAirport(records);
+    *incomplete = !isWhole || records.size() < place.size;
     SceneryStructure file;
     if (!ReadStructure(source, &file)) return true;
     ReadPlaceNames(&file);
@@ -115,12 +115,15 @@ bool OpenAirport(const AirportPlace& place, const std::string& simulatorFolder, 
     return true;
 }
 
-bool OpenAirportBytes(std::span<const uint8_t> bytes, std::string_view ident) {
+bool OpenAirportBytes(std::span<const uint8_t> bytes, std::string_view ident, bool* incomplete) {
     const ByteSource source = SourceOfBytes(bytes);
     SceneryStructure file;
     AirportPlace place;
-    bool incomplete = false;
-    return ReadStructure(source, &file) && FindAirport(&file, ident, &place) && ReadFrom(source, place, &incomplete);
+    bool missesSomething = false;
+    if (!ReadStructure(source, &file) || !FindAirport(&file, ident, &place)) return false;
+    if (!ReadFrom(source, place, &missesSomething)) return false;
+    if (incomplete) *incomplete = missesSomething;
+    return true;
 }
 
 }  // namespace bgl

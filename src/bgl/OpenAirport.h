@@ -28,8 +28,8 @@ std::string TextOf(const OpenWarnings& warnings);
 bool OpenAirport(const AirportPlace& place, const std::string& simulatorFolder, OpenWarnings* warnings = nullptr);
 
 // The same for a whole file in memory that is no stock file, and its airport of that identifier (its
-// first when `ident` is empty). False, with an untouched model, when it holds none.
-bool OpenAirportBytes(std::span<const uint8_t> file, std::string_view ident);
+// first when `ident` is empty). False, with an untouched model, when it holds none. *incomplete as in the warnings.
+bool OpenAirportBytes(std::span<const uint8_t> file, std::string_view ident, bool* incomplete = nullptr);
 
 // Appends the stock navaids around the current airport, marked stock. The lists of the region folders
 // are read once a session for each simulator folder.

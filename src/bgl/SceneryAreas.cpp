@@ -1,7 +1,6 @@
 // SceneryAreas.cpp - see SceneryAreas.h.
 #include "bgl/SceneryAreas.h"
 
-#include <algorithm>
 #include <charconv>
 
 #include "platform/Files.h"

@@ -86,7 +86,7 @@ bool FindInRecords(const ByteSource& source, uint64_t offset, uint64_t end, Sear
         if (start.id == kAirportRecord) {
             if (bytes.size() < sizeof start || start.size < sizeof start) return false;
             const std::string found = model::UnpackIdent(start.airport.ident >> model::kIdentShift);
-            const AirportPlace here = { place->path, offset, start.size };
+            const AirportPlace here = { place->path, offset, start.size, found };
             if (search->ident.empty() || platform::EqualNoCase(found, search->ident)) {
                 *place = here;
                 return true;

@@ -12,6 +12,7 @@
 #include "bgl/Cells.h"
 #include "bgl/RecordIds.h"
 #include "bgl/SceneryStructure.h"
+#include "model/Geodesy.h"
 #include "platform/Files.h"
 #include "platform/Text.h"
 
@@ -41,7 +42,7 @@ uint32_t BlockNumber(int64_t column, int64_t row) { return static_cast<uint32_t>
 
 uint32_t BlockOf(model::EncodedPoint point) {
     // A corner west of 180 degrees has a negative code. Longitudes go round, latitudes stop at the poles.
-    const int64_t longitude = (static_cast<int32_t>(point.longitude) + 4 * kTurn) % kTurn;
+    const int64_t longitude = (static_cast<int32_t>(point.longitude) + 4 * model::kEncodedTurn) % model::kEncodedTurn;
     const int64_t latitude = std::clamp<int64_t>(static_cast<int32_t>(point.latitude), 0, kPoleToPole - 1);
     return BlockNumber(longitude >> kBlockShift, latitude >> kBlockShift);
 }
@@ -68,7 +69,7 @@ void AddNavaidFile(const std::string& path, FilesOfBlock* files) {
     for (uint32_t cell : cells) {
         if (blocks.size() == kAllBlocks) break;  // a damaged table names the whole world, and may do so often
         const CodeRect rect = RectOfCell(cell);
-        const int64_t lastColumn = (std::min(rect.west + rect.width, kTurn - 1)) >> kBlockShift;
+        const int64_t lastColumn = (std::min(rect.west + rect.width, model::kEncodedTurn - 1)) >> kBlockShift;
         const int64_t lastRow = (std::min(rect.south, kPoleToPole - 1)) >> kBlockShift;
         for (int64_t column = rect.west >> kBlockShift; column <= lastColumn; ++column) {
             for (int64_t row = rect.north >> kBlockShift; row <= lastRow; ++row)

@@ -1,7 +1,6 @@
 // Dump.cpp - the frame of the dump: names, object list, payloads. The fields are in DumpFields.cpp.
 #include "cli/Dump.h"
 
-#include <algorithm>
 #include <string_view>
 
 #include "model/ObjectList.h"

@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <cstring>
 #include <string_view>
-#include <vector>
 
 #include "cli/Dump.h"
 #include "cli/DumpNavaids.h"
@@ -12,6 +11,7 @@
 #include "model/Names.h"
 #include "model/Positions.h"
 #include "model/Records.h"
+#include "model/SpotBits.h"
 #include "model/Triangulate.h"
 #include "platform/Text.h"
 
@@ -33,8 +33,8 @@ void AirportFields(JsonWriter* json, const model::AirportRecord& airport) {
     Position(json, airport.towerLongitude, airport.towerLatitude);
     Elevation(json, "elevation", airport.towerAltitude);
     CloseObject(json);
-    Boolean(json, "jetFuel", (airport.fuel & 0x80000000) != 0);
-    Boolean(json, "avgas", (airport.fuel & 0x40000000) != 0);
+    Boolean(json, "jetFuel", (airport.fuel & model::kJetFuel) != 0);
+    Boolean(json, "avgas", (airport.fuel & model::kAvgas) != 0);
     Key(json, "counts");
     OpenObject(json);
     Integer(json, "runways", airport.runwayCount);
@@ -129,21 +129,22 @@ void NodeFields(JsonWriter* json, const model::TaxiNodeRecord& node) {
     Boolean(json, "reversed", node.reversed != 0);
 }
 
-const char* EdgeLine(uint32_t code) {
+const char* EdgeLineName(model::EdgeLine line) {
     constexpr const char* kNames[] = { "none", "solid", "dashed", "3" };
-    return kNames[code & 3];
+    return kNames[static_cast<size_t>(line)];
 }
 
 void LinkFields(JsonWriter* json, const model::TaxiLinkPayload& link, const ListPositions& positions) {
     Integer(json, "type", LinkTypeOf(link));
     Float(json, "width", link.width);
     Surface(json, LinkSurface(link));
-    Boolean(json, "centreLine", (link.flagsWord >> 16 & 1) != 0);
-    Boolean(json, "centreLights", (link.flagsWord >> 17 & 1) != 0);
-    Text(json, "leftEdge", EdgeLine(link.flagsWord >> 18));
-    Boolean(json, "leftLights", (link.flagsWord >> 20 & 1) != 0);
-    Text(json, "rightEdge", EdgeLine(link.flagsWord >> 21));
-    Boolean(json, "rightLights", (link.flagsWord >> 23 & 1) != 0);
+    const uint32_t flags = link.flagsWord;
+    Boolean(json, "centreLine", (flags & model::kLinkCentreLine) != 0);
+    Boolean(json, "centreLights", (flags & model::kLinkCentreLights) != 0);
+    Text(json, "leftEdge", EdgeLineName(EdgeLineOf(flags, model::LinkSide::Left)));
+    Boolean(json, "leftLights", (flags & model::kLinkLeftLights) != 0);
+    Text(json, "rightEdge", EdgeLineName(EdgeLineOf(flags, model::LinkSide::Right)));
+    Boolean(json, "rightLights", (flags & model::kLinkRightLights) != 0);
     Reference(json, "start", link.start, positions);
     Reference(json, "end", link.end, positions);
     Reference(json, "designator", link.designator, positions);

@@ -10,11 +10,9 @@ namespace cli {
 namespace {
 
 void NavaidWords(JsonWriter* json, uint32_t ident, uint32_t region) {
-    constexpr uint32_t kRegionMask = 0x7FF;
-    constexpr int kAirportShift = 11;
     Text(json, "ident", ShiftedIdent(ident));
-    Text(json, "region", model::UnpackIdent(region & kRegionMask));
-    Text(json, "ofAirport", model::UnpackIdent(region >> kAirportShift));
+    Text(json, "region", model::UnpackIdent(region & model::kRegionMask));
+    Text(json, "ofAirport", model::UnpackIdent(region >> model::kRegionBits));
 }
 
 void Dme(JsonWriter* json, const model::DmePart& dme) {

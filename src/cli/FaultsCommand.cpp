@@ -16,6 +16,7 @@
 #include "model/Names.h"
 #include "model/ObjectList.h"
 #include "model/Records.h"
+#include "model/SpotBits.h"
 #include "platform/Files.h"
 #include "platform/Text.h"
 

@@ -24,8 +24,6 @@ namespace {
 using model::AirportRecord;
 using model::PlaceTexts;
 
-constexpr uint32_t kJetFuel = 1u << 31, kAvgas = 1u << 30;
-
 constexpr NumberRow<AirportFields> kRows[] = {
     { Field::Elevation, &AirportFields::elevation, offsetof(AirportRecord, altitude), &kElevation },
     { Field::Variation, &AirportFields::variation, offsetof(AirportRecord, magneticVariation), &kVariation },
@@ -53,7 +51,7 @@ std::string ShownId(const AirportRecord& record) {
 bool CheckBlanks(const AirportFields& entered, BadField* bad) {
     for (const NeededText& needed : kNeededTexts) {
         if (!IsBlank(entered.*needed.text)) continue;
-        platform::ShowMessage(needed.message, platform::Buttons::Ok, platform::Icon::Exclamation);
+        platform::ShowRefusal(needed.message);
         *bad = { needed.field };
         return false;
     }
@@ -67,7 +65,7 @@ bool CheckId(const AirportFields& shown, const AirportFields& entered, BadField*
             return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
         });
     if (!ok) {
-        ShowError("The Airport ID must be 1 to 4 letters or digits");
+        platform::ShowError("The Airport ID must be 1 to 4 letters or digits");
         *bad = { Field::Ident };
     }
     return ok;
@@ -108,8 +106,7 @@ bool UserWantsOtherId(BadField* bad) {
 
 bool CheckPlaced(const SceneryObject* draft, BadField* bad) {
     if (!IsPlaceholder(PointOf(draft))) return true;
-    platform::ShowMessage("You must enter at least an approximate\nlatitude and longitude for the airport",
-                          platform::Buttons::Ok, platform::Icon::Exclamation);
+    platform::ShowRefusal("You must enter at least an approximate\nlatitude and longitude for the airport");
     *bad = { Field::Latitude };
     return false;
 }
@@ -139,8 +136,8 @@ void StoreId(const std::string& entered, AirportRecord* record, PlaceTexts* text
 
 void StoreServices(const AirportFields& shown, const AirportFields& entered, AirportRecord* record) {
     uint32_t fuel = record->fuel;
-    if (entered.jetFuel != shown.jetFuel) SetBit(&fuel, kJetFuel, entered.jetFuel);
-    if (entered.avgas != shown.avgas) SetBit(&fuel, kAvgas, entered.avgas);
+    if (entered.jetFuel != shown.jetFuel) SetBit(&fuel, model::kJetFuel, entered.jetFuel);
+    if (entered.avgas != shown.avgas) SetBit(&fuel, model::kAvgas, entered.avgas);
     record->fuel = fuel;
 }
 
@@ -151,8 +148,8 @@ AirportFields LoadAirportFields(const SceneryObject* airport) {
     AirportFields fields;
     fields.position = ShowPoint(PointOf(airport));
     LoadNumbers<AirportFields>(kRows, airport, &fields);
-    fields.avgas = (record.fuel & kAvgas) != 0;
-    fields.jetFuel = (record.fuel & kJetFuel) != 0;
+    fields.avgas = (record.fuel & model::kAvgas) != 0;
+    fields.jetFuel = (record.fuel & model::kJetFuel) != 0;
     fields.id = ShownId(record);
     fields.country = platform::Utf8FromWindows1252(model::state.country);
     fields.state = platform::Utf8FromWindows1252(model::state.state);

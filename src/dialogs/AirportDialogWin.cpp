@@ -8,6 +8,7 @@
 #include "dialogs/DialogHost.h"
 #include "dialogs/Editors.h"
 #include "dialogs/EditorWin.h"
+#include "dialogs/FieldTablesWin.h"
 #include "dialogs/OverMap.h"
 #include "model/Records.h"
 #include "platform/DialogWin.h"
@@ -28,37 +29,36 @@ constexpr FieldControl kControls[] = {
     { Field::Name, IDC_AIRPORT_NAME },
 };
 
+constexpr TextControl<AirportFields> kTexts[] = {
+    { &AirportFields::elevation, IDC_AIRPORT_ELEVATION },
+    { &AirportFields::variation, IDC_AIRPORT_VARIATION },
+    { &AirportFields::id, IDC_AIRPORT_IDENT },
+    { &AirportFields::country, IDC_COUNTRY },
+    { &AirportFields::state, IDC_STATE },
+    { &AirportFields::city, IDC_CITY },
+    { &AirportFields::name, IDC_AIRPORT_NAME },
+};
+constexpr BoxControl<AirportFields> kBoxes[] = {
+    { &AirportFields::avgas, IDC_AVGAS },
+    { &AirportFields::jetFuel, IDC_JET_FUEL },
+};
+constexpr FieldTable<AirportFields> kTable = { kTexts, kBoxes, {} };
+
 void Show(HWND dialog, const AirportFields& fields) {
     ShowPosition(dialog, IDC_AIRPORT_LATITUDE, IDC_AIRPORT_LONGITUDE, fields.position);
     LabelUnit(dialog, IDC_AIRPORT_ELEVATION_LABEL, "&Elevation (", Unit::Elevation, " ASL)");
-    platform::SetFieldText(dialog, IDC_AIRPORT_ELEVATION, fields.elevation);
-    platform::SetFieldText(dialog, IDC_AIRPORT_VARIATION, fields.variation);
-    platform::CheckField(dialog, IDC_AVGAS, fields.avgas);
-    platform::CheckField(dialog, IDC_JET_FUEL, fields.jetFuel);
     platform::LimitField(dialog, IDC_AIRPORT_IDENT, kAirportIdLimit);
-    platform::SetFieldText(dialog, IDC_AIRPORT_IDENT, fields.id);
     for (const int control : { IDC_COUNTRY, IDC_STATE, IDC_CITY, IDC_AIRPORT_NAME }) {
         platform::LimitField(dialog, control, model::kAirportNameSize);
     }
-    platform::SetFieldText(dialog, IDC_COUNTRY, fields.country);
-    platform::SetFieldText(dialog, IDC_STATE, fields.state);
-    platform::SetFieldText(dialog, IDC_CITY, fields.city);
-    platform::SetFieldText(dialog, IDC_AIRPORT_NAME, fields.name);
+    ShowFields(dialog, kTable, fields);
     platform::SetFieldText(dialog, IDC_FROM_FILE, AirportFile());
 }
 
 AirportFields Read(HWND dialog) {
     AirportFields fields;
     fields.position = PositionIn(dialog, IDC_AIRPORT_LATITUDE, IDC_AIRPORT_LONGITUDE);
-    fields.elevation = platform::FieldText(dialog, IDC_AIRPORT_ELEVATION);
-    fields.variation = platform::FieldText(dialog, IDC_AIRPORT_VARIATION);
-    fields.avgas = platform::IsFieldChecked(dialog, IDC_AVGAS);
-    fields.jetFuel = platform::IsFieldChecked(dialog, IDC_JET_FUEL);
-    fields.id = platform::FieldText(dialog, IDC_AIRPORT_IDENT);
-    fields.country = platform::FieldText(dialog, IDC_COUNTRY);
-    fields.state = platform::FieldText(dialog, IDC_STATE);
-    fields.city = platform::FieldText(dialog, IDC_CITY);
-    fields.name = platform::FieldText(dialog, IDC_AIRPORT_NAME);
+    ReadFields(dialog, kTable, &fields);
     return fields;
 }
 

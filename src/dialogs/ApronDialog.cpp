@@ -10,15 +10,9 @@
 
 namespace dialogs {
 
-namespace {
-
-constexpr uint8_t kDrawSurface = 0x01;
-
-}  // namespace
-
 ApronFields LoadApronFields(const SceneryObject* apron) {
     const auto& head = model::PayloadAs<model::ApronHead>(apron);
-    return { SurfaceIndex(head.surface), (head.drawFlags & kDrawSurface) != 0 };
+    return { SurfaceIndex(head.surface), (head.drawFlags & model::kDrawApronSurface) != 0 };
 }
 
 bool StoreApronFields(const ApronFields& shown, const ApronFields& entered, SceneryObject* apron) {
@@ -27,7 +21,8 @@ bool StoreApronFields(const ApronFields& shown, const ApronFields& entered, Scen
     if (entered.surface >= 0 && entered.surface != shown.surface)
         head.surface = head.outlineSurface = static_cast<uint8_t>(entered.surface);
     if (entered.drawSurface != shown.drawSurface)
-        head.drawFlags = static_cast<uint8_t>((head.drawFlags & ~kDrawSurface) | (entered.drawSurface ? 1 : 0));
+        head.drawFlags = static_cast<uint8_t>((head.drawFlags & ~model::kDrawApronSurface) |
+                                              (entered.drawSurface ? model::kDrawApronSurface : 0));
     Commit(&edits);
     return true;
 }

@@ -5,11 +5,20 @@
 #include "dialogs/Choices.h"
 #include "dialogs/Editors.h"
 #include "dialogs/EditorWin.h"
+#include "dialogs/FieldTablesWin.h"
 #include "dialogs/Subject.h"
 #include "platform/DialogWin.h"
 #include "TaxiIds.h"
 
 namespace dialogs {
+
+namespace {
+
+constexpr BoxControl<ApronFields> kBoxes[] = { { &ApronFields::drawSurface, IDC_DRAW_SURFACE } };
+constexpr ChoiceControl<ApronFields> kChoices[] = { { &ApronFields::surface, IDC_APRON_SURFACE } };
+constexpr FieldTable<ApronFields> kTable = { {}, kBoxes, kChoices };
+
+}  // namespace
 
 bool EditApron(SceneryObject* apron) {
     SelectSubject(apron, ExtendKeyHeld());
@@ -19,12 +28,11 @@ bool EditApron(SceneryObject* apron) {
     editor.topic = "#ApronProperties";
     editor.load = [&](HWND dialog) {
         platform::FillChoices(dialog, IDC_APRON_SURFACE, SurfaceChoices());
-        platform::SetChoice(dialog, IDC_APRON_SURFACE, shown.surface);
-        platform::CheckField(dialog, IDC_DRAW_SURFACE, shown.drawSurface);
+        ShowFields(dialog, kTable, shown);
     };
     editor.store = [&](HWND dialog, BadField*) {
-        const ApronFields entered = { platform::ChoiceOf(dialog, IDC_APRON_SURFACE),
-                                      platform::IsFieldChecked(dialog, IDC_DRAW_SURFACE) };
+        ApronFields entered;
+        ReadFields(dialog, kTable, &entered);
         return StoreApronFields(shown, entered, apron);
     };
     return RunEditor(editor);

@@ -8,6 +8,7 @@
 #include "model/Names.h"
 #include "model/ObjectList.h"
 #include "model/Records.h"
+#include "platform/Platform.h"
 
 namespace dialogs {
 
@@ -50,17 +51,16 @@ std::string EndName(const SceneryObject* runway, int end) {
 
 std::vector<RunwayEndRef> AllRunwayEnds() {
     std::vector<RunwayEndRef> ends;
-    for (SceneryObject* runway = model::FirstOfKind(model::state.head, model::kRunway); runway;
-         runway = model::NextOfKind(runway, model::kRunway)) {
+    model::ForEachOfKind(model::kRunway, [&](SceneryObject* runway) {
         ends.push_back({ runway, kBaseEnd });
         ends.push_back({ runway, kReciprocalEnd });
-    }
+    });
     return ends;
 }
 
 const RunwayEndRef* ChosenEnd(const std::vector<RunwayEndRef>& ends, int choice, BadField* bad) {
     if (choice >= 0 && static_cast<size_t>(choice) < ends.size()) return &ends[static_cast<size_t>(choice)];
-    ShowError("You must select a runway");
+    platform::ShowError("You must select a runway");
     *bad = { Field::Runway };
     return nullptr;
 }
@@ -72,15 +72,13 @@ std::string DesignatorName(const SceneryObject* designator) {
 
 std::vector<DesignatorChoice> DesignatorChoices() {
     std::vector<DesignatorChoice> choices = { { "", BlankDesignator() } };
-    for (SceneryObject* object = model::FirstOfKind(model::state.head, model::kTaxiDesignator); object;
-         object = model::NextOfKind(object, model::kTaxiDesignator)) {
+    model::ForEachOfKind(model::kTaxiDesignator, [&](SceneryObject* object) {
         const std::string name = DesignatorName(object);
         if (!name.empty()) choices.push_back({ "Taxi " + name, object });
-    }
-    for (SceneryObject* runway = model::FirstOfKind(model::state.head, model::kRunway); runway;
-         runway = model::NextOfKind(runway, model::kRunway)) {
-        choices.push_back({ "Rwy " + EndName(runway, kBaseEnd) + "/" + EndName(runway, kReciprocalEnd), runway });
-    }
+    });
+    model::ForEachOfKind(model::kRunway, [&](SceneryObject* runway) {
+        choices.push_back({ "Rwy " + model::RunwayName(runway), runway });
+    });
     return choices;
 }
 

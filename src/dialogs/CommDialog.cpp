@@ -11,6 +11,7 @@
 #include "dialogs/Subject.h"
 #include "dialogs/TextField.h"
 #include "model/Records.h"
+#include "platform/Platform.h"
 
 namespace dialogs {
 
@@ -27,7 +28,7 @@ constexpr const char* kNewName = "Insert comm name here";
 bool IsBroadcast(uint16_t type) { return type == kAtis || type == kAwos || type == kAsos; }
 
 bool RefuseNone(BadField* bad) {
-    ShowError("You must enter a frequency, for example 121.9");
+    platform::ShowError("You must enter a frequency, for example 121.9");
     *bad = { Field::Frequency };
     return false;
 }

@@ -3,6 +3,7 @@
 
 #include "dialogs/Editors.h"
 #include "dialogs/EditorWin.h"
+#include "dialogs/FieldTablesWin.h"
 #include "model/Records.h"
 #include "NavaidIds.h"
 #include "platform/DialogWin.h"
@@ -13,19 +14,22 @@ namespace {
 
 constexpr FieldControl kControls[] = { { Field::Frequency, IDC_NAV_FREQUENCY }, { Field::Name, IDC_NAV_NAME } };
 
+constexpr TextControl<CommFields> kTexts[] = {
+    { &CommFields::frequency, IDC_NAV_FREQUENCY },
+    { &CommFields::name, IDC_NAV_NAME },
+};
+constexpr ChoiceControl<CommFields> kChoices[] = { { &CommFields::type, IDC_NAV_TYPE } };
+constexpr FieldTable<CommFields> kTable = { kTexts, {}, kChoices };
+
 void Show(HWND dialog, const CommFields& fields) {
-    platform::SetFieldText(dialog, IDC_NAV_FREQUENCY, fields.frequency);
     platform::FillChoices(dialog, IDC_NAV_TYPE, kCommTypes);
-    platform::SetChoice(dialog, IDC_NAV_TYPE, fields.type);
     platform::LimitField(dialog, IDC_NAV_NAME, model::kCommNameSize);
-    platform::SetFieldText(dialog, IDC_NAV_NAME, fields.name);
+    ShowFields(dialog, kTable, fields);
 }
 
 CommFields Read(HWND dialog) {
     CommFields fields;
-    fields.frequency = platform::FieldText(dialog, IDC_NAV_FREQUENCY);
-    fields.type = platform::ChoiceOf(dialog, IDC_NAV_TYPE);
-    fields.name = platform::FieldText(dialog, IDC_NAV_NAME);
+    ReadFields(dialog, kTable, &fields);
     return fields;
 }
 

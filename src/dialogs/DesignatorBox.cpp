@@ -49,10 +49,9 @@ bool UserWantsNew(const std::string& utf8) {
 }
 
 void DesignateSelected(SceneryObject* designator, Edits* edits) {
-    for (SceneryObject* link = model::FirstOfKind(model::state.head, model::kTaxiLink); link;
-         link = model::NextOfKind(link, model::kTaxiLink)) {
+    model::ForEachOfKind(model::kTaxiLink, [&](SceneryObject* link) {
         if (model::IsSelected(link)) DesignateLink(DraftOf(edits, link), designator);
-    }
+    });
 }
 
 }  // namespace

@@ -2,19 +2,9 @@
 // them.
 #pragma once
 
-#include <cstdint>
 #include <string>
 
-#include "model/Records.h"
-
 namespace dialogs {
-
-// New links drawn on the map look like this one: a link of type Taxiway or Closed is the pattern for new
-// taxiways, one of type Apron route or Parking connector for those.
-void UseLinkTemplate(const model::TaxiLinkPayload& link);
-
-// New spots get this type.
-void UseParkingType(uint32_t type);
 
 // Where the open airport was read from or last saved to, UTF-8; "" for one that is in no file yet.
 std::string AirportFile();

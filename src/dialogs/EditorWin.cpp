@@ -10,6 +10,7 @@
 #include "model/CoordinateText.h"
 #include "platform/DialogWin.h"
 #include "platform/Platform.h"
+#include "platform/PlatformWin.h"
 
 namespace dialogs {
 
@@ -36,11 +37,13 @@ POINT PlaceOf(HWND dialog) {
 
 // At the right edge of the main window: what is edited, or is to be clicked at, mostly lies in its middle.
 void PlaceBesideMap(HWND dialog) {
-    constexpr int kFromEdge = 24;
+    constexpr int kFromEdge = 24;  // at 96 dots per inch
+    const HWND over = GetWindow(dialog, GW_OWNER);
     RECT main{}, own{};
-    GetWindowRect(GetWindow(dialog, GW_OWNER), &main);
+    GetWindowRect(over, &main);
     GetWindowRect(dialog, &own);
-    platform::PlaceDialog(dialog, { main.right - (own.right - own.left) - kFromEdge, own.top });
+    const LONG right = main.right - platform::ScaleToDpi(kFromEdge, platform::DpiOf(over));
+    platform::PlaceDialog(dialog, { right - (own.right - own.left), own.top });
 }
 
 void Place(HWND dialog) {

@@ -9,6 +9,7 @@
 #include "dialogs/IlsRunway.h"
 #include "dialogs/NavaidFields.h"
 #include "dialogs/NewIls.h"
+#include "dialogs/Subject.h"
 #include "dialogs/TextField.h"
 #include "model/Ident.h"
 #include "model/ObjectList.h"
@@ -24,14 +25,12 @@ using model::IlsPayload;
 using model::LocalizerPart;
 using model::VorRecord;
 
-constexpr uint8_t kBackCourse = 0x04;
 constexpr size_t kLocalizerAt = offsetof(IlsPayload, localizer), kSlopeAt = offsetof(IlsPayload, glideSlope),
                  kDmeAt = offsetof(IlsPayload, dme);
 
 constexpr Quantity kBeamWidth = { "beam width", Unit::Degrees, 0.1, 45, 2 };
 constexpr Quantity kPitch = { "glide slope angle", Unit::Degrees, 0.1, 20, 2 };
 constexpr Quantity kSlopeRange = { "glide slope range", Unit::Range, 100, 1e6 };
-constexpr Quantity kMagneticCourse = { "magnetic course", Unit::Degrees, 0, 360, 1 };
 
 constexpr NumberRow<IlsFields> kLocalizerRows[] = {
     { Field::Elevation, &IlsFields::elevation, offsetof(VorRecord, altitude), &kElevation },
@@ -104,6 +103,13 @@ void PlaceDme(SceneryObject* ils) {
     }
     payload.dme = UsualDme(site);
     payload.dme.carried = carried;
+}
+
+// The part of `copy` where the map shows that of `live`.
+void StandAsShown(const SceneryObject* live, int part, SceneryObject* copy) {
+    if (IsUnplaced(live, part)) return;
+    const model::EncodedPoint point = PointAt(live, part);
+    std::memcpy(copy->payload + IlsPositionOffset(part), &point, sizeof point);
 }
 
 void LoadSlope(const SceneryObject* ils, IlsFields* fields) {
@@ -185,7 +191,7 @@ IlsFields LoadIlsFields(const SceneryObject* ils) {
     fields.name = ShowText(payload.name, sizeof payload.name);
     fields.frequency = ShowNavFrequency(payload.body.frequency, FrequencyKind::Localizer);
     LoadIlsEnd(ils, &fields);
-    fields.backCourse = (payload.body.flags & kBackCourse) != 0;
+    fields.backCourse = (payload.body.flags & model::kHasBackCourse) != 0;
     fields.glideSlope = (payload.body.flags & model::kHasGlideSlope) != 0;
     fields.dme = (payload.body.flags & model::kHasDme) != 0;
     fields.position = ShowPoint(PointOf(ils));
@@ -208,7 +214,7 @@ bool StoreIlsFields(const IlsFields& shown, const IlsFields& entered, SceneryObj
         !StoreSlopeAndDme(shown, entered, ils, draft, bad))
         return false;
     payload.body.frequency = frequency;
-    SetFlag(kBackCourse, shown.backCourse, entered.backCourse, &payload.body.flags);
+    SetFlag(model::kHasBackCourse, shown.backCourse, entered.backCourse, &payload.body.flags);
     if (!StoreIlsEnd(shown, entered, ils, &edits, bad)) return false;
     Commit(&edits);
     return true;
@@ -226,9 +232,11 @@ void SwitchDme(const SceneryObject* ils, bool on, IlsFields* fields) {
     fields->dme = on;
     if (!on || !IsUnplaced(ils, kDmeFields) || !fields->dmePosition.latitude.empty()) return;
     const ObjectPtr usual(model::CopyObject(ils));
+    UndoPreviewIn(usual.get(), ils);
     SetFlag(model::kHasGlideSlope, !fields->glideSlope, fields->glideSlope,
             &model::PayloadAs<IlsPayload>(usual.get()).body.flags);
     if (fields->glideSlope) PlaceSlope(ils, usual.get());  // it may just have been switched on too
+    for (const int part : { kLocalizerFields, kGlideSlopeFields }) StandAsShown(ils, part, usual.get());
     PlaceDme(usual.get());
     LoadDme(usual.get(), fields);
 }
@@ -237,8 +245,7 @@ std::string MagneticCourseText(const std::string& heading, const std::string& va
     double course = 0, east = 0;
     if (!ReadNumber(heading, &course) || !ReadNumber(variation, &east)) return "";
     if (course < 0 || course > 360 || std::fabs(east) > 360) return "";
-    const std::string text = ShowNumber(kMagneticCourse, std::fmod(course - east + 360, 360));
-    return text == "360.0" ? "0.0" : text;
+    return HeadingText(std::fmod(course - east + 360, 360));
 }
 
 }  // namespace dialogs

@@ -39,33 +39,59 @@ constexpr FieldControl kControls[] = {
 
 constexpr FieldControl kNewControls[] = { { Field::Runway, IDC_NAV_RUNWAY } };
 
-constexpr int kSlopeControls[] = { IDC_ILS_SLOPE_LATITUDE, IDC_ILS_SLOPE_LONGITUDE, IDC_ILS_SLOPE_ELEVATION,
-                                   IDC_ILS_SLOPE_RANGE, IDC_ILS_SLOPE_PITCH };
-constexpr int kDmeControls[] = { IDC_ILS_DME_LATITUDE, IDC_ILS_DME_LONGITUDE, IDC_ILS_DME_ELEVATION,
-                                 IDC_ILS_DME_RANGE };
+constexpr TextControl<IlsFields> kTexts[] = {
+    { &IlsFields::heading, IDC_NAV_HEADING },
+    { &IlsFields::width, IDC_ILS_WIDTH },
+};
+constexpr BoxControl<IlsFields> kBoxes[] = { { &IlsFields::backCourse, IDC_ILS_BACK_COURSE } };
+constexpr ChoiceControl<IlsFields> kChoices[] = {
+    { &IlsFields::number, IDC_NAV_RUNWAY },
+    { &IlsFields::suffix, IDC_ILS_SUFFIX },
+};
 
-struct PositionPair {
+constexpr TextControl<IlsFields> kSlopeTexts[] = {
+    { &IlsFields::slopeElevation, IDC_ILS_SLOPE_ELEVATION },
+    { &IlsFields::slopeRange, IDC_ILS_SLOPE_RANGE },
+    { &IlsFields::slopePitch, IDC_ILS_SLOPE_PITCH },
+};
+constexpr BoxControl<IlsFields> kSlopeBoxes[] = { { &IlsFields::glideSlope, IDC_ILS_SLOPE } };
+
+constexpr TextControl<IlsFields> kDmeTexts[] = {
+    { &IlsFields::dmeElevation, IDC_ILS_DME_ELEVATION },
+    { &IlsFields::dmeRange, IDC_ILS_DME_RANGE },
+};
+constexpr BoxControl<IlsFields> kDmeBoxes[] = { { &IlsFields::dme, IDC_ILS_DME } };
+
+struct PartControls {
+    FieldTable<IlsFields> table;
+    CoordinateTexts IlsFields::*position;
     int latitude, longitude;
 };
-constexpr PositionPair kPositions[] = { { IDC_NAV_LATITUDE, IDC_NAV_LONGITUDE },
-                                        { IDC_ILS_SLOPE_LATITUDE, IDC_ILS_SLOPE_LONGITUDE },
-                                        { IDC_ILS_DME_LATITUDE, IDC_ILS_DME_LONGITUDE } };  // by part
+constexpr PartControls kParts[] = {
+    { { kTexts, kBoxes, kChoices }, &IlsFields::position, IDC_NAV_LATITUDE, IDC_NAV_LONGITUDE },
+    { { kSlopeTexts, kSlopeBoxes, {} }, &IlsFields::slopePosition, IDC_ILS_SLOPE_LATITUDE, IDC_ILS_SLOPE_LONGITUDE },
+    { { kDmeTexts, kDmeBoxes, {} }, &IlsFields::dmePosition, IDC_ILS_DME_LATITUDE, IDC_ILS_DME_LONGITUDE },
+};  // kLocalizerFields, kGlideSlopeFields, kDmeFields
+
+void ShowPart(HWND dialog, const PartControls& part, const IlsFields& fields) {
+    ShowPosition(dialog, part.latitude, part.longitude, fields.*part.position);
+    ShowFields(dialog, part.table, fields);
+}
+
+void EnablePart(HWND dialog, const PartControls& part, bool on) {
+    platform::EnableField(dialog, part.latitude, on);
+    platform::EnableField(dialog, part.longitude, on);
+    for (const auto& row : part.table.texts) platform::EnableField(dialog, row.control, on);
+}
 
 void ShowSlope(HWND dialog, const IlsFields& fields) {
-    platform::CheckField(dialog, IDC_ILS_SLOPE, fields.glideSlope);
-    ShowPosition(dialog, IDC_ILS_SLOPE_LATITUDE, IDC_ILS_SLOPE_LONGITUDE, fields.slopePosition);
-    platform::SetFieldText(dialog, IDC_ILS_SLOPE_ELEVATION, fields.slopeElevation);
-    platform::SetFieldText(dialog, IDC_ILS_SLOPE_RANGE, fields.slopeRange);
-    platform::SetFieldText(dialog, IDC_ILS_SLOPE_PITCH, fields.slopePitch);
-    for (const int control : kSlopeControls) platform::EnableField(dialog, control, fields.glideSlope);
+    ShowPart(dialog, kParts[kGlideSlopeFields], fields);
+    EnablePart(dialog, kParts[kGlideSlopeFields], fields.glideSlope);
 }
 
 void ShowDme(HWND dialog, const IlsFields& fields) {
-    platform::CheckField(dialog, IDC_ILS_DME, fields.dme);
-    ShowPosition(dialog, IDC_ILS_DME_LATITUDE, IDC_ILS_DME_LONGITUDE, fields.dmePosition);
-    platform::SetFieldText(dialog, IDC_ILS_DME_ELEVATION, fields.dmeElevation);
-    platform::SetFieldText(dialog, IDC_ILS_DME_RANGE, fields.dmeRange);
-    for (const int control : kDmeControls) platform::EnableField(dialog, control, fields.dme);
+    ShowPart(dialog, kParts[kDmeFields], fields);
+    EnablePart(dialog, kParts[kDmeFields], fields.dme);
     platform::ShowField(dialog, IDC_NAV_CHANNEL, fields.dme);
 }
 
@@ -83,12 +109,8 @@ void Show(HWND dialog, const IlsFields& fields) {
     }
     ShowNavaid(dialog, fields);
     platform::FillChoices(dialog, IDC_NAV_RUNWAY, RunwayNumberChoices());
-    platform::SetChoice(dialog, IDC_NAV_RUNWAY, fields.number);
     platform::FillChoices(dialog, IDC_ILS_SUFFIX, kSuffixChoices);
-    platform::SetChoice(dialog, IDC_ILS_SUFFIX, fields.suffix);
-    platform::CheckField(dialog, IDC_ILS_BACK_COURSE, fields.backCourse);
-    platform::SetFieldText(dialog, IDC_NAV_HEADING, fields.heading);
-    platform::SetFieldText(dialog, IDC_ILS_WIDTH, fields.width);
+    ShowPart(dialog, kParts[kLocalizerFields], fields);
     ShowSlope(dialog, fields);
     ShowDme(dialog, fields);
     ShowCourse(dialog);
@@ -98,20 +120,10 @@ void Show(HWND dialog, const IlsFields& fields) {
 IlsFields Read(HWND dialog) {
     IlsFields fields;
     ReadNavaid(dialog, &fields);
-    fields.number = platform::ChoiceOf(dialog, IDC_NAV_RUNWAY);
-    fields.suffix = platform::ChoiceOf(dialog, IDC_ILS_SUFFIX);
-    fields.backCourse = platform::IsFieldChecked(dialog, IDC_ILS_BACK_COURSE);
-    fields.heading = platform::FieldText(dialog, IDC_NAV_HEADING);
-    fields.width = platform::FieldText(dialog, IDC_ILS_WIDTH);
-    fields.glideSlope = platform::IsFieldChecked(dialog, IDC_ILS_SLOPE);
-    fields.slopePosition = PositionIn(dialog, IDC_ILS_SLOPE_LATITUDE, IDC_ILS_SLOPE_LONGITUDE);
-    fields.slopeElevation = platform::FieldText(dialog, IDC_ILS_SLOPE_ELEVATION);
-    fields.slopeRange = platform::FieldText(dialog, IDC_ILS_SLOPE_RANGE);
-    fields.slopePitch = platform::FieldText(dialog, IDC_ILS_SLOPE_PITCH);
-    fields.dme = platform::IsFieldChecked(dialog, IDC_ILS_DME);
-    fields.dmePosition = PositionIn(dialog, IDC_ILS_DME_LATITUDE, IDC_ILS_DME_LONGITUDE);
-    fields.dmeElevation = platform::FieldText(dialog, IDC_ILS_DME_ELEVATION);
-    fields.dmeRange = platform::FieldText(dialog, IDC_ILS_DME_RANGE);
+    for (const PartControls& part : kParts) {
+        fields.*part.position = PositionIn(dialog, part.latitude, part.longitude);
+        ReadFields(dialog, part.table, &fields);
+    }
     return fields;
 }
 
@@ -157,7 +169,7 @@ bool EditIls(SceneryObject* ils) {
     editor.clicked = [&](HWND dialog, model::LatLon at) {
         const int to = PartForClick(part, Read(dialog));
         const model::CoordinateTexts texts = MoveToClick(ils, IlsPositionOffset(to), at);
-        ShowPosition(dialog, kPositions[to].latitude, kPositions[to].longitude, texts);
+        ShowPosition(dialog, kParts[to].latitude, kParts[to].longitude, texts);
     };
     return RunEditor(editor);
 }

@@ -9,6 +9,7 @@
 #include "model/Ident.h"
 #include "model/IlsEnds.h"
 #include "model/Records.h"
+#include "platform/Platform.h"
 
 namespace dialogs {
 
@@ -21,38 +22,36 @@ void SetRunwayIdent(const RunwayEndRef& ref, uint32_t ident, Edits* edits) {
     std::memcpy(DraftOf(edits, ref.runway)->payload + kEndPlaces[ref.end].ils, &ident, sizeof ident);
 }
 
+RunwayEndRef RefOf(const model::IlsEnd& at) { return { at.runway, static_cast<int>(at.end) }; }
+
 // The end that the localizer names: of several with the name the nearest.
-bool IsMeant(const SceneryObject* ils, const RunwayEndRef& ref) {
-    return model::LocalizerNames(ils, ref.runway, ModelEnd(ref.end)) && !IsNearerToNamesake(ils, ref.runway, ref.end);
+RunwayEndRef EndNamedBy(const SceneryObject* ils) {
+    return RefOf(model::NearestEnd(
+        ils, [ils](const model::IlsEnd& at) { return model::LocalizerNames(ils, at.runway, at.end); }));
 }
 
 // A runway end has room for one ILS.
 bool CheckEndFree(const SceneryObject* ils, const SceneryObject* draft, BadField* bad) {
-    for (const RunwayEndRef& ref : AllRunwayEnds()) {
-        if (!IsMeant(draft, ref)) continue;
-        for (const SceneryObject* other : BelongingsOf(ref.runway, ref.end).ils) {
-            if (other == ils) continue;
-            ShowError("Runway " + EndName(ref.runway, ref.end) + " already has an ILS");
-            *bad = { Field::Runway };
-            return false;
-        }
+    const RunwayEndRef ref = EndNamedBy(draft);
+    if (!ref.runway) return true;
+    for (const SceneryObject* other : BelongingsOf(ref.runway, ref.end).ils) {
+        if (other == ils) continue;
+        platform::ShowError("Runway " + EndName(ref.runway, ref.end) + " already has an ILS");
+        *bad = { Field::Runway };
+        return false;
     }
     return true;
 }
 
-// Runway ends that name the ILS follow it; another end that it now serves gets its name.
+// The runway end that names the ILS follows it; another end that it now serves gets its name.
 void UpdateRunways(const SceneryObject* ils, const SceneryObject* draft, bool otherEnd, Edits* edits) {
-    const auto& is = model::PayloadAs<IlsPayload>(draft);
     const uint32_t oldIdent = model::PayloadAs<IlsPayload>(ils).body.ident >> model::kIdentShift;
-    const uint32_t newIdent = is.body.ident >> model::kIdentShift;
+    const uint32_t newIdent = model::PayloadAs<IlsPayload>(draft).body.ident >> model::kIdentShift;
     if (!otherEnd && oldIdent == newIdent) return;
-    for (const RunwayEndRef& ref : AllRunwayEnds()) {
-        const uint32_t named = model::IlsNamedBy(ref.runway, ModelEnd(ref.end));
-        if (otherEnd && IsMeant(draft, ref))
-            SetRunwayIdent(ref, newIdent, edits);
-        else if (named != 0 && named == oldIdent && ServesEnd(ils, ref.runway, ref.end))
-            SetRunwayIdent(ref, otherEnd ? 0 : newIdent, edits);
-    }
+    const RunwayEndRef served = EndServedBy(ils), chosen = otherEnd ? EndNamedBy(draft) : RunwayEndRef{};
+    if (served.runway && model::IlsNamedBy(served.runway, ModelEnd(served.end)) != 0)
+        SetRunwayIdent(served, otherEnd ? 0 : newIdent, edits);
+    if (chosen.runway) SetRunwayIdent(chosen, newIdent, edits);
 }
 
 // Whether the user chose another runway end.
@@ -67,12 +66,7 @@ bool StoreEnd(const IlsFields& shown, const IlsFields& entered, LocalizerPart* l
 
 }  // namespace
 
-RunwayEndRef EndServedBy(const SceneryObject* ils) {
-    for (const RunwayEndRef& ref : AllRunwayEnds()) {
-        if (ServesEnd(ils, ref.runway, ref.end)) return ref;
-    }
-    return {};
-}
+RunwayEndRef EndServedBy(const SceneryObject* ils) { return RefOf(model::ServedEnd(ils)); }
 
 // The bytes of a stock file are not to be relied on: where a runway end is tied to the ILS, it is shown instead.
 void LoadIlsEnd(const SceneryObject* ils, IlsFields* fields) {

@@ -1,7 +1,7 @@
 // LinkDialog.cpp - see LinkDialog.h.
 //
 // OK turns the difference between shown and entered into a change first; the couplings then complete that
-// change, and only at its end is it written to the links. Edge line style 3 (solid and dashed) has no
+// change, and only at its end is it written to the links. The edge line that is solid and dashed has no
 // button: a link keeps it until the user presses one.
 #include "dialogs/LinkDialog.h"
 
@@ -9,7 +9,6 @@
 #include <optional>
 
 #include "dialogs/Choices.h"
-#include "dialogs/DialogHost.h"
 #include "dialogs/NumberField.h"
 #include "map/LinkTemplate.h"
 #include "model/Limits.h"
@@ -17,29 +16,37 @@
 #include "model/Positions.h"
 #include "model/Records.h"
 #include "model/RunwayArea.h"
+#include "platform/Platform.h"
 
 namespace dialogs {
 
 namespace {
 
+using model::LinkSide;
 using model::TaxiLinkPayload;
 
 constexpr Quantity kLinkWidth = { "width", Unit::TaxiLength, 0.1, 1000, 0, 0 };
 constexpr uint32_t kLinkTypes[] = { model::kRunwayLink, model::kTaxiwayLink, model::kApronRouteLink,
                                     model::kClosedLink };
 
-// Places in the flags word.
-constexpr int kCentreLine = 16, kCentreLights = 17, kLeftEdge = 18, kLeftLights = 20, kRightEdge = 21,
-              kRightLights = 23, kSurface = 24;
-constexpr uint32_t kEdgeMask = 3, kBit = 1;
+bool HasBit(const TaxiLinkPayload& link, uint32_t bit) { return (link.flagsWord & bit) != 0; }
 
-uint32_t GetBits(const TaxiLinkPayload& link, int shift, uint32_t mask) { return link.flagsWord >> shift & mask; }
-
-void SetBits(TaxiLinkPayload* link, int shift, uint32_t mask, uint32_t value) {
-    link->flagsWord = (link->flagsWord & ~(mask << shift)) | (value & mask) << shift;
+void SetBit(TaxiLinkPayload* link, uint32_t bit, bool on) {
+    link->flagsWord = on ? link->flagsWord | bit : link->flagsWord & ~bit;
 }
 
-int EdgeIndex(uint32_t style) { return style < kEdgeLineNames.size() ? static_cast<int>(style) : -1; }
+void SetSurface(TaxiLinkPayload* link, uint32_t code) {
+    link->flagsWord = (link->flagsWord & ~model::kLinkSurfaceMask) | code << model::kLinkSurfaceShift;
+}
+
+int EdgeIndex(const TaxiLinkPayload& link, LinkSide side) {
+    const auto line = static_cast<size_t>(model::EdgeLineOf(link.flagsWord, side));
+    return line < kEdgeLineNames.size() ? static_cast<int>(line) : -1;
+}
+
+void SetEdge(TaxiLinkPayload* link, LinkSide side, int index) {
+    if (index >= 0) link->flagsWord = model::WithEdgeLine(link->flagsWord, side, static_cast<model::EdgeLine>(index));
+}
 
 bool EndsAtSpot(const TaxiLinkPayload& link) {
     return (link.end && KindOf(link.end) == model::kParkingSpot) ||
@@ -111,18 +118,18 @@ void ApplyTypeAndName(const LinkChange& change, SceneryObject* draft, Edits* edi
 void Apply(const LinkChange& change, const LinkFields& entered, SceneryObject* draft, Edits* edits) {
     ApplyTypeAndName(change, draft, edits);
     auto& link = model::PayloadAs<TaxiLinkPayload>(draft);
-    if (change.surface) SetBits(&link, kSurface, 0xFF, *change.surface);
+    if (change.surface) SetSurface(&link, *change.surface);
     if (change.width) link.width = *change.width;
-    if (change.edges && entered.leftEdge >= 0)
-        SetBits(&link, kLeftEdge, kEdgeMask, static_cast<uint32_t>(entered.leftEdge));
-    if (change.edges && entered.rightEdge >= 0)
-        SetBits(&link, kRightEdge, kEdgeMask, static_cast<uint32_t>(entered.rightEdge));
-    if (change.lights) {
-        SetBits(&link, kLeftLights, kBit, entered.leftLights);
-        SetBits(&link, kRightLights, kBit, entered.rightLights);
+    if (change.edges) {
+        SetEdge(&link, LinkSide::Left, entered.leftEdge);
+        SetEdge(&link, LinkSide::Right, entered.rightEdge);
     }
-    if (change.centreLine) SetBits(&link, kCentreLine, kBit, entered.centreLine);
-    if (change.centreLights) SetBits(&link, kCentreLights, kBit, entered.centreLights);
+    if (change.lights) {
+        SetBit(&link, model::kLinkLeftLights, entered.leftLights);
+        SetBit(&link, model::kLinkRightLights, entered.rightLights);
+    }
+    if (change.centreLine) SetBit(&link, model::kLinkCentreLine, entered.centreLine);
+    if (change.centreLights) SetBit(&link, model::kLinkCentreLights, entered.centreLights);
 }
 
 // The blank designator of a choice that the new type overruled.
@@ -198,12 +205,12 @@ LinkFields LoadLinkFields(const SceneryObject* object) {
     }
     fields.surface = SurfaceIndex(model::LinkSurface(link));
     fields.width = ShowNumber(kLinkWidth, link.width);
-    fields.leftEdge = EdgeIndex(GetBits(link, kLeftEdge, kEdgeMask));
-    fields.rightEdge = EdgeIndex(GetBits(link, kRightEdge, kEdgeMask));
-    fields.leftLights = GetBits(link, kLeftLights, kBit) != 0;
-    fields.rightLights = GetBits(link, kRightLights, kBit) != 0;
-    fields.centreLine = GetBits(link, kCentreLine, kBit) != 0;
-    fields.centreLights = GetBits(link, kCentreLights, kBit) != 0;
+    fields.leftEdge = EdgeIndex(link, LinkSide::Left);
+    fields.rightEdge = EdgeIndex(link, LinkSide::Right);
+    fields.leftLights = HasBit(link, model::kLinkLeftLights);
+    fields.rightLights = HasBit(link, model::kLinkRightLights);
+    fields.centreLine = HasBit(link, model::kLinkCentreLine);
+    fields.centreLights = HasBit(link, model::kLinkCentreLights);
     return fields;
 }
 
@@ -223,17 +230,15 @@ bool StoreLinkFields(const LinkFields& shown, const LinkFields& entered, Scenery
         forOthers = change;
     }
     Apply(change, entered, DraftOf(&edits, link), &edits);
-    for (SceneryObject* other = model::FirstOfKind(model::state.head, model::kTaxiLink); other;
-         other = model::NextOfKind(other, model::kTaxiLink)) {
+    model::ForEachOfKind(model::kTaxiLink, [&](SceneryObject* other) {
         if (other != link && model::IsSelected(other)) Apply(forOthers, entered, DraftOf(&edits, other), &edits);
-    }
+    });
     DropUnusedDesignators(&edits);
     if (!edits.added.empty() && !HasRoomForDesignator()) {
         *bad = { Field::Designator };
         return false;
     }
-    if (Commit(&edits) && model::LinkTypeOf(model::PayloadAs<TaxiLinkPayload>(link)) != model::kRunwayLink)
-        UseLinkTemplate(model::PayloadAs<TaxiLinkPayload>(link));
+    if (Commit(&edits)) map::UseLinkTemplate(model::PayloadAs<TaxiLinkPayload>(link));
     return true;
 }
 
@@ -247,7 +252,7 @@ SceneryObject* BlankDesignatorIn(Edits* edits) {
 
 bool HasRoomForDesignator() {
     if (model::CountKind(model::kTaxiDesignator) < model::kMostDesignators) return true;
-    ShowError("An airport can have at most 256 taxiway designators");
+    platform::ShowError("An airport can have at most 256 taxiway designators");
     return false;
 }
 

@@ -8,23 +8,24 @@
 #include "dialogs/Choices.h"
 #include "dialogs/CommDialog.h"
 #include "dialogs/DialogHost.h"
+#include "dialogs/IlsRunway.h"
 #include "dialogs/MarkerDialog.h"
 #include "dialogs/NavaidFields.h"
 #include "dialogs/NumberField.h"
 #include "dialogs/ParkingCodes.h"
-#include "dialogs/RunwayFollow.h"
 #include "dialogs/StartDialog.h"
 #include "dialogs/Subject.h"
 #include "dialogs/TextField.h"
 #include "dialogs/VorDialog.h"
 #include "map/HoldShortUpdate.h"
-#include "map/MapView.h"
+#include "map/Layers.h"
 #include "map/Selection.h"
 #include "model/DeleteRules.h"
 #include "model/Names.h"
 #include "model/ObjectList.h"
 #include "model/Positions.h"
 #include "model/Records.h"
+#include "model/SpotBits.h"
 #include "platform/Platform.h"
 #include "platform/Text.h"
 
@@ -48,9 +49,7 @@ std::string Heading(double degrees) {
 
 // The name of the runway end that the ILS serves: by the runway that names it, else by its own bytes.
 std::string EndServed(const SceneryObject* ils) {
-    for (const RunwayEndRef& ref : AllRunwayEnds()) {
-        if (ServesEnd(ils, ref.runway, ref.end)) return EndName(ref.runway, ref.end);
-    }
+    if (const RunwayEndRef ref = EndServedBy(ils); ref.runway) return EndName(ref.runway, ref.end);
     const model::LocalizerPart localizer = model::PayloadAs<model::IlsPayload>(ils).localizer;
     const bool named = localizer.runwayNumber != 0 && RunwayNumberIndex(localizer.runwayNumber) >= 0;
     return named ? model::RunwayEndName(localizer.runwayNumber, localizer.runwayDesignator) : "";
@@ -87,8 +86,8 @@ std::string VorRow(const SceneryObject* object) {
 std::string RunwayRow(const SceneryObject* object) {
     const auto& body = model::PayloadAs<model::RunwayPayload>(object).body;
     const std::string unit = std::string(" ") + UnitLabel(Unit::Length);
-    return EndName(object, kBaseEnd) + "/" + EndName(object, kReciprocalEnd) + "\t" +
-           ShowNumber(kRunwaySize, body.length) + unit + "\t" + ShowNumber(kRunwaySize, body.width) + unit;
+    return model::RunwayName(object) + "\t" + ShowNumber(kRunwaySize, body.length) + unit + "\t" +
+           ShowNumber(kRunwaySize, body.width) + unit;
 }
 
 std::string ParkingRow(const SceneryObject* object) {
@@ -129,7 +128,8 @@ bool IsListed(const SceneryObject* object, ListKind kind) {
 bool MayDeleteDesignator(const SceneryObject* object) {
     const std::string name = DesignatorName(object);
     if (name.empty()) {
-        ShowError("You can't delete this blank designator.\nThere must always be a blank designator in the list");
+        platform::ShowError(
+            "You can't delete this blank designator.\nThere must always be a blank designator in the list");
         return false;
     }
     const uint32_t count = LinksUsing(object);
@@ -149,22 +149,9 @@ std::string Findable(std::string_view text) {
     return found;
 }
 
-// Null for what is always shown.
-bool map::MapLayers::*LayerOf(uint32_t kind) {
-    switch (kind) {
-    case model::kParkingSpot: return &map::MapLayers::network;
-    case model::kStartLocation: return &map::MapLayers::starts;
-    case model::kIls:
-    case model::kMarkerBeacon:
-    case model::kNdb:
-    case model::kVorDme: return &map::MapLayers::navaids;
-    default: return nullptr;
-    }
-}
-
 // Nothing is selected unseen.
 void ShowLayerOf(const SceneryObject* object) {
-    bool map::MapLayers::*layer = LayerOf(KindOf(object));
+    bool map::MapLayers::*layer = map::LayerOf(KindOf(object));
     if (!layer || map::layers.*layer) return;
     map::layers.*layer = true;
     ShowDialogState();
@@ -253,8 +240,7 @@ int RowAfterTyping(const std::vector<ListRow>& rows, int selected, std::string_v
 
 bool IsEntrySelected(const SceneryObject* object) {
     if (object) return true;
-    platform::ShowMessage("You must select an entry in the list first", Buttons::Ok, Icon::Exclamation);
-    return false;
+    return platform::ShowRefusal("You must select an entry in the list first");
 }
 
 void ShowEntry(SceneryObject* object) {
@@ -280,10 +266,9 @@ bool DeleteEntry(SceneryObject* object) {
 
 uint32_t LinksUsing(const SceneryObject* designator) {
     uint32_t count = 0;
-    for (SceneryObject* link = model::FirstOfKind(model::state.head, model::kTaxiLink); link;
-         link = model::NextOfKind(link, model::kTaxiLink)) {
+    model::ForEachOfKind(model::kTaxiLink, [&](SceneryObject* link) {
         count += model::PayloadAs<model::TaxiLinkPayload>(link).designator == designator;
-    }
+    });
     return count;
 }
 

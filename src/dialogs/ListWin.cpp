@@ -43,6 +43,7 @@ struct Window {
     int order = kOriginalOrder;  // or a ParkingKey
     bool filling = false;        // what the control reports is our own doing
     TypedWord typed{};
+    uint32_t keyTime = 0;  // of the key pressed last, by its message: however late it arrives, pauses are the user's
 };
 
 Window windows[] = {
@@ -154,7 +155,7 @@ void OnTyped(Window* window, wchar_t character) {
     if (IsHeld(*window)) return;
     const std::string typed = platform::Utf8FromWide({ &character, 1 });
     const int selected = SelectedRow(window->list);
-    const int row = RowAfterTyping(window->rows, selected, typed, GetTickCount(), &window->typed);
+    const int row = RowAfterTyping(window->rows, selected, typed, window->keyTime, &window->typed);
     if (row == selected) return;
     SelectRow(window->list, row);
     OnSelected(window);
@@ -171,6 +172,7 @@ LRESULT CALLBACK RowsProc(HWND control, UINT message, WPARAM wParam, LPARAM lPar
             return DLGC_WANTMESSAGE;
         break;
     case WM_KEYDOWN:
+        window->keyTime = static_cast<uint32_t>(GetMessageTime());
         if (wParam == VK_RETURN) {
             PostMessageW(window->dialog, WM_COMMAND, IDC_LIST_PROPERTIES, 0);
             return 0;

@@ -44,12 +44,6 @@ ObjectPtr MakeMarker(const RunwayEndRef& ref, uint8_t type, double distance) {
     return marker;
 }
 
-bool Refuse(const char* message, BadField wrong, BadField* bad) {
-    platform::ShowMessage(message, platform::Buttons::Ok, platform::Icon::Exclamation);
-    *bad = wrong;
-    return false;
-}
-
 }  // namespace
 
 double MarkerHeading(const SceneryObject* marker) {
@@ -94,9 +88,8 @@ std::vector<std::string> MarkerRunwayChoices() {
 }
 
 bool LoadNewMarkerFields(NewMarkerFields* fields) {
-    BadField none;
     if (AllRunwayEnds().empty())
-        return Refuse("You must create a runway before you can create marker beacons", {}, &none);
+        return platform::ShowRefusal("You must create a runway before you can create marker beacons");
     fields->runwayEnd = 0;
     fields->wanted = { true, true, true };
     for (size_t type = 0; type < 3; ++type) fields->distance[type] = ShowNumber(kDistance, kUsualDistance[type]);
@@ -107,8 +100,10 @@ bool CreateMarkers(const NewMarkerFields& shown, const NewMarkerFields& entered,
     const std::vector<RunwayEndRef> ends = AllRunwayEnds();
     const RunwayEndRef* end = ChosenEnd(ends, entered.runwayEnd, bad);
     if (!end) return false;
-    if (!entered.wanted[0] && !entered.wanted[1] && !entered.wanted[2])
-        return Refuse("You must select at least one of the marker types\n", { Field::MarkerKind, 2 }, bad);
+    if (!entered.wanted[0] && !entered.wanted[1] && !entered.wanted[2]) {
+        *bad = { Field::MarkerKind, 2 };
+        return platform::ShowRefusal("You must select at least one of the marker types\n");
+    }
     Edits edits;
     for (size_t i = 3; i-- > 0;) {  // from the outer one in
         if (!entered.wanted[i]) continue;

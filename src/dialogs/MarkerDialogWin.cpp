@@ -14,28 +14,30 @@ constexpr FieldControl kControls[] = {
     { Field::Heading, IDC_NAV_HEADING },
 };
 
+constexpr TextControl<MarkerFields> kTexts[] = {
+    { &MarkerFields::ident, IDC_NAV_IDENT },
+    { &MarkerFields::elevation, IDC_NAV_ELEVATION },
+    { &MarkerFields::heading, IDC_NAV_HEADING },
+};
+constexpr ChoiceControl<MarkerFields> kChoices[] = { { &MarkerFields::type, IDC_NAV_TYPE } };
+constexpr FieldTable<MarkerFields> kTable = { kTexts, {}, kChoices };
+
 void Show(HWND dialog, const MarkerFields& fields) {
     LabelUnit(dialog, IDC_NAV_ELEVATION_LABEL, "Elevation (", Unit::Elevation, " ASL)");
     platform::LimitField(dialog, IDC_NAV_IDENT, kIdentLimit);
-    platform::SetFieldText(dialog, IDC_NAV_IDENT, fields.ident);
     platform::FillChoices(dialog, IDC_NAV_TYPE, kMarkerTypes);
-    platform::SetChoice(dialog, IDC_NAV_TYPE, fields.type);
     ShowPosition(dialog, IDC_NAV_LATITUDE, IDC_NAV_LONGITUDE, fields.position);
-    platform::SetFieldText(dialog, IDC_NAV_ELEVATION, fields.elevation);
-    platform::SetFieldText(dialog, IDC_NAV_HEADING, fields.heading);
+    ShowFields(dialog, kTable, fields);
 }
 
 MarkerFields Read(HWND dialog) {
     MarkerFields fields;
-    fields.ident = platform::FieldText(dialog, IDC_NAV_IDENT);
-    fields.type = platform::ChoiceOf(dialog, IDC_NAV_TYPE);
     fields.position = PositionIn(dialog, IDC_NAV_LATITUDE, IDC_NAV_LONGITUDE);
-    fields.elevation = platform::FieldText(dialog, IDC_NAV_ELEVATION);
-    fields.heading = platform::FieldText(dialog, IDC_NAV_HEADING);
+    ReadFields(dialog, kTable, &fields);
     return fields;
 }
 
-// By type code.
+// Of new ones, by type code.
 constexpr int kBoxes[] = { IDC_MARKERS_INNER, IDC_MARKERS_MIDDLE, IDC_MARKERS_OUTER };
 constexpr int kDistances[] = { IDC_MARKERS_INNER_DISTANCE, IDC_MARKERS_MIDDLE_DISTANCE, IDC_MARKERS_OUTER_DISTANCE };
 constexpr FieldControl kNewControls[] = {

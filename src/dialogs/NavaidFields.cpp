@@ -4,6 +4,7 @@
 #include "dialogs/TextField.h"
 #include "model/ObjectList.h"
 #include "model/Records.h"
+#include "platform/Platform.h"
 
 namespace dialogs {
 
@@ -35,7 +36,7 @@ const char* FaultOf(FrequencyKind kind, uint32_t hertz) {
 }
 
 bool Refuse(const char* message, BadField* bad) {
-    if (message) ShowError(message);
+    if (message) platform::ShowError(message);
     *bad = { Field::Frequency };
     return false;
 }

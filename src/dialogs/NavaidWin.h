@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include "dialogs/EditorWin.h"
+#include "dialogs/FieldTablesWin.h"
 #include "dialogs/NumberField.h"
 #include "dialogs/TextField.h"
 #include "model/Records.h"
@@ -12,31 +13,30 @@
 
 namespace dialogs {
 
-// What an NDB, a VOR and an ILS have in common.
+// What an NDB, a VOR and an ILS have in common, beside the position.
+template <class Fields>
+inline constexpr TextControl<Fields> kNavaidTexts[] = {
+    { &Fields::ident, IDC_NAV_IDENT },         { &Fields::name, IDC_NAV_NAME },
+    { &Fields::frequency, IDC_NAV_FREQUENCY }, { &Fields::elevation, IDC_NAV_ELEVATION },
+    { &Fields::range, IDC_NAV_RANGE },         { &Fields::variation, IDC_NAV_VARIATION },
+};
+template <class Fields>
+inline constexpr FieldTable<Fields> kNavaidTable = { kNavaidTexts<Fields>, {}, {} };
+
 template <class Fields>
 void ShowNavaid(HWND dialog, const Fields& fields) {
     LabelUnit(dialog, IDC_NAV_ELEVATION_LABEL, "&Elevation (", Unit::Elevation, " ASL)");
     LabelUnit(dialog, IDC_NAV_RANGE_LABEL, "Range (", Unit::Range, ")");
     platform::LimitField(dialog, IDC_NAV_IDENT, kIdentLimit);
-    platform::SetFieldText(dialog, IDC_NAV_IDENT, fields.ident);
     platform::LimitField(dialog, IDC_NAV_NAME, model::kNavaidNameSize);
-    platform::SetFieldText(dialog, IDC_NAV_NAME, fields.name);
-    platform::SetFieldText(dialog, IDC_NAV_FREQUENCY, fields.frequency);
     ShowPosition(dialog, IDC_NAV_LATITUDE, IDC_NAV_LONGITUDE, fields.position);
-    platform::SetFieldText(dialog, IDC_NAV_ELEVATION, fields.elevation);
-    platform::SetFieldText(dialog, IDC_NAV_RANGE, fields.range);
-    platform::SetFieldText(dialog, IDC_NAV_VARIATION, fields.variation);
+    ShowFields(dialog, kNavaidTable<Fields>, fields);
 }
 
 template <class Fields>
 void ReadNavaid(HWND dialog, Fields* fields) {
-    fields->ident = platform::FieldText(dialog, IDC_NAV_IDENT);
-    fields->name = platform::FieldText(dialog, IDC_NAV_NAME);
-    fields->frequency = platform::FieldText(dialog, IDC_NAV_FREQUENCY);
     fields->position = PositionIn(dialog, IDC_NAV_LATITUDE, IDC_NAV_LONGITUDE);
-    fields->elevation = platform::FieldText(dialog, IDC_NAV_ELEVATION);
-    fields->range = platform::FieldText(dialog, IDC_NAV_RANGE);
-    fields->variation = platform::FieldText(dialog, IDC_NAV_VARIATION);
+    ReadFields(dialog, kNavaidTable<Fields>, fields);
 }
 
 // The DME channel beside the frequency.

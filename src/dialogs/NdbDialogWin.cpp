@@ -15,16 +15,19 @@ constexpr FieldControl kControls[] = {
     { Field::Range, IDC_NAV_RANGE },         { Field::Variation, IDC_NAV_VARIATION },
 };
 
+constexpr ChoiceControl<NdbFields> kChoices[] = { { &NdbFields::type, IDC_NAV_TYPE } };
+constexpr FieldTable<NdbFields> kTable = { {}, {}, kChoices };
+
 void Show(HWND dialog, const NdbFields& fields) {
     ShowNavaid(dialog, fields);
     platform::FillChoices(dialog, IDC_NAV_TYPE, kNdbTypes);
-    platform::SetChoice(dialog, IDC_NAV_TYPE, fields.type);
+    ShowFields(dialog, kTable, fields);
 }
 
 NdbFields Read(HWND dialog) {
     NdbFields fields;
     ReadNavaid(dialog, &fields);
-    fields.type = platform::ChoiceOf(dialog, IDC_NAV_TYPE);
+    ReadFields(dialog, kTable, &fields);
     return fields;
 }
 

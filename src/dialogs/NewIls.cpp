@@ -31,7 +31,8 @@ constexpr float kSlopeRange = 18520, kSlopePitch = 3;       // metres, degrees
 constexpr float kIlsRange = 50017;                          // metres
 constexpr double kHalfCourse = 105;                         // metres, at the threshold
 constexpr double kNarrowest = 3, kWidest = 6;               // degrees
-constexpr uint8_t kNewFlags = 0x3D;
+constexpr uint8_t kNewFlags =
+    model::kHasVor | model::kHasBackCourse | model::kHasGlideSlope | model::kHasDme | model::kNavTrue;
 constexpr uint32_t kIlsIdentKind = 2;  // low bits of an ILS's ident word
 constexpr const char* kNewIdent = "IABC";
 constexpr int kMostDraws = 80;
@@ -70,11 +71,10 @@ ApronSide SideOf(const SceneryObject* apron, const RunwayPlane& plane) {
 double SlopeSide(const RunwayEndRef& ref) {
     const RunwayPlane plane = PlaneOf(ref.runway);
     ApronSide largest;
-    for (SceneryObject* apron = model::FirstOfKind(model::state.head, model::kApron); apron;
-         apron = model::NextOfKind(apron, model::kApron)) {
+    model::ForEachOfKind(model::kApron, [&](SceneryObject* apron) {
         const ApronSide side = SideOf(apron, plane);
         if (side.area > largest.area) largest = side;
-    }
+    });
     if (largest.area == 0) return 1;
     const double away = largest.right > 0 ? -1 : 1;  // seen along the runway's heading
     return ref.end == kBaseEnd ? away : -away;
@@ -100,18 +100,16 @@ void FillBody(const RunwayEndRef& ref, const std::function<uint32_t()>& random, 
     body->region = model::RegionWordWithAirport(0, airport);
 }
 
-void Refuse(const char* message) { platform::ShowMessage(message, platform::Buttons::Ok, platform::Icon::Exclamation); }
-
 }  // namespace
 
 std::vector<RunwayEndRef> EndsForNewIls() {
     std::vector<RunwayEndRef> ends = AllRunwayEnds();
     if (ends.empty()) {
-        Refuse("You must create a runway before you can create an ILS");
+        platform::ShowRefusal("You must create a runway before you can create an ILS");
         return ends;
     }
     std::erase_if(ends, HasIls);
-    if (ends.empty()) Refuse("Every runway already has an ILS, you cannot create any more");
+    if (ends.empty()) platform::ShowRefusal("Every runway already has an ILS, you cannot create any more");
     return ends;
 }
 

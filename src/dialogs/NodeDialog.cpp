@@ -25,10 +25,9 @@ int TypeIndex(uint8_t type) {
 }
 
 void GiveTypeToSelection(uint8_t type, Edits* edits) {
-    for (SceneryObject* node = model::FirstOfKind(model::state.head, model::kTaxiNode); node;
-         node = model::NextOfKind(node, model::kTaxiNode)) {
+    model::ForEachOfKind(model::kTaxiNode, [&](SceneryObject* node) {
         if (model::IsSelected(node)) model::PayloadAs<TaxiNodeRecord>(DraftOf(edits, node)).type = type;
-    }
+    });
 }
 
 // Those that get another type.

@@ -105,15 +105,11 @@ void ShowRange(const Quantity& quantity) {
     const double least = variation ? quantity.least : ShownNumber(quantity, quantity.least);
     const double most = variation ? quantity.most : ShownNumber(quantity, quantity.most);
     const char* what = whole ? " must be a whole number from " : " must be a number from ";
-    ShowError(std::string("The ") + quantity.name + what + LimitText(least, decimals, true) + " to " +
-              LimitText(most, decimals, false) + UnitInMessages(quantity.unit));
+    platform::ShowError(std::string("The ") + quantity.name + what + LimitText(least, decimals, true) + " to " +
+                        LimitText(most, decimals, false) + UnitInMessages(quantity.unit));
 }
 
 }  // namespace
-
-void ShowError(const std::string& text) {
-    platform::ShowMessage("ERROR: " + text, platform::Buttons::Ok, platform::Icon::Exclamation);
-}
 
 bool ReadNumber(std::string_view text, double* number) {
     text = text.substr(0, text.find_last_not_of(kBlanks) + 1);
@@ -166,6 +162,11 @@ double StoredNumber(const Quantity& quantity, double shown) {
 
 std::string ShowNumber(const Quantity& quantity, double stored) {
     return Decimal(ShownNumber(quantity, stored), DecimalsOf(quantity), quantity.minimumCharacters);
+}
+
+std::string HeadingText(double degrees) {
+    const std::string text = ShowNumber(kHeading, degrees);
+    return text == "360.0" ? "0.0" : text;
 }
 
 bool ReadQuantity(const Quantity& quantity, const std::string& shown, const std::string& entered, double* stored) {

@@ -48,6 +48,7 @@ bool ReadsAsZero(const Quantity& quantity, std::string_view text);
 double ShownNumber(const Quantity& quantity, double stored);
 double StoredNumber(const Quantity& quantity, double shown);
 std::string ShowNumber(const Quantity& quantity, double stored);
+std::string HeadingText(double degrees);  // of 0 to 360: "0.0" to "359.9", for texts that are never read back
 
 // Shown and entered texts being the same leaves *stored alone. False after the message of a refusal.
 bool ReadQuantity(const Quantity& quantity, const std::string& shown, const std::string& entered, double* stored);
@@ -64,8 +65,6 @@ double StoredAt(const uint8_t* place, Unit unit);
 void StoreAt(uint8_t* place, Unit unit, double value);
 std::string ShowNumberAt(const Quantity& quantity, const uint8_t* place);
 bool ReadNumberAt(const Quantity& quantity, const std::string& shown, const std::string& entered, uint8_t* place);
-
-void ShowError(const std::string& text);
 
 // A number field of a dialog: which text, where in the payload, which quantity.
 template <class Fields>

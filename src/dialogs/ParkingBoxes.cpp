@@ -16,10 +16,9 @@ namespace {
 template <typename Change>
 bool ChangeSelectedSpots(Change change) {
     Edits edits;
-    for (SceneryObject* spot = model::FirstOfKind(model::state.head, model::kParkingSpot); spot;
-         spot = model::NextOfKind(spot, model::kParkingSpot)) {
+    model::ForEachOfKind(model::kParkingSpot, [&](SceneryObject* spot) {
         if (model::IsSelected(spot)) change(DraftOf(&edits, spot));
-    }
+    });
     return Commit(&edits);
 }
 

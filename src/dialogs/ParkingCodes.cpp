@@ -8,6 +8,8 @@
 #include "dialogs/TextField.h"
 #include "model/Limits.h"
 #include "model/Records.h"
+#include "model/SpotBits.h"
+#include "platform/Platform.h"
 #include "platform/Text.h"
 
 namespace dialogs {
@@ -61,17 +63,17 @@ bool ReadCodes(const std::string& text, std::vector<std::string>* codes) {
     for (const std::string& code : SplitCodes(text)) {
         std::string encoded;
         if (!ToSceneryText(platform::UpperCased(code), &encoded)) {
-            ShowError("The Parking Codes box contains a character that scenery files cannot hold");
+            platform::ShowError("The Parking Codes box contains a character that scenery files cannot hold");
             return false;
         }
         if (encoded.size() > kParkingCodeSize) {
-            ShowError("The Parking Codes box contains a code longer than the maximum four characters");
+            platform::ShowError("The Parking Codes box contains a code longer than the maximum four characters");
             return false;
         }
         read.push_back(std::move(encoded));
     }
     if (read.size() > model::kMostParkingCodes) {
-        ShowError("The Parking Codes box contains more than the maximum 255 codes");
+        platform::ShowError("The Parking Codes box contains more than the maximum 255 codes");
         return false;
     }
     *codes = std::move(read);

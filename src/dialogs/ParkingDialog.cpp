@@ -1,21 +1,21 @@
 // ParkingDialog.cpp - see ParkingDialog.h.
 //
-// Bits 6 and 7 of the packed word are the pushback directions: carried, no field of the dialog.
+// The pushback directions are carried, no field of the dialog.
 #include "dialogs/ParkingDialog.h"
 
-#include <algorithm>
 #include <cmath>
 
-#include "dialogs/DialogHost.h"
 #include "dialogs/Edits.h"
 #include "dialogs/NumberField.h"
 #include "dialogs/ParkingCodes.h"
 #include "dialogs/Subject.h"
 #include "map/NewObjects.h"
+#include "map/Tools.h"
 #include "model/Names.h"
 #include "model/ObjectList.h"
 #include "model/Positions.h"
 #include "model/Records.h"
+#include "model/SpotBits.h"
 
 namespace dialogs {
 
@@ -24,7 +24,6 @@ namespace {
 using model::ParkingSpotRecord;
 
 constexpr uint32_t kAreaCount = 37, kTypeCount = 11;  // the codes from 1 on
-constexpr uint32_t kAreaMask = 0x3F, kTypeMask = 0xF00, kNumberMask = 0xFFF000;
 
 constexpr double kSameRadius = 0.005;  // metres: a default that was typed in feet is this close
 
@@ -51,7 +50,8 @@ bool HasDefaultRadius(const ParkingSpotRecord& record) {
 }
 
 void SetTypeBits(ParkingSpotRecord* record, uint32_t typeCode) {
-    record->packed = (record->packed & ~kTypeMask) | (typeCode << model::kParkingTypeShift & kTypeMask);
+    record->packed =
+        (record->packed & ~model::kParkingTypeMask) | (typeCode << model::kParkingTypeShift & model::kParkingTypeMask);
 }
 
 ParkingFields LoadOne(const SceneryObject* spot) {
@@ -109,10 +109,10 @@ void Apply(const ParkingChange& change, const ParkingFields& shown, const Parkin
     auto& record = model::PayloadAs<ParkingSpotRecord>(draft);
     if (entered.heading != shown.heading) record.heading = static_cast<float>(change.heading);
     if (entered.number != shown.number)
-        record.packed = (record.packed & ~kNumberMask) | static_cast<uint32_t>(change.number)
-                                                             << model::kParkingNumberShift;
+        record.packed = (record.packed & ~model::kParkingNumberMask) | static_cast<uint32_t>(change.number)
+                                                                           << model::kParkingNumberShift;
     if (entered.area >= 0 && entered.area != shown.area)
-        record.packed = (record.packed & ~kAreaMask) | (static_cast<uint32_t>(entered.area) + 1);
+        record.packed = (record.packed & ~model::kParkingNameMask) | (static_cast<uint32_t>(entered.area) + 1);
     if (entered.type >= 0 && entered.type != shown.type) ChangeType(shown, entered, &record);
     if (entered.radius != shown.radius) record.radius = static_cast<float>(change.radius);
     if (entered.codes != shown.codes) SetCodes(draft, change.codes);
@@ -141,10 +141,9 @@ void GiveSpotType(ParkingSpotRecord* record, uint32_t typeCode) {
 std::vector<SceneryObject*> EditedSpots(SceneryObject* spot) {
     if (!model::IsSelected(spot)) return { spot };
     std::vector<SceneryObject*> spots;
-    for (SceneryObject* other = model::FirstOfKind(model::state.head, model::kParkingSpot); other;
-         other = model::NextOfKind(other, model::kParkingSpot)) {
+    model::ForEachOfKind(model::kParkingSpot, [&](SceneryObject* other) {
         if (model::IsSelected(other)) spots.push_back(other);
-    }
+    });
     return spots;
 }
 
@@ -180,7 +179,8 @@ bool StoreParkingFields(const ParkingFields& shown, const ParkingFields& entered
     if (!ReadChange(shown, entered, &change, bad)) return false;
     for (SceneryObject* each : EditedSpots(spot)) Apply(change, shown, entered, DraftOf(&edits, each));
     Commit(&edits);
-    if (entered.type >= 0 && entered.type != shown.type) UseParkingType(TypeCode(entered.type));
+    if (entered.type >= 0 && entered.type != shown.type)
+        map::tools.lastParkingType = static_cast<int>(TypeCode(entered.type));
     return true;
 }
 

@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "app/ParkingSpecs.h"
-#include "app/Settings.h"
 #include "dialogs/Editors.h"
 #include "dialogs/EditorWin.h"
+#include "dialogs/FieldTablesWin.h"
 #include "dialogs/ParkingCodes.h"
 #include "dialogs/ParkingDialog.h"
 #include "dialogs/Subject.h"
@@ -26,21 +26,28 @@ constexpr FieldControl kControls[] = {
     { Field::Number, IDC_SPOT_NUMBER }, { Field::Radius, IDC_SPOT_RADIUS },  { Field::Codes, IDC_SPOT_CODES },
 };
 
+constexpr TextControl<ParkingFields> kTexts[] = {
+    { &ParkingFields::heading, IDC_SPOT_HEADING },
+    { &ParkingFields::number, IDC_SPOT_NUMBER },
+    { &ParkingFields::radius, IDC_SPOT_RADIUS },
+    { &ParkingFields::codes, IDC_SPOT_CODES },
+};
+constexpr ChoiceControl<ParkingFields> kChoices[] = {
+    { &ParkingFields::area, IDC_SPOT_AREA },
+    { &ParkingFields::type, IDC_SPOT_TYPE },
+};
+constexpr FieldTable<ParkingFields> kTable = { kTexts, {}, kChoices };
+
 struct Subject {
     SceneryObject* spot = nullptr;
     ParkingFields shown;
 };
 
-void ShowFields(HWND dialog, const ParkingFields& fields) {
+void Show(HWND dialog, const ParkingFields& fields) {
     ShowPosition(dialog, IDC_LATITUDE, IDC_LONGITUDE, fields.position);
     platform::EnableField(dialog, IDC_LATITUDE, !fields.several);
     platform::EnableField(dialog, IDC_LONGITUDE, !fields.several);
-    platform::SetFieldText(dialog, IDC_SPOT_HEADING, fields.heading);
-    platform::SetFieldText(dialog, IDC_SPOT_NUMBER, fields.number);
-    platform::SetFieldText(dialog, IDC_SPOT_RADIUS, fields.radius);
-    platform::SetFieldText(dialog, IDC_SPOT_CODES, fields.codes);
-    platform::SetChoice(dialog, IDC_SPOT_AREA, fields.area);
-    platform::SetChoice(dialog, IDC_SPOT_TYPE, fields.type);
+    ShowFields(dialog, kTable, fields);
 }
 
 void Load(HWND dialog, const ParkingFields& fields) {
@@ -50,21 +57,15 @@ void Load(HWND dialog, const ParkingFields& fields) {
     platform::FillChoices(dialog, IDC_SPOT_TYPE, ParkingTypeChoices());
     platform::FillChoices(dialog, IDC_SPOT_SPECS, specs);
     SendDlgItemMessageW(dialog, IDC_SPOT_SPECS, CB_SETEXTENDEDUI, TRUE, 0);
-    platform::SetFieldText(dialog, IDC_SPOT_RADIUS_LABEL,
-                           app::settings.metricParkingRadius ? "&Radius (m)" : "&Radius (ft)");
-    ShowFields(dialog, fields);
+    LabelUnit(dialog, IDC_SPOT_RADIUS_LABEL, "&Radius (", Unit::ParkingLength, ")");
+    Show(dialog, fields);
 }
 
 ParkingFields Read(HWND dialog, bool several) {
     ParkingFields fields;
     fields.several = several;
     if (!several) fields.position = PositionIn(dialog, IDC_LATITUDE, IDC_LONGITUDE);
-    fields.heading = platform::FieldText(dialog, IDC_SPOT_HEADING);
-    fields.number = platform::FieldText(dialog, IDC_SPOT_NUMBER);
-    fields.radius = platform::FieldText(dialog, IDC_SPOT_RADIUS);
-    fields.codes = platform::FieldText(dialog, IDC_SPOT_CODES);
-    fields.area = platform::ChoiceOf(dialog, IDC_SPOT_AREA);
-    fields.type = platform::ChoiceOf(dialog, IDC_SPOT_TYPE);
+    ReadFields(dialog, kTable, &fields);
     return fields;
 }
 
@@ -123,7 +124,7 @@ bool EditParking(SceneryObject* object) {
         GoToSpot(subject.spot);
         subject.shown = LoadParkingFields(subject.spot);
         typeBefore = subject.shown.type;
-        ShowFields(dialog, subject.shown);
+        Show(dialog, subject.shown);
     };
     editor.clicked = [&](HWND dialog, model::LatLon at) {
         if (!subject.shown.several) ShowPosition(dialog, IDC_LATITUDE, IDC_LONGITUDE, MoveToClick(subject.spot, at));

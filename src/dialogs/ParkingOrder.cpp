@@ -3,13 +3,14 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <iterator>
 #include <unordered_map>
 #include <utility>
 
 #include "dialogs/ParkingCodes.h"
+#include "model/Names.h"
 #include "model/Records.h"
+#include "model/SpotBits.h"
 
 namespace dialogs {
 
@@ -21,10 +22,6 @@ using model::ParkingSpotRecord;
 constexpr int kTypeRanks[] = { 4, 4, 1, 1, 1, 2, 3, 3, 0, 0, 0, 1 };
 constexpr int kUnknownRank = 4;
 
-// Name codes.
-constexpr uint32_t kParkingCode = 1, kLastParkingCode = 9, kGateCode = 10, kDockCode = 11, kGateACode = 12,
-                   kGateZCode = 37;
-
 const ParkingSpotRecord& SpotOf(const ListRow& row) { return model::PayloadAs<ParkingSpotRecord>(row.object); }
 
 int TypeRank(const ListRow& row) {
@@ -34,11 +31,12 @@ int TypeRank(const ListRow& row) {
 
 uint32_t NameRank(const ListRow& row) {
     const uint32_t code = model::ParkingNameCode(SpotOf(row));
-    constexpr uint32_t kAfterGates = kGateZCode - kGateACode + 2, kParkings = kLastParkingCode - kParkingCode + 1;
-    if (code == kGateCode) return 0;
-    if (code >= kGateACode && code <= kGateZCode) return code - kGateACode + 1;
-    if (code >= kParkingCode && code <= kLastParkingCode) return kAfterGates + code - kParkingCode;
-    return kAfterGates + kParkings + (code == kDockCode ? 0 : 1);
+    using enum model::ParkingName;
+    constexpr uint32_t kAfterGates = kGateZ - kGateA + 2, kParkings = kNorthwestParking - kParking + 1;
+    if (code == kGateName) return 0;
+    if (code >= kGateA && code <= kGateZ) return code - kGateA + 1;
+    if (code >= kParking && code <= kNorthwestParking) return kAfterGates + code - kParking;
+    return kAfterGates + kParkings + (code == kDockName ? 0 : 1);
 }
 
 std::pair<uint32_t, uint32_t> NameOf(const ListRow& row) {

@@ -7,7 +7,6 @@
 #include "dialogs/EditorWin.h"
 #include "dialogs/FieldTablesWin.h"
 #include "PlacesIds.h"
-#include "platform/DialogWin.h"
 
 namespace dialogs {
 

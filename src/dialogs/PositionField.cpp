@@ -6,6 +6,7 @@
 #include "dialogs/NumberField.h"
 #include "model/Geodesy.h"
 #include "model/Positions.h"
+#include "platform/Platform.h"
 
 namespace dialogs {
 
@@ -56,8 +57,8 @@ bool ReadPosition(const CoordinateTexts& shown, const CoordinateTexts& entered, 
 
 bool RequirePosition(const SceneryObject* draft, const char* what, BadField* bad) {
     if (!IsPlaceholder(PointOf(draft))) return true;
-    ShowError(std::string("You must enter a latitude and longitude for ") + what +
-              ".\nYou may click on the main window to set the latitude and longitude");
+    platform::ShowError(std::string("You must enter a latitude and longitude for ") + what +
+                        ".\nYou may click on the main window to set the latitude and longitude");
     *bad = { Field::Latitude };
     return false;
 }

@@ -1,11 +1,10 @@
 // RunwayDataPage.cpp - the data page of the runway editor.
-#include <cmath>
 #include <cstring>
-#include <iterator>
 
 #include "dialogs/Choices.h"
 #include "dialogs/NumberField.h"
 #include "dialogs/RunwayParts.h"
+#include "dialogs/TextField.h"
 #include "model/Ident.h"
 #include "model/RunwayBits.h"
 #include "platform/Platform.h"
@@ -125,7 +124,7 @@ void StoreChoices(const RunwayFields& shown, const RunwayFields& entered, Scener
 }
 
 bool Refuse(const char* message, Field field, BadField* bad) {
-    ShowError(message);
+    platform::ShowError(message);
     *bad = { field };
     return false;
 }
@@ -139,6 +138,14 @@ bool CheckData(const SceneryObject* draft, BadField* bad) {
         return Refuse("The Base runway designator can't be S,W,SE or NE,\nit must be N,E,NW,SW or 0 to 36",
                       Field::Designator, bad);
     return true;
+}
+
+// An emptied length or width is none, which the checks of the page refuse in their own words.
+RunwayFields NoneForBlank(RunwayFields entered) {
+    for (std::string* text : { &entered.length, &entered.width }) {
+        if (IsBlank(*text)) *text = '0';
+    }
+    return entered;
 }
 
 }  // namespace
@@ -163,7 +170,7 @@ void LoadDataPage(const SceneryObject* runway, RunwayFields* fields) {
 bool StoreDataPage(const RunwayFields& shown, const RunwayFields& entered, SceneryObject* draft, BadField* bad) {
     StoreSurface(shown, entered, draft);  // new parts of the ends take it over
     if (!ReadPosition(shown.position, entered.position, draft, bad) ||
-        !StoreNumbers<RunwayFields>(kFirstRows, shown, entered, draft, bad) ||
+        !StoreNumbers<RunwayFields>(kFirstRows, shown, NoneForBlank(entered), draft, bad) ||
         !StoreParts(shown, entered, draft, bad) || !StoreNumbers<RunwayFields>(kLastRows, shown, entered, draft, bad))
         return false;
     StoreChoices(shown, entered, draft);

@@ -20,12 +20,10 @@ namespace {
 using model::RunwayPayload;
 using model::RunwayRecord;
 
-constexpr uint16_t kAsphalt = 4;
 constexpr uint8_t kNorth = 36, kSouth = 18;
 constexpr float kUsualWidth = 46, kUsualPatternAltitude = 304.8F;  // metres; 1000 ft above the field
 constexpr uint16_t kVisualMarkings = model::kCentreLine | model::kDesignation;
 constexpr uint8_t kVisualLights = 2;  // edge lights of medium strength
-constexpr Quantity kMagneticHeading = { "magnetic heading", Unit::Degrees, 0, 360, 1 };
 
 }  // namespace
 
@@ -59,11 +57,8 @@ bool StoreRunwayFields(const RunwayFields& shown, const RunwayFields& entered, S
     if (!StoreVasiPage(shown, entered, draft, bad)) return false;
     StoreMarkingsPage(shown, entered, draft);
     if (!IsProvisional(runway)) {
-        // A preview on the map would pass for the runway's old place.
-        const ObjectPtr before(model::CopyObject(runway));
-        UndoPreviewIn(before.get(), runway);
-        if (!MoveWithRunway(before.get(), draft, &edits)) return false;
-        RenameWithRunway(before.get(), draft, &edits);
+        if (!MoveWithRunway(runway, draft, &edits)) return false;
+        RenameWithRunway(runway, draft, &edits);
     }
     Commit(&edits);
     return true;
@@ -76,8 +71,7 @@ std::string MagneticHeadingText(const std::string& heading) {
     if (!ReadNumber(heading, &trueHeading) || trueHeading < 0 || trueHeading > 360) return "";
     // The variation is west positive, and a file may hold it with a sign.
     const double turned = std::fmod(trueHeading + AirportVariation(), 360);
-    const std::string text = ShowNumber(kMagneticHeading, turned < 0 ? turned + 360 : turned);
-    return text == "360.0" ? "0.0" : text;
+    return HeadingText(turned < 0 ? turned + 360 : turned);
 }
 
 std::string NameOfEnd(const RunwayEndFields& fields, const SceneryObject* runway, int end) {
@@ -93,7 +87,7 @@ SceneryObject* InsertRunway() {
     RunwayRecord& body = model::PayloadAs<RunwayPayload>(runway).body;
     SetPoint(runway, kPlaceholder);
     body.altitude = AirportAltitude();
-    body.surface = kAsphalt;
+    body.surface = model::kAsphalt;
     body.primaryNumber = kNorth;
     body.secondaryNumber = kSouth;
     body.width = kUsualWidth;

@@ -15,18 +15,10 @@ namespace dialogs {
 
 using model::SceneryObject;
 
-inline constexpr std::array<const char*, 16> kApproachSystems = {
-    "none", "ODALS",   "MALSF",     "MALSR", "SSALF", "SSALR",  "ALSF-1", "ALSF-2",
-    "RAIL", "CALVERT", "CALVERT-2", "MALS",  "SALS",  "SSALSF", "SSALS",  "SSALSR",
-};
-inline constexpr std::array<const char*, 15> kVasiSystems = {
-    "none",   "VASI 2", "VASI 3", "VASI 4", "VASI 6", "VASI 12", "VASI 16", "PAPI 2",
-    "PAPI 4", "TRCV",   "PVASI",  "T-VASI", "BALL",   "ADAP",    "PANELS",
-};
 inline constexpr std::array<const char*, 4> kLightLevels = { "None", "Low", "Medium", "High" };
 
 struct VasiFields {
-    int system = -1;  // position in kVasiSystems
+    int system = -1;  // position in model::SlopeLightsNames()
     std::string distance, offset, spacing, slope;
 };
 
@@ -34,8 +26,8 @@ struct RunwayEndFields {
     int number = -1, suffix = -1;  // positions in RunwayNumberChoices() and kSuffixChoices
     bool noTakeoff = false, noLanding = false, rightPattern = false;
     std::string overrun, displaced;
-    std::string ilsIdent;  // read only
-    int approachSystem = -1;
+    std::string ilsIdent;     // read only
+    int approachSystem = -1;  // position in model::ApproachLightsNames()
     std::string strobes;
     bool endLights = false, reil = false, touchdownLights = false;
     bool closedMark = false, stolMark = false;

@@ -11,8 +11,10 @@
 #include "dialogs/PositionField.h"
 #include "dialogs/RunwayParts.h"
 #include "dialogs/RunwayPlaces.h"
+#include "dialogs/Subject.h"
 #include "dialogs/TextField.h"
 #include "model/Geodesy.h"
+#include "model/Geometry.h"
 #include "model/Ident.h"
 #include "model/IlsEnds.h"
 #include "model/Names.h"
@@ -45,12 +47,13 @@ bool StartsAt(const SceneryObject* start, EndDesignator end) {
            StartSuffix(record) == end.designator;
 }
 
-// Metres from where what serves the end stands: a localizer at the other one.
-double AwayFrom(const SceneryObject* object, const SceneryObject* runway, int end) {
-    const RunwayPlane plane = PlaneOf(runway);
-    const model::Point place = PlaceIn(plane, model::PositionOf(object));
-    const bool atBase = (end == kBaseEnd) != (KindOf(object) == model::kIls);
-    return std::hypot(place.x, place.y - (atBase ? -plane.halfLength : plane.halfLength));
+// Names of ends may occur twice, also on one runway: the start location is that of the nearest.
+bool IsNearestStart(const SceneryObject* start, const SceneryObject* runway, int end) {
+    if (!StartsAt(start, DesignatorOf(runway, end))) return false;
+    const model::IlsEnd nearest = model::NearestEnd(start, [start](const model::IlsEnd& at) {
+        return StartsAt(start, DesignatorOf(at.runway, static_cast<int>(at.end)));
+    });
+    return nearest.runway == runway && nearest.end == ModelEnd(end);
 }
 
 void MovePoint(const RunwayPlane& from, const RunwayPlane& to, SceneryObject* draft, size_t offset) {
@@ -66,9 +69,8 @@ void MovePoint(const RunwayPlane& from, const RunwayPlane& to, SceneryObject* dr
 }
 
 float Turned(float heading, const RunwayPlane& from, const RunwayPlane& to) {
-    const double turned = std::fmod(heading + (to.heading - from.heading) * model::kDegreesPerRadian + 720, 360);
-    const auto single = static_cast<float>(turned);
-    return single < 360 ? single : 0;
+    constexpr double kTurns = 720;  // rounds away what the way through radians has left beside a whole turn
+    return model::WrappedHeading(heading + (to.heading - from.heading) * model::kDegreesPerRadian + kTurns);
 }
 
 void MoveIls(const RunwayPlane& from, const RunwayPlane& to, SceneryObject* draft) {
@@ -124,31 +126,13 @@ void RenameIls(SceneryObject* draft, EndDesignator from, EndDesignator to) {
 
 }  // namespace
 
-bool IsNearerToNamesake(const SceneryObject* object, const SceneryObject* runway, int end) {
-    const EndDesignator designator = DesignatorOf(runway, end);
-    const double distance = AwayFrom(object, runway, end);
-    for (auto* other = model::FirstOfKind(model::state.head, model::kRunway); other;
-         other = model::NextOfKind(other, model::kRunway)) {
-        for (int otherEnd = 0; otherEnd < 2; ++otherEnd) {
-            if (DesignatorOf(other, otherEnd) == designator && AwayFrom(object, other, otherEnd) < distance)
-                return true;
-        }
-    }
-    return false;
-}
-
-bool ServesEnd(const SceneryObject* ils, const SceneryObject* runway, int end) {
-    return model::IlsServes(ils, runway, ModelEnd(end));
-}
-
 EndBelongings BelongingsOf(const SceneryObject* runway, int end) {
     EndBelongings found;
     for (SceneryObject* object = model::state.head; object; object = object->next) {
-        if (KindOf(object) == model::kIls && !model::IsReplacedStock(object) && ServesEnd(object, runway, end) &&
-            (model::IlsNamedBy(runway, ModelEnd(end)) != 0 || !IsNearerToNamesake(object, runway, end)))
+        if (KindOf(object) == model::kIls && !model::IsReplacedStock(object) &&
+            model::IlsServes(object, runway, ModelEnd(end)))
             found.ils.push_back(object);
-        if (KindOf(object) == model::kStartLocation && StartsAt(object, DesignatorOf(runway, end)) &&
-            !IsNearerToNamesake(object, runway, end))
+        if (KindOf(object) == model::kStartLocation && IsNearestStart(object, runway, end))
             found.starts.push_back(object);
     }
     return found;
@@ -181,7 +165,10 @@ void RenameWithRunway(const SceneryObject* runway, const SceneryObject* draft, E
 }
 
 bool MoveWithRunway(const SceneryObject* runway, const SceneryObject* draft, Edits* edits) {
-    if (SamePlane(runway, draft)) return true;
+    // A preview on the map would pass for the runway's old place.
+    const ObjectPtr before(model::CopyObject(runway));
+    UndoPreviewIn(before.get(), runway);
+    if (SamePlane(before.get(), draft)) return true;
     std::vector<SceneryObject*> ils, starts;
     for (int end = 0; end < 2; ++end) {
         const EndBelongings found = BelongingsOf(runway, end);
@@ -193,7 +180,7 @@ bool MoveWithRunway(const SceneryObject* runway, const SceneryObject* draft, Edi
         platform::ShowMessage(QuestionFor(ils, starts), platform::Buttons::YesNoCancel, platform::Icon::Question);
     if (answer == platform::Answer::Cancel) return false;
     if (answer == platform::Answer::No) return true;
-    const RunwayPlane from = PlaneOf(runway), to = PlaneOf(draft);
+    const RunwayPlane from = PlaneOf(before.get()), to = PlaneOf(draft);
     for (SceneryObject* each : ils) MoveIls(from, to, DraftOf(edits, each));
     for (SceneryObject* each : starts) MoveStart(from, to, DraftOf(edits, each));
     return true;

@@ -8,19 +8,12 @@
 
 namespace dialogs {
 
-// What serves or stands at an end, of the runway as it is in the list. Where several ends have its name, what is tied
-// by the name alone counts with the nearest of them.
+// What serves or stands at an end of a runway of the list. What several ends may claim counts with one of them
+// (model/IlsEnds.h), a start location with the nearest that has its name; a preview on the map changes nothing.
 struct EndBelongings {
     std::vector<SceneryObject*> ils, starts;
 };
 EndBelongings BelongingsOf(const SceneryObject* runway, int end);
-
-// Names of ends may occur twice, also on one runway: what only names its end is that of the nearer one. Whether a start
-// location, or the localizer of an ILS, stands nearer to another end of the same name.
-bool IsNearerToNamesake(const SceneryObject* object, const SceneryObject* runway, int end);
-
-// Whether an ILS, a stock one too, serves the end (model/IlsEnds.h).
-bool ServesEnd(const SceneryObject* ils, const SceneryObject* runway, int end);
 
 // Where the designators of the draft differ from the runway's: start locations and ILSs get the new ones,
 // and the end's name at the end of an ILS's name changes. Links name their runway by pointer.

@@ -5,7 +5,9 @@
 
 #include "dialogs/NumberField.h"
 #include "dialogs/RunwayParts.h"
+#include "model/Names.h"
 #include "model/RunwayBits.h"
+#include "platform/Platform.h"
 
 namespace dialogs {
 
@@ -68,7 +70,7 @@ void LoadLightsPage(const SceneryObject* runway, RunwayFields* fields) {
     for (size_t end = 0; end < 2; ++end) {
         const uint32_t word = WordAt(runway, end), system = word & kSystemMask;
         RunwayEndFields& to = fields->ends[end];
-        to.approachSystem = system < kApproachSystems.size() ? static_cast<int>(system) : -1;
+        to.approachSystem = system < model::kApproachLightsCount ? static_cast<int>(system) : -1;
         to.strobes = std::to_string(word >> model::kStrobesShift & model::kStrobesMask);
         LoadBits(kApproachBits, word, &to);
     }
@@ -82,7 +84,7 @@ bool StoreLightsPage(const RunwayFields& shown, const RunwayFields& entered, Sce
     for (size_t end = 0; end < 2; ++end) {
         uint16_t word = WordAt(draft, end);
         if (!StoreApproach(shown.ends[end], entered.ends[end], &word)) {
-            ShowError("The approach strobes must be a whole number from 0 to 31");
+            platform::ShowError("The approach strobes must be a whole number from 0 to 31");
             *bad = { Field::Strobes, static_cast<int>(end) };
             return false;
         }

@@ -3,10 +3,10 @@
 
 #include <string>
 
-#include "app/Settings.h"
 #include "dialogs/Choices.h"
 #include "dialogs/EditorWin.h"
 #include "dialogs/FieldTablesWin.h"
+#include "model/Names.h"
 #include "platform/DialogWin.h"
 #include "RunwayIds.h"
 
@@ -91,30 +91,30 @@ VasiFields& UnitOf(RunwayFields* fields, int unit) {
     return unit % 2 ? end.right : end.left;
 }
 
-// The labels of lengths, which the templates give in feet.
-struct MetricLabel {
+struct LengthLabel {
     int control;
-    const char* text;
+    const char* before;
+    const char* after = ")";
 };
-constexpr MetricLabel kDataLabels[] = {
-    { IDC_RUNWAY_LENGTH_LABEL, "Length (m)" },
-    { IDC_RUNWAY_WIDTH_LABEL, "Width (m)" },
-    { IDC_PATTERN_ALTITUDE_LABEL, "Pattern Alt (m)" },
-    { IDC_RUNWAY_ELEVATION_LABEL, "Elevation (m ASL)" },
-    { IDC_OVERRUN_LABEL, "Overrun Area (m)" },
-    { IDC_DISPLACED_LABEL, "Displaced Thres (m)" },
-    { IDC_OVERRUN_LABEL + IDC_SECOND_END, "Overrun Area (m)" },
-    { IDC_DISPLACED_LABEL + IDC_SECOND_END, "Displaced Thres (m)" },
+constexpr LengthLabel kDataLabels[] = {
+    { IDC_RUNWAY_LENGTH_LABEL, "Length (" },
+    { IDC_RUNWAY_WIDTH_LABEL, "Width (" },
+    { IDC_PATTERN_ALTITUDE_LABEL, "Pattern Alt (" },
+    { IDC_RUNWAY_ELEVATION_LABEL, "Elevation (", " ASL)" },
 };
-constexpr MetricLabel kVasiLabels[] = {
-    { IDC_VASI_DISTANCE_LABEL, "Distance (m)" },
-    { IDC_VASI_OFFSET_LABEL, "Offset (m)" },
-    { IDC_VASI_SPACING_LABEL, "Spacing (m)" },
+constexpr LengthLabel kEndLabels[] = {
+    { IDC_OVERRUN_LABEL, "Overrun Area (" },
+    { IDC_DISPLACED_LABEL, "Displaced Thres (" },
+};
+constexpr LengthLabel kVasiLabels[] = {
+    { IDC_VASI_DISTANCE_LABEL, "Distance (" },
+    { IDC_VASI_OFFSET_LABEL, "Offset (" },
+    { IDC_VASI_SPACING_LABEL, "Spacing (" },
 };
 
-void SetLabels(HWND page, std::span<const MetricLabel> labels, int shift) {
-    if (!app::settings.metric) return;
-    for (const MetricLabel& label : labels) platform::SetFieldText(page, label.control + shift, label.text);
+void SetLabels(HWND page, std::span<const LengthLabel> labels, int shift) {
+    for (const LengthLabel& label : labels)
+        LabelUnit(page, label.control + shift, label.before, Unit::Length, label.after);
 }
 
 void LoadDataPage(HWND page, const RunwayFields& fields) {
@@ -124,6 +124,7 @@ void LoadDataPage(HWND page, const RunwayFields& fields) {
     platform::SetFieldText(page, IDC_RUNWAY_VARIATION, VariationText());
     ShowFields(page, kDataTable, fields);
     for (int end = 0; end < 2; ++end) {
+        SetLabels(page, kEndLabels, EndShift(end));
         platform::FillChoices(page, IDC_END_NUMBER + EndShift(end), RunwayNumberChoices());
         platform::FillChoices(page, IDC_END_SUFFIX + EndShift(end), kSuffixChoices);
         ShowFields(page, kEndTable, EndOf(fields, end), EndShift(end));
@@ -136,7 +137,7 @@ void LoadLightsPage(HWND page, const RunwayFields& fields) {
     }
     ShowFields(page, kLightsTable, fields);
     for (int end = 0; end < 2; ++end) {
-        platform::FillChoices(page, IDC_APPROACH_SYSTEM + EndShift(end), kApproachSystems);
+        platform::FillChoices(page, IDC_APPROACH_SYSTEM + EndShift(end), model::ApproachLightsNames());
         ShowFields(page, kEndLightsTable, EndOf(fields, end), EndShift(end));
     }
 }
@@ -145,7 +146,7 @@ void LoadVasiPage(HWND page, const RunwayFields& fields) {
     RunwayFields copy = fields;
     for (int unit = 0; unit < kVasiUnits; ++unit) {
         SetLabels(page, kVasiLabels, unit * IDC_NEXT_VASI);
-        platform::FillChoices(page, IDC_VASI_SYSTEM + unit * IDC_NEXT_VASI, kVasiSystems);
+        platform::FillChoices(page, IDC_VASI_SYSTEM + unit * IDC_NEXT_VASI, model::SlopeLightsNames());
         ShowVasiUnit(page, unit, UnitOf(&copy, unit));
     }
 }

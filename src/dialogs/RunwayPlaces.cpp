@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "dialogs/RunwayParts.h"
+#include "model/Geometry.h"
 #include "model/Positions.h"
 
 namespace dialogs {
@@ -36,9 +37,7 @@ model::LatLon PositionIn(const RunwayPlane& plane, model::Point place) {
 
 float EndHeading(const RunwayEndRef& ref) {
     const double heading = Sane(model::PayloadAs<model::RunwayPayload>(ref.runway).body.heading);
-    const double turned = std::fmod(heading + (ref.end == kReciprocalEnd ? 180 : 0), 360);
-    const auto single = static_cast<float>(turned < 0 ? turned + 360 : turned);
-    return single < 360 ? single : 0;  // a hair below 360 is 360 as a float
+    return model::WrappedHeading(heading + (ref.end == kReciprocalEnd ? 180 : 0));
 }
 
 double BlastPadLength(const RunwayEndRef& ref) {

@@ -14,6 +14,9 @@ struct RunwayPlane {
     double heading = 0, halfLength = 0;  // radians, metres
 };
 RunwayPlane PlaneOf(const SceneryObject* runway);
+
+// Each undoes the other: both go along the parallel of the position, while model::PlaceOnRunway, which decides what
+// lies on a runway, takes that of the centre.
 model::Point PlaceIn(const RunwayPlane& plane, model::LatLon position);
 model::LatLon PositionIn(const RunwayPlane& plane, model::Point place);
 

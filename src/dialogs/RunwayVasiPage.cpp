@@ -7,6 +7,7 @@
 
 #include "dialogs/NumberField.h"
 #include "dialogs/RunwayParts.h"
+#include "model/Names.h"
 
 namespace dialogs {
 
@@ -39,9 +40,8 @@ VasiFields LoadUnit(const SceneryObject* runway, size_t offset) {
     const VasiPart unit = UnitAt(runway, offset);
     const double half = model::PayloadAs<RunwayPayload>(runway).body.length / 2.0;
     VasiFields fields;
-    fields.system = unit.type < kVasiSystems.size() ? static_cast<int>(unit.type) : -1;
-    const bool absent = unit.type == 0 && unit.biasZ == 0;
-    fields.distance = ShowNumber(kDistance, absent ? 0 : half - unit.biasZ);
+    fields.system = unit.type < model::SlopeLightsNames().size() ? static_cast<int>(unit.type) : -1;
+    fields.distance = ShowNumber(kDistance, unit.type == model::kNoSlopeLights ? 0 : half - unit.biasZ);
     fields.offset = ShowNumber(kOffset, unit.biasX);
     fields.spacing = ShowNumber(kSpacing, unit.spacing);
     fields.slope = ShowNumber(kSlope, unit.pitch);
@@ -68,7 +68,8 @@ bool StoreUnit(const VasiFields& shown, const VasiFields& entered, size_t offset
         !ReadField(kSlope, shown.slope, entered.slope, Field::VasiSlope, &slope, bad))
         return false;
     if (entered.system >= 0 && entered.system != shown.system) unit.type = static_cast<uint16_t>(entered.system);
-    const bool placed = before.type == 0 && unit.type != 0;  // the place of what was no unit counts for nothing
+    const bool placed = before.type == model::kNoSlopeLights &&
+                        unit.type != model::kNoSlopeLights;  // the place of what was no unit counts for nothing
     if (entered.distance != shown.distance || placed) unit.biasZ = static_cast<float>(half - distance);
     if (entered.offset != shown.offset) unit.biasX = static_cast<float>(sideways);
     if (entered.spacing != shown.spacing) unit.spacing = static_cast<float>(spacing);
@@ -107,7 +108,7 @@ void KeepVasiDistances(double oldLength, SceneryObject* draft) {
     for (size_t end = 0; end < 2; ++end) {
         for (const bool right : { false, true }) {
             VasiPart unit = UnitAt(draft, UnitOffset(end, right));
-            if (unit.type == 0) continue;
+            if (unit.type == model::kNoSlopeLights) continue;
             unit.biasZ = static_cast<float>(unit.biasZ + growth);
             std::memcpy(draft->payload + UnitOffset(end, right), &unit, sizeof unit);
         }

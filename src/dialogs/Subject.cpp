@@ -26,7 +26,7 @@ void PutPoint(SceneryObject* object, size_t offset, model::EncodedPoint point) {
 void SelectWhole(SceneryObject* object) {
     object->flags |= model::kSelected | model::kWholeSelected;
     if (model::KindOf(object) == model::kIls)
-        model::PayloadAs<model::IlsPayload>(object).selectedParts = map::kAllIlsParts;
+        model::PayloadAs<model::IlsPayload>(object).selectedParts = model::kAllIlsParts;
     if (model::KindOf(object) == model::kApronEdgeLights) map::SelectAllStripPoints(object);
 }
 

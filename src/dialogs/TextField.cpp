@@ -6,6 +6,7 @@
 
 #include "dialogs/NumberField.h"
 #include "model/Ident.h"
+#include "platform/Platform.h"
 #include "platform/Text.h"
 
 namespace dialogs {
@@ -15,7 +16,7 @@ namespace {
 bool IsLetterOrDigit(char c) { return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
 
 bool RefuseIdent(size_t least) {
-    ShowError("The identifier must be " + std::to_string(least) + " to 5 letters or digits");
+    platform::ShowError("The identifier must be " + std::to_string(least) + " to 5 letters or digits");
     return false;
 }
 
@@ -37,11 +38,11 @@ bool ToSceneryText(const std::string& entered, std::string* encoded) {
 bool EncodeText(const char* what, const std::string& entered, size_t most, std::string* encoded) {
     std::string text;
     if (!ToSceneryText(entered, &text)) {
-        ShowError(std::string("The ") + what + " contains a character that scenery files cannot hold");
+        platform::ShowError(std::string("The ") + what + " contains a character that scenery files cannot hold");
         return false;
     }
     if (text.size() > most) {
-        ShowError(std::string("The ") + what + " may have at most " + std::to_string(most) + " characters");
+        platform::ShowError(std::string("The ") + what + " may have at most " + std::to_string(most) + " characters");
         return false;
     }
     *encoded = std::move(text);

@@ -56,8 +56,7 @@ bool StoreTowerFields(const TowerFields& shown, const TowerFields& entered, Scen
 SceneryObject* InsertTower() {
     if (SceneryObject* tower = model::FirstOfKind(model::state.head, model::kTowerViewpoint)) {
         if (!map::IsTowerPlaced(tower)) return tower;
-        platform::ShowMessage("This airport already has a control tower viewpoint,\nyou can't add another.",
-                              platform::Buttons::Ok, platform::Icon::Exclamation);
+        platform::ShowRefusal("This airport already has a control tower viewpoint,\nyou can't add another.");
         return nullptr;
     }
     SceneryObject* tower = MakeProvisional(model::kTowerViewpoint, sizeof(TowerViewpointRecord));

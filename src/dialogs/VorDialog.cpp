@@ -21,7 +21,7 @@ using model::VorRecord;
 constexpr uint8_t kClassCodes[] = { 1, 2, 3, 5 };
 static_assert(std::size(kClassCodes) == kVorClasses.size());
 constexpr uint8_t kLowClass = 2;
-constexpr uint8_t kNewFlags = 0x31;    // VOR, DME and a bit that such navaids usually have
+constexpr uint8_t kNewFlags = model::kHasVor | model::kHasDme | model::kNavTrue;
 constexpr uint32_t kVorIdentKind = 2;  // low bits of a VOR's ident word
 constexpr int kVorOnly = 0, kBoth = 1, kDmeOnly = 2;
 constexpr float kUsualRange = static_cast<float>(40 * model::kMetresPerNauticalMile);

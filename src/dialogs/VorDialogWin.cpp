@@ -16,6 +16,13 @@ constexpr FieldControl kControls[] = {
     { Field::DmeRange, IDC_VOR_DME_RANGE },
 };
 
+constexpr TextControl<VorFields> kTexts[] = { { &VorFields::dmeRange, IDC_VOR_DME_RANGE } };
+constexpr ChoiceControl<VorFields> kChoices[] = {
+    { &VorFields::parts, IDC_VOR_PARTS },
+    { &VorFields::vorClass, IDC_NAV_TYPE },
+};
+constexpr FieldTable<VorFields> kTable = { kTexts, {}, kChoices };
+
 // Without a VOR there is no class, without a DME neither range nor channel.
 void EnableParts(HWND dialog) {
     const int parts = platform::ChoiceOf(dialog, IDC_VOR_PARTS);
@@ -27,11 +34,9 @@ void EnableParts(HWND dialog) {
 void Show(HWND dialog, const VorFields& fields) {
     LabelUnit(dialog, IDC_VOR_DME_RANGE_LABEL, "&DME Range (", Unit::Range, ")");
     ShowNavaid(dialog, fields);
-    platform::SetFieldText(dialog, IDC_VOR_DME_RANGE, fields.dmeRange);
     platform::FillChoices(dialog, IDC_VOR_PARTS, kVorParts);
-    platform::SetChoice(dialog, IDC_VOR_PARTS, fields.parts);
     platform::FillChoices(dialog, IDC_NAV_TYPE, kVorClasses);
-    platform::SetChoice(dialog, IDC_NAV_TYPE, fields.vorClass);
+    ShowFields(dialog, kTable, fields);
     ShowChannel(dialog, "DME channel ");
     EnableParts(dialog);
 }
@@ -39,9 +44,7 @@ void Show(HWND dialog, const VorFields& fields) {
 VorFields Read(HWND dialog) {
     VorFields fields;
     ReadNavaid(dialog, &fields);
-    fields.vorClass = platform::ChoiceOf(dialog, IDC_NAV_TYPE);
-    fields.parts = platform::ChoiceOf(dialog, IDC_VOR_PARTS);
-    fields.dmeRange = platform::FieldText(dialog, IDC_VOR_DME_RANGE);
+    ReadFields(dialog, kTable, &fields);
     return fields;
 }
 

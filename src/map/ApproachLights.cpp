@@ -12,6 +12,7 @@
 #include <cmath>
 
 #include "map/MapView.h"
+#include "model/Names.h"
 
 namespace map {
 
@@ -90,48 +91,45 @@ constexpr std::array kCalvertTwoRows = {
 
 constexpr int kAlignmentFlashes = 5, kOuterFlashes = 3, kAlsfFlashes = 15, kLeadInFlashes = 5;
 
-constexpr ApproachSystem Aligned(const char* name, std::span<const ApproachRow> rows) {
+constexpr ApproachSystem Aligned(std::span<const ApproachRow> rows) {
+    return { .rows = rows, .flashes = kAlignmentFlashes, .flashFrom = kFullLength, .flashStep = kWideStep };
+}
+constexpr ApproachSystem Flashing(std::span<const ApproachRow> rows, int flashes = kOuterFlashes) {
+    return { .rows = rows, .flashes = flashes, .flashFrom = kMediumLength, .flashStep = kWideStep };
+}
+constexpr ApproachSystem Alsf(std::span<const ApproachRow> rows) {
     return {
-        .name = name, .rows = rows, .flashes = kAlignmentFlashes, .flashFrom = kFullLength, .flashStep = kWideStep
+        .rows = rows, .flashes = kAlsfFlashes, .flashFrom = kFullLength, .flashStep = kStep, .thresholdBar = true
     };
 }
-constexpr ApproachSystem Flashing(const char* name, std::span<const ApproachRow> rows, int flashes = kOuterFlashes) {
-    return { .name = name, .rows = rows, .flashes = flashes, .flashFrom = kMediumLength, .flashStep = kWideStep };
-}
-constexpr ApproachSystem Alsf(const char* name, std::span<const ApproachRow> rows) {
-    return { .name = name,
-             .rows = rows,
-             .flashes = kAlsfFlashes,
-             .flashFrom = kFullLength,
-             .flashStep = kStep,
-             .thresholdBar = true };
-}
-constexpr ApproachSystem Steady(const char* name, std::span<const ApproachRow> rows, double length, double step) {
-    return { .name = name, .rows = rows, .flashFrom = length, .flashStep = step };
+constexpr ApproachSystem Steady(std::span<const ApproachRow> rows, double length, double step) {
+    return { .rows = rows, .flashFrom = length, .flashStep = step };
 }
 
-constexpr std::array<ApproachSystem, kApproachSystems> kSystems = { {
-    Steady("none", {}, kFullLength, kStep),
-    { .name = "ODALS",
-      .rows = {},
-      .flashes = kLeadInFlashes,
-      .flashFrom = kShortLength,
-      .flashStep = Feet(300),
-      .flashesBeside = true },
-    Flashing("MALSF", kMediumRows),
-    Aligned("MALSR", kMediumRows),
-    Flashing("SSALF", kSimplifiedRows),
-    Aligned("SSALR", kSimplifiedRows),
-    Alsf("ALSF-1", kAlsfOneRows),
-    Alsf("ALSF-2", kAlsfTwoRows),
-    Aligned("RAIL", {}),
-    Steady("CALVERT", kCalvertRows, 900, 30),
-    Steady("CALVERT-2", kCalvertTwoRows, 900, 30),
-    Steady("MALS", kMediumRows, kMediumLength, kWideStep),
-    { .name = "SALS", .rows = kShortRows, .flashFrom = kShortLength, .flashStep = kStep, .thresholdBar = true },
-    Flashing("SSALSF", kSimplifiedRows),
-    Steady("SSALS", kSimplifiedRows, kMediumLength, kWideStep),
-    Aligned("SSALSR", kSimplifiedRows),
+constexpr ApproachSystem kLeadInLights = {
+    .rows = {}, .flashes = kLeadInFlashes, .flashFrom = kShortLength, .flashStep = Feet(300), .flashesBeside = true
+};
+constexpr ApproachSystem kShortLights = {
+    .rows = kShortRows, .flashFrom = kShortLength, .flashStep = kStep, .thresholdBar = true
+};
+
+constexpr std::array<ApproachSystem, model::kApproachLightsCount> kSystems = { {
+    Steady({}, kFullLength, kStep),                     // none
+    kLeadInLights,                                      // ODALS
+    Flashing(kMediumRows),                              // MALSF
+    Aligned(kMediumRows),                               // MALSR
+    Flashing(kSimplifiedRows),                          // SSALF
+    Aligned(kSimplifiedRows),                           // SSALR
+    Alsf(kAlsfOneRows),                                 // ALSF-1
+    Alsf(kAlsfTwoRows),                                 // ALSF-2
+    Aligned({}),                                        // RAIL
+    Steady(kCalvertRows, 900, 30),                      // CALVERT
+    Steady(kCalvertTwoRows, 900, 30),                   // CALVERT-2
+    Steady(kMediumRows, kMediumLength, kWideStep),      // MALS
+    kShortLights,                                       // SALS
+    Flashing(kSimplifiedRows),                          // SSALSF
+    Steady(kSimplifiedRows, kMediumLength, kWideStep),  // SSALS
+    Aligned(kSimplifiedRows),                           // SSALSR
 } };
 
 void PaintRow(const Lamps& lamps, const GroundFrame& frame, const ApproachRow& row) {
@@ -158,7 +156,7 @@ void PaintPair(const Lamps& lamps, const GroundFrame& frame, double beside) {
 
 }  // namespace
 
-const ApproachSystem& ApproachSystemOf(uint32_t code) { return kSystems[code < kApproachSystems ? code : 0]; }
+const ApproachSystem& ApproachSystemOf(uint32_t code) { return kSystems[code < kSystems.size() ? code : 0]; }
 
 void PaintApproachLights(Canvas* canvas, const RunwayShape& runway, const RunwayEnd& end) {
     const ApproachSystem& system = ApproachSystemOf(end.approachLights & model::kApproachSystemMask);

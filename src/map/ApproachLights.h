@@ -19,7 +19,6 @@ struct ApproachRow {
 };
 
 struct ApproachSystem {
-    const char* name;
     std::span<const ApproachRow> rows;
     int flashes = 0;                      // flashing lamps on the centre line that belong to the system
     double flashFrom = 0, flashStep = 0;  // the outermost one's station, and the step inward
@@ -27,8 +26,7 @@ struct ApproachSystem {
     bool thresholdBar = false;            // green, from 45 feet beside the runway to 45 feet beside it
 };
 
-constexpr uint32_t kApproachSystems = 16;
-const ApproachSystem& ApproachSystemOf(uint32_t code);  // of 16 or more: none
+const ApproachSystem& ApproachSystemOf(uint32_t code);  // one of model::ApproachLights; others: none
 
 // The record's own number of flashing lamps goes before the system's.
 void PaintApproachLights(Canvas* canvas, const RunwayShape& runway, const RunwayEnd& end);

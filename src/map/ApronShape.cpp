@@ -12,7 +12,7 @@ using model::ApronHead;
 using model::PayloadAs;
 using model::SceneryObject;
 
-std::vector<model::LatLon> ApronOutline(const SceneryObject* apron) {
+std::vector<model::LatLon> ApronCorners(const SceneryObject* apron) {
     if (apron->payloadSize < sizeof(ApronHead)) return {};
     const size_t room = (apron->payloadSize - sizeof(ApronHead)) / sizeof(model::EncodedPoint);
     const size_t count = std::min<size_t>(PayloadAs<ApronHead>(apron).outlineCount, room);

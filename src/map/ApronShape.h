@@ -12,7 +12,9 @@ namespace map {
 constexpr uint32_t kSelectableVertices = 160;  // what the selection bits can name
 constexpr size_t kFewestCorners = 3;           // of an area; an apron that lost corners may have fewer
 
-std::vector<model::LatLon> ApronOutline(const model::SceneryObject* apron);  // bounded by the payload
+// Of the outline: as many as the payload has room for, whatever its head counts. Every repaint and every click runs
+// over all aprons, and shall not rest on the checks of whoever made them; edits may (model::ApronOutline).
+std::vector<model::LatLon> ApronCorners(const model::SceneryObject* apron);
 
 bool IsVertexSelected(const model::SceneryObject* apron, uint32_t vertex);
 void SelectVertex(model::SceneryObject* apron, uint32_t vertex, bool selected);  // beyond the bits: nothing

@@ -2,7 +2,6 @@
 #include "map/ApronTool.h"
 
 #include <algorithm>
-#include <limits>
 #include <vector>
 
 #include "map/ApronShape.h"

@@ -7,10 +7,11 @@
 #include <cstdint>
 
 #include "model/Geometry.h"
+#include "model/Names.h"
 
 namespace map {
 
-constexpr uint8_t kNewApronSurface = 0;  // concrete
+constexpr uint8_t kNewApronSurface = model::kConcrete;
 
 void AddOutlinePoint(model::Pixel at);
 bool CanCloseOutline();  // an area needs three corners

@@ -5,10 +5,10 @@
 #include "map/Grid.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
 #include <vector>
 
 #include "app/Settings.h"

@@ -25,13 +25,12 @@ bool IsHoldShort(const SceneryObject* object) {
 
 // Of the nodes in the map, which get their links.
 void CollectLinks(NodeLinks* nodes) {
-    for (SceneryObject* o = model::FirstOfKind(model::state.head, model::kTaxiLink); o;
-         o = model::NextOfKind(o, model::kTaxiLink)) {
+    model::ForEachOfKind(model::kTaxiLink, [&](SceneryObject* o) {
         const auto& link = PayloadAs<model::TaxiLinkPayload>(o);
         for (const SceneryObject* end : { link.start, link.end }) {
             if (const auto found = nodes->find(end); found != nodes->end()) found->second.push_back(o);
         }
-    }
+    });
 }
 
 void SetFlag(SceneryObject* node, bool reversed) {
@@ -53,10 +52,9 @@ void UpdateHoldShort(SceneryObject* node) {
 
 HoldShortSides NoteHoldShorts() {
     NodeLinks nodes;
-    for (SceneryObject* o = model::FirstOfKind(model::state.head, model::kTaxiNode); o;
-         o = model::NextOfKind(o, model::kTaxiNode)) {
+    model::ForEachOfKind(model::kTaxiNode, [&](SceneryObject* o) {
         if (IsHoldShort(o)) nodes[o] = {};
-    }
+    });
     if (nodes.empty()) return {};
     CollectLinks(&nodes);
     const std::vector<model::RunwayArea> runways = model::RunwayAreas();
@@ -70,11 +68,10 @@ HoldShortSides NoteHoldShorts() {
 
 void FollowHoldShorts(const HoldShortSides& before) {
     const HoldShortSides now = NoteHoldShorts();
-    for (SceneryObject* o = model::FirstOfKind(model::state.head, model::kTaxiNode); o;
-         o = model::NextOfKind(o, model::kTaxiNode)) {
+    model::ForEachOfKind(model::kTaxiNode, [&](SceneryObject* o) {
         const auto is = now.find(o), was = before.find(o);
         if (is != now.end() && was != before.end() && is->second != was->second) SetFlag(o, is->second);
-    }
+    });
 }
 
 int EraseSelected() {

@@ -27,10 +27,7 @@ namespace {
 
 std::vector<SceneryObject*> AllLinks() {
     std::vector<SceneryObject*> links;
-    for (SceneryObject* o = model::FirstOfKind(model::state.head, model::kTaxiLink); o;
-         o = model::NextOfKind(o, model::kTaxiLink)) {
-        links.push_back(o);
-    }
+    model::ForEachOfKind(model::kTaxiLink, [&](SceneryObject* o) { links.push_back(o); });
     return links;
 }
 

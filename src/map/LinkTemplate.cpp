@@ -1,6 +1,7 @@
 // LinkTemplate.cpp - see LinkTemplate.h.
 #include "map/LinkTemplate.h"
 
+#include "model/Names.h"
 #include "model/SceneryObject.h"
 
 namespace map {
@@ -9,16 +10,14 @@ using model::TaxiLinkPayload;
 
 namespace {
 
-constexpr uint32_t kIndexByte = 0xFF00;
-constexpr uint32_t kLinesAndLights = 0xFF0000, kCentreLine = 0x10000;
-constexpr uint32_t kAsphalt = 4;
 constexpr float kWidth = 22.86F;  // metres: 75 ft, what airliners need
 
 bool IsOnApron(uint32_t type) { return type == model::kApronRouteLink || type == model::kParkingLink; }
 
 TaxiLinkPayload FirstPattern(uint32_t type) {
     TaxiLinkPayload link{};
-    link.flagsWord = type | model::kLinkDrawFlags | kCentreLine | kAsphalt << 24;
+    link.flagsWord =
+        type | model::kLinkDrawFlags | model::kLinkCentreLine | uint32_t{ model::kAsphalt } << model::kLinkSurfaceShift;
     link.width = kWidth;
     return link;
 }
@@ -38,7 +37,7 @@ void UseLinkTemplate(const TaxiLinkPayload& link) {
     TaxiLinkPayload& pattern = IsOnApron(type) ? patterns.apron : patterns.taxiway;
     pattern = link;
     pattern.startIndex = pattern.endField = 0;
-    pattern.flagsWord &= ~kIndexByte;
+    pattern.flagsWord &= ~model::kLinkIndexMask;
     pattern.start = pattern.end = pattern.designator = nullptr;  // the pattern outlives the airport
 }
 
@@ -47,7 +46,7 @@ void ForgetLinkTemplates() { patterns = {}; }
 TaxiLinkPayload LinkFromTemplate(uint32_t type) {
     TaxiLinkPayload link = IsOnApron(type) ? patterns.apron : patterns.taxiway;
     SetLinkType(&link, type);
-    if (type == model::kRunwayLink) link.flagsWord &= ~kLinesAndLights;
+    if (type == model::kRunwayLink) link.flagsWord &= ~model::kLinkLinesAndLights;
     return link;
 }
 

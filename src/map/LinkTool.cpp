@@ -2,7 +2,6 @@
 #include "map/LinkTool.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "map/HoldShortUpdate.h"

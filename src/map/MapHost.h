@@ -16,7 +16,7 @@ void PlaceSimAircraft(model::LatLon position, double heading);
 
 // Between the two, OnDragTimer is called every kDragTimerPeriod milliseconds. Starting a running timer and stopping
 // a stopped one do nothing.
-constexpr int kDragTimer = 2, kDragTimerPeriod = 150;
+constexpr int kDragTimerPeriod = 150;
 void StartDragTimer();
 void StopDragTimer();
 

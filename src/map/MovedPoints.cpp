@@ -76,12 +76,12 @@ Points StripPoints(const SceneryObject* lights, bool whole) {
 
 Points IlsPoints(const SceneryObject* ils, bool whole) {
     const auto& payload = PayloadAs<model::IlsPayload>(ils);
-    const int parts = whole ? kAllIlsParts : payload.selectedParts;
+    const int parts = whole ? model::kAllIlsParts : payload.selectedParts;
     Points points;
-    if (parts & kLocalizerPart) points.push_back(offsetof(model::VorRecord, longitude));
-    if ((parts & kGlideSlopePart) && (payload.body.flags & model::kHasGlideSlope))
+    if (parts & model::kLocalizerPart) points.push_back(offsetof(model::VorRecord, longitude));
+    if ((parts & model::kGlideSlopePart) && (payload.body.flags & model::kHasGlideSlope))
         points.push_back(offsetof(model::IlsPayload, glideSlope) + offsetof(model::GlideSlopePart, longitude));
-    if ((parts & kDmePart) && (payload.body.flags & model::kHasDme))
+    if ((parts & model::kDmePart) && (payload.body.flags & model::kHasDme))
         points.push_back(offsetof(model::IlsPayload, dme) + offsetof(model::DmePart, longitude));
     return points;
 }

@@ -2,7 +2,6 @@
 #include "map/NewObjects.h"
 
 #include <algorithm>
-#include <cmath>
 #include <iterator>
 #include <set>
 #include <string>
@@ -15,12 +14,15 @@
 #include "map/MapView.h"
 #include "map/Tools.h"
 #include "model/EditHistory.h"
+#include "model/Geometry.h"
 #include "model/Limits.h"
 #include "model/Links.h"
+#include "model/Names.h"
 #include "model/ObjectList.h"
 #include "model/Positions.h"
 #include "model/Records.h"
 #include "model/RunwayArea.h"
+#include "model/SpotBits.h"
 
 namespace map {
 
@@ -45,8 +47,7 @@ constexpr KindLimit kLimits[] = {
 };
 
 constexpr double kRadius[] = { 20, 20, 10, 14, 18, 50, 44, 26, 31, 38, 54, 20 };  // metres, by type code
-constexpr uint32_t kUnknownType = 1, kFirstGate = 8, kLastGate = 10;
-constexpr uint32_t kParkingName = 1, kGateName = 10, kPushBothWays = 0xC0;
+constexpr uint32_t kPushBothWays = 3u << model::kParkingPushbackShift;
 constexpr uint32_t kMostNumber = 4095;
 
 SceneryObject* Make(uint32_t kind, size_t payloadSize, uint32_t marks) {
@@ -59,12 +60,11 @@ SceneryObject* Make(uint32_t kind, size_t payloadSize, uint32_t marks) {
 uint32_t NumberFor(uint32_t name) {
     std::set<uint32_t> taken;
     uint32_t count = 0;
-    for (SceneryObject* o = model::FirstOfKind(model::state.head, model::kParkingSpot); o;
-         o = model::NextOfKind(o, model::kParkingSpot)) {
+    model::ForEachOfKind(model::kParkingSpot, [&](SceneryObject* o) {
         const auto& spot = PayloadAs<model::ParkingSpotRecord>(o);
         if (model::ParkingNameCode(spot) == name) taken.insert(model::ParkingNumber(spot));
         ++count;
-    }
+    });
     const uint32_t first = count + 1;
     for (uint32_t number = first; number <= kMostNumber; ++number) {
         if (!taken.contains(number)) return number;
@@ -76,8 +76,8 @@ uint32_t NumberFor(uint32_t name) {
 }
 
 uint32_t PackedWord(uint32_t type, uint32_t codes) {
-    const bool gate = type >= kFirstGate && type <= kLastGate;
-    const uint32_t name = gate ? kGateName : kParkingName;
+    const bool gate = type >= model::kGateSmall && type <= model::kGateHeavy;
+    const uint32_t name = gate ? model::kGateName : model::kParking;
     return name | (gate ? kPushBothWays : 0) | type << model::kParkingTypeShift |
            NumberFor(name) << model::kParkingNumberShift | codes << model::kParkingCountShift;
 }
@@ -168,14 +168,11 @@ SceneryObject* AddSpot(model::LatLon position, double heading) {
     return spot;
 }
 
-float HeadingInDegrees(double radians) {
-    double degrees = std::fmod(radians * model::kDegreesPerRadian, 360);
-    if (degrees < 0) degrees += 360;
-    const auto heading = static_cast<float>(degrees);
-    return heading < 360 ? heading : 0;  // a hair below a full turn is rounded to one
-}
+float HeadingInDegrees(double radians) { return model::WrappedHeading(radians * model::kDegreesPerRadian); }
 
-double DefaultSpotRadius(uint32_t typeCode) { return kRadius[typeCode < std::size(kRadius) ? typeCode : kUnknownType]; }
+double DefaultSpotRadius(uint32_t typeCode) {
+    return kRadius[typeCode < std::size(kRadius) ? typeCode : uint32_t{ model::kRampGa }];
+}
 
 SceneryObject* AddLinkBetween(SceneryObject* start, SceneryObject* end, uint32_t type) {
     if (KindOf(start) == model::kParkingSpot) std::swap(start, end);

@@ -9,6 +9,7 @@
 #include "map/LightStrips.h"
 #include "map/MapView.h"
 #include "map/Painter.h"
+#include "model/ObjectList.h"
 #include "model/Records.h"
 
 namespace map {
@@ -34,7 +35,7 @@ std::vector<Point> OnScreen(const std::vector<model::LatLon>& positions) {
 
 void PaintApron(Painter* painter, SceneryObject* apron) {
     if (apron->flags & model::kOutlineOpen) return;
-    const std::vector<Point> points = OnScreen(ApronOutline(apron));
+    const std::vector<Point> points = OnScreen(ApronCorners(apron));
     const bool hasArea = points.size() >= kFewestCorners;
     if (model::IsSelected(apron) || !hasArea) painter->apronOnTop = true;
     if (points.empty() || !Meets(BoundsOf(points), painter->clip)) return;
@@ -49,7 +50,7 @@ void PaintApron(Painter* painter, SceneryObject* apron) {
 void PaintApronOnTop(const Painter& painter, const SceneryObject* apron) {
     if (!IsDrawn(apron)) return;
     if (!model::IsSelected(apron) && PartsOf(apron).apron.size() >= kFewestCorners) return;
-    std::vector<Point> points = OnScreen(ApronOutline(apron));
+    std::vector<Point> points = OnScreen(ApronCorners(apron));
     points.push_back(points.front());
     const Colour outline = OutlineInk(apron, Ink::ApronOutline);
     Stroke(painter, 2, outline);
@@ -101,15 +102,15 @@ void PaintStripLamps(const Painter& painter, Point from, Point to, double spacin
 }
 
 void PaintAprons(Painter* painter) {
-    ForEachOfKind(model::kApron, [&](SceneryObject* apron) { PaintApron(painter, apron); });
+    model::ForEachOfKind(model::kApron, [&](SceneryObject* apron) { PaintApron(painter, apron); });
 }
 
 void PaintApronsOnTop(Painter* painter) {
-    ForEachOfKind(model::kApron, [&](SceneryObject* apron) { PaintApronOnTop(*painter, apron); });
+    model::ForEachOfKind(model::kApron, [&](SceneryObject* apron) { PaintApronOnTop(*painter, apron); });
 }
 
 void PaintApronEdgeLights(Painter* painter) {
-    ForEachOfKind(model::kApronEdgeLights, [&](SceneryObject* lights) {
+    model::ForEachOfKind(model::kApronEdgeLights, [&](SceneryObject* lights) {
         std::vector<Pixel>& places = PlaceParts(lights).stripEnds;
         for (uint32_t i = 0; i < StripCount(lights); ++i) {
             PaintStrip(*painter, StripAt(lights, i), model::IsSelected(lights), &places);

@@ -1,10 +1,10 @@
 // PaintHelipad.cpp - helipads: the pad in its surface colour and the mark of its type, to scale.
 #include <algorithm>
-#include <cmath>
 
 #include "map/MapView.h"
 #include "map/Painter.h"
 #include "map/RunwayShape.h"
+#include "model/ObjectList.h"
 #include "model/Positions.h"
 
 namespace map {
@@ -115,7 +115,7 @@ void PaintHelipad(const Painter& painter, SceneryObject* object) {
 }  // namespace
 
 void PaintHelipads(Painter* painter) {
-    ForEachOfKind(model::kHelipad, [&](SceneryObject* pad) { PaintHelipad(*painter, pad); });
+    model::ForEachOfKind(model::kHelipad, [&](SceneryObject* pad) { PaintHelipad(*painter, pad); });
 }
 
 }  // namespace map

@@ -15,6 +15,7 @@
 #include "map/Painter.h"
 #include "model/Names.h"
 #include "model/Records.h"
+#include "model/SpotBits.h"
 #include "platform/Text.h"
 
 namespace map {

@@ -12,6 +12,7 @@
 #include "map/RunwayShape.h"
 #include "map/Selection.h"
 #include "model/Ident.h"
+#include "model/ObjectList.h"
 #include "model/Positions.h"
 
 namespace map {
@@ -63,7 +64,7 @@ void PaintIdent(const Painter& painter, uint32_t packed, Point at, double radius
 double DistanceToThreshold(const model::IlsPayload& ils, Point antenna, Point course) {
     const uint32_t ident = ils.body.ident >> model::kIdentShift;
     double distance = 0;
-    ForEachOfKind(model::kRunway, [&](SceneryObject* runway) {
+    model::ForEachOfKind(model::kRunway, [&](SceneryObject* runway) {
         const model::RunwayRecord& body = model::PayloadAs<model::RunwayPayload>(runway).body;
         const std::array idents = { uint32_t{ body.primaryIls }, uint32_t{ body.secondaryIls } };
         const RunwayShape shape = ShapeOfRunway(runway);
@@ -161,9 +162,9 @@ void PaintIls(const Painter& painter, SceneryObject* object) {
     const bool whole = (object->flags & model::kWholeSelected) != 0;
     const auto lit = [&](int part) { return model::IsSelected(object) && (whole || (ils.selectedParts & part) != 0); };
     ScreenParts& parts = PlaceParts(object);
-    PaintLocalizer(painter, ils, lit(kLocalizerPart), &parts);
-    if (ils.body.flags & model::kHasGlideSlope) PaintGlideSlope(painter, ils, lit(kGlideSlopePart), &parts);
-    if (ils.body.flags & model::kHasDme) PaintDme(painter, ils.dme, lit(kDmePart), &parts.dme);
+    PaintLocalizer(painter, ils, lit(model::kLocalizerPart), &parts);
+    if (ils.body.flags & model::kHasGlideSlope) PaintGlideSlope(painter, ils, lit(model::kGlideSlopePart), &parts);
+    if (ils.body.flags & model::kHasDme) PaintDme(painter, ils.dme, lit(model::kDmePart), &parts.dme);
 }
 
 // A lens across the course.

@@ -78,7 +78,7 @@ void PaintReferencePoint(Painter* painter) {
 }
 
 void PaintTower(Painter* painter) {
-    ForEachOfKind(model::kTowerViewpoint, [&](SceneryObject* tower) {
+    model::ForEachOfKind(model::kTowerViewpoint, [&](SceneryObject* tower) {
         Point at;
         const int radius = SymbolRadius(kTowerRadius, kLeastTower);
         if (!IsTowerPlaced(tower) || !PlaceSymbol(*painter, tower, radius, &at)) return;
@@ -88,11 +88,11 @@ void PaintTower(Painter* painter) {
 }
 
 void PaintStartLocations(Painter* painter) {
-    ForEachOfKind(model::kStartLocation, [&](SceneryObject* start) { PaintStart(*painter, start); });
+    model::ForEachOfKind(model::kStartLocation, [&](SceneryObject* start) { PaintStart(*painter, start); });
 }
 
 void PaintReferenceMarkers(Painter* painter) {
-    ForEachOfKind(model::kReferenceMarker, [&](SceneryObject* marker) {
+    model::ForEachOfKind(model::kReferenceMarker, [&](SceneryObject* marker) {
         Point at;
         const double radius = FromScreen(kMarkerRadius);
         if (!PlaceSymbol(*painter, marker, ToWhole(radius), &at)) return;
@@ -104,7 +104,7 @@ void PaintReferenceMarkers(Painter* painter) {
 }
 
 void PaintGuidelines(Painter* painter) {
-    ForEachOfKind(model::kGuideline, [&](SceneryObject* guideline) {
+    model::ForEachOfKind(model::kGuideline, [&](SceneryObject* guideline) {
         const auto& record = model::PayloadAs<model::GuidelinePayload>(guideline);
         const std::array ends = { WorldToScreen(model::PositionOf(record.from)),
                                   WorldToScreen(model::PositionOf(record.to)) };

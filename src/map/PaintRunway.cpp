@@ -1,12 +1,12 @@
 // PaintRunway.cpp - runway surfaces with their shoulders, displaced thresholds, overruns and blast pads.
 #include <algorithm>
-#include <cmath>
 
 #include "map/ApproachLights.h"
 #include "map/MapView.h"
 #include "map/Painter.h"
 #include "map/RunwayShape.h"
 #include "map/SlopeLights.h"
+#include "model/ObjectList.h"
 #include "model/Positions.h"
 
 namespace map {
@@ -158,15 +158,16 @@ RunwayShape ShapeOfRunway(const SceneryObject* object) {
 double PavedReach(const RunwayEnd& end) { return std::max(end.blastPad, end.overrun); }
 
 void PaintRunwayShoulders(Painter* painter) {
-    ForEachOfKind(model::kRunway, [&](SceneryObject* runway) { PaintShoulders(*painter, ShapeOfRunway(runway)); });
+    model::ForEachOfKind(model::kRunway,
+                         [&](SceneryObject* runway) { PaintShoulders(*painter, ShapeOfRunway(runway)); });
 }
 
 void PaintRunwaySurfaces(Painter* painter) {
-    ForEachOfKind(model::kRunway, [&](SceneryObject* runway) { PaintSurface(*painter, runway); });
+    model::ForEachOfKind(model::kRunway, [&](SceneryObject* runway) { PaintSurface(*painter, runway); });
 }
 
 void PaintRunwayMarkings(Painter* painter) {
-    ForEachOfKind(model::kRunway, [&](SceneryObject* object) {
+    model::ForEachOfKind(model::kRunway, [&](SceneryObject* object) {
         if (!IsDrawn(object)) {
             PaintNamesOf(painter->canvas, ShapeOfRunway(object));
             return;
@@ -179,7 +180,7 @@ void PaintRunwayMarkings(Painter* painter) {
 }
 
 void PaintRunwayLights(Painter* painter) {
-    ForEachOfKind(model::kRunway, [&](SceneryObject* object) {
+    model::ForEachOfKind(model::kRunway, [&](SceneryObject* object) {
         const RunwayShape runway = ShapeOfRunway(object);
         if (IsDrawn(object)) PaintLightsOf(painter->canvas, runway);
         if (runway.length <= 0 || runway.width <= 0) return;

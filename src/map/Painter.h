@@ -23,9 +23,6 @@ void Stroke(const Painter& painter, int width, Colour colour);   // no brush
 Colour FillInk(const SceneryObject* object, Ink normal);     // the selected colour for a selected object
 Colour OutlineInk(const SceneryObject* object, Ink normal);  // likewise for outlines
 
-template <class Paint>
-void ForEachOfKind(uint32_t kind, Paint paint);
-
 // Layers.
 void PaintToolPreview(Painter* painter);  // of the two tools that show on the ground what they will make
 void PaintAprons(Painter* painter);
@@ -54,10 +51,3 @@ void PaintFaultMarker(Painter* painter);
 void PaintStripLamps(const Painter& painter, Point from, Point to, double spacing);  // metres between them
 
 }  // namespace map
-
-#include "model/ObjectList.h"
-
-template <class Paint>
-void map::ForEachOfKind(uint32_t kind, Paint paint) {
-    for (SceneryObject* o = model::FirstOfKind(model::state.head, kind); o; o = model::NextOfKind(o, kind)) paint(o);
-}

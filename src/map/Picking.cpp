@@ -54,9 +54,9 @@ int HitSegment(const SceneryObject* object, Pixel at) {
 
 int HitIls(const SceneryObject* object, Pixel at) {
     const ScreenParts& parts = PartsOf(object);
-    if (InPolygon(at, parts.localizer) || InPolygon(at, parts.beam)) return kLocalizerPart;
-    if (InPolygon(at, parts.glideSlope)) return kGlideSlopePart;
-    return InPolygon(at, parts.dme) ? kDmePart : kMiss;
+    if (InPolygon(at, parts.localizer) || InPolygon(at, parts.beam)) return model::kLocalizerPart;
+    if (InPolygon(at, parts.glideSlope)) return model::kGlideSlopePart;
+    return InPolygon(at, parts.dme) ? model::kDmePart : kMiss;
 }
 
 int HitNavaid(const SceneryObject* object, Pixel at) {

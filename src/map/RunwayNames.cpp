@@ -2,7 +2,6 @@
 //
 // Once the painted designation is too small to read, or where none is painted, the name stands before the end, upright
 // for those who approach it.
-#include <algorithm>
 #include <cmath>
 
 #include "map/MapView.h"

@@ -41,16 +41,16 @@ void ClearParts(SceneryObject* object) {
 
 uint8_t ExistingPartsOf(const SceneryObject* ils) {
     const uint8_t flags = PayloadAs<IlsPayload>(ils).body.flags;
-    int parts = kLocalizerPart;
-    if (flags & model::kHasGlideSlope) parts |= kGlideSlopePart;
-    if (flags & model::kHasDme) parts |= kDmePart;
+    int parts = model::kLocalizerPart;
+    if (flags & model::kHasGlideSlope) parts |= model::kGlideSlopePart;
+    if (flags & model::kHasDme) parts |= model::kDmePart;
     return static_cast<uint8_t>(parts);
 }
 
 // A wholly selected ILS counts as having all its parts.
 uint8_t SelectedPartsOf(const SceneryObject* ils) {
     if (!model::IsSelected(ils)) return 0;
-    return ils->flags & kWholeSelected ? kAllIlsParts : PayloadAs<IlsPayload>(ils).selectedParts;
+    return ils->flags & kWholeSelected ? model::kAllIlsParts : PayloadAs<IlsPayload>(ils).selectedParts;
 }
 
 // Of all parts that were selected at once those that it does not have are dropped: no click could take them out.
@@ -175,7 +175,7 @@ void SelectAll() {
     for (SceneryObject* o = model::state.head; o; o = o->next) {
         if (IsLeftOut(o)) continue;
         SetFlag(o, kSelected | kWholeSelected, true);
-        if (KindOf(o) == model::kIls) PayloadAs<IlsPayload>(o).selectedParts = kAllIlsParts;
+        if (KindOf(o) == model::kIls) PayloadAs<IlsPayload>(o).selectedParts = model::kAllIlsParts;
         if (KindOf(o) == model::kApronEdgeLights) SelectAllStripPoints(o);
     }
     platform::RequestRepaint();

@@ -11,9 +11,6 @@
 
 namespace map {
 
-constexpr int kLocalizerPart = 1, kGlideSlopePart = 2, kDmePart = 4;  // bits of an ILS's selected parts
-constexpr uint8_t kAllIlsParts = kLocalizerPart | kGlideSlopePart | kDmePart;
-
 struct Pick {
     model::SceneryObject* object = nullptr;
     int part = 0;  // apron vertex + 1, ILS part bit, light-strip part (LightStrips.h); 0 the whole object

@@ -126,12 +126,14 @@ std::array<IlsPlace, 3> PlacesOfIls(const SceneryObject* object) {
     const auto& ils = PayloadAs<model::IlsPayload>(object);
     const ScreenParts& parts = PartsOf(object);
     const uint8_t flags = ils.body.flags;
-    return { { { kLocalizerPart, &parts.localizer, true, { ils.body.latitude, ils.body.longitude } },
-               { kGlideSlopePart,
-                 &parts.glideSlope,
-                 (flags & model::kHasGlideSlope) != 0,
-                 { ils.glideSlope.latitude, ils.glideSlope.longitude } },
-               { kDmePart, &parts.dme, (flags & model::kHasDme) != 0, { ils.dme.latitude, ils.dme.longitude } } } };
+    return {
+        { { model::kLocalizerPart, &parts.localizer, true, { ils.body.latitude, ils.body.longitude } },
+          { model::kGlideSlopePart,
+            &parts.glideSlope,
+            (flags & model::kHasGlideSlope) != 0,
+            { ils.glideSlope.latitude, ils.glideSlope.longitude } },
+          { model::kDmePart, &parts.dme, (flags & model::kHasDme) != 0, { ils.dme.latitude, ils.dme.longitude } } }
+    };
 }
 
 void SelectIls(SceneryObject* ils, const BoxCorners& box) {
@@ -152,7 +154,7 @@ void SelectIls(SceneryObject* ils, const BoxCorners& box) {
 std::vector<Pixel> VerticesOf(const SceneryObject* apron) {
     if (IsDrawn(apron)) return PartsOf(apron).apron;
     std::vector<Pixel> pixels;
-    for (const LatLon vertex : ApronOutline(apron)) pixels.push_back(WorldToPixel(vertex));
+    for (const LatLon vertex : ApronCorners(apron)) pixels.push_back(WorldToPixel(vertex));
     return pixels;
 }
 

@@ -6,12 +6,15 @@
 // half of a PAPI red. A T-VASIS has ten lights on each side, its leg in steps of 90 m (ICAO Annex 14).
 #include "map/SlopeLights.h"
 
-#include <array>
 #include <cmath>
+
+#include "model/Names.h"
 
 namespace map {
 
 namespace {
+
+using enum model::SlopeLights;
 
 constexpr double kUnitRadius = 0.8, kUnitGap = Feet(16);                 // metres
 constexpr double kUsualBarSpacing = Feet(700), kUsualUnitSpacing = 9.0;  // where the record has none
@@ -19,19 +22,6 @@ constexpr double kMostMetres = 30'000;
 constexpr double kPanelWidth = 3, kPanelDepth = 0.8, kPanelStep = 12;
 constexpr double kLegStep = 90, kLegFirst = 45;
 constexpr int kMostBars = 3;
-
-enum SlopeSystem : uint16_t {
-    kVasi2 = 1,
-    kVasi16 = 6,
-    kPapi2 = 7,
-    kPapi4 = 8,
-    kTricolour = 9,
-    kPulsating = 10,
-    kTVasi = 11,
-    kBall = 12,
-    kAlignedPanels = 13,
-    kPanels = 14,
-};
 
 // Units of the VASI systems on one side: far, middle and near bar.
 constexpr int kVasiUnits[][kMostBars] = {
@@ -112,7 +102,7 @@ void PaintSlopeLights(Canvas* canvas, const RunwayShape& runway, const RunwayEnd
     for (size_t side = 0; side < end.slope.size(); ++side) {
         const model::VasiPart part = end.slope[side];
         const uint16_t type = part.type;
-        if (type == 0 || !IsPlace(part.biasX, part.biasZ)) continue;
+        if (type == kNoSlopeLights || !IsPlace(part.biasX, part.biasZ)) continue;
         const double outward = side == 0 ? -1 : 1;
         GroundFrame frame = end.frame;
         frame.origin = At(end.frame, outward * double{ part.biasX }, runway.length / 2 - double{ part.biasZ });

@@ -5,6 +5,7 @@
 
 #include "map/MapView.h"
 #include "model/Records.h"
+#include "model/SpotBits.h"
 #include "platform/Text.h"
 
 namespace map {

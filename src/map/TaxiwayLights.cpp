@@ -2,11 +2,9 @@
 //
 // Spacings follow FAA AC 150/5340-30: on the centre line 50 feet, beside straight edges at most 200 feet and at
 // bends 50 feet, five feet from the pavement.
-#include <cmath>
-
 #include "map/Lamps.h"
 #include "map/Painter.h"
-#include "map/RunwayAreas.h"
+#include "map/RunwayOutlines.h"
 #include "map/TaxiwayLines.h"
 
 namespace map {
@@ -18,7 +16,7 @@ constexpr double kEdgeDistance = Feet(5);
 constexpr double kLampRadius = 0.5;  // metres
 
 void PaintCentreLights(const Painter& painter, const Lamps& lamps) {
-    const CentreLines lines = LayCentreLines(painter.network, kCentreLightsBit, painter.scale);
+    const CentreLines lines = LayCentreLines(painter.network, model::kLinkCentreLights, painter.scale);
     const double spacing = ThinnedSpacing(kCentreSpacing) * painter.scale;
     const auto anywhere = [](Point) { return true; };
     for (const auto& straight : lines.straights) PaintLampsAlong(lamps, straight, spacing, Ink::LightGreen, anywhere);
@@ -27,10 +25,11 @@ void PaintCentreLights(const Painter& painter, const Lamps& lamps) {
 
 bool HasLights(const TaxiNetwork& network, const TaxiArm& arm, bool right) {
     const TaxiSegment& segment = network.segments[arm.link];
-    return IsPaved(segment) && (segment.flags & (right == arm.atStart ? kRightLightsBit : kLeftLightsBit)) != 0;
+    const uint32_t bit = right == arm.atStart ? model::kLinkRightLights : model::kLinkLeftLights;
+    return IsPaved(segment) && (segment.flags & bit) != 0;
 }
 
-void PaintBends(const Painter& painter, const Lamps& lamps, const RunwayAreas& runways, const TaxiHub& hub) {
+void PaintBends(const Painter& painter, const Lamps& lamps, const RunwayOutlines& runways, const TaxiHub& hub) {
     const TaxiNetwork& network = painter.network;
     const double spacing = ThinnedSpacing(kBendSpacing) * painter.scale;
     for (uint32_t i = 0; i < hub.edgeArms; ++i) {
@@ -46,7 +45,7 @@ void PaintBends(const Painter& painter, const Lamps& lamps, const RunwayAreas& r
     }
 }
 
-void PaintEdgeLights(const Painter& painter, const Lamps& lamps, const RunwayAreas& runways) {
+void PaintEdgeLights(const Painter& painter, const Lamps& lamps, const RunwayOutlines& runways) {
     const TaxiNetwork& network = painter.network;
     const double spacing = ThinnedSpacing(kEdgeSpacing) * painter.scale;
     const double inset = -kEdgeDistance * painter.scale;
@@ -68,7 +67,7 @@ void PaintEdgeLights(const Painter& painter, const Lamps& lamps, const RunwayAre
 void PaintTaxiwayLights(Painter* painter) {
     const Lamps lamps = LampsOf(painter->canvas, kLampRadius);
     LayCorners(&painter->network, -kEdgeDistance * painter->scale);
-    PaintEdgeLights(*painter, lamps, CollectRunwayAreas());
+    PaintEdgeLights(*painter, lamps, CollectRunwayOutlines());
     PaintCentreLights(*painter, lamps);
 }
 

@@ -8,10 +8,6 @@
 
 namespace map {
 
-// Bits of a link's flags word.
-constexpr uint32_t kCentreLineBit = 1u << 16, kCentreLightsBit = 1u << 17;
-constexpr uint32_t kLeftLightsBit = 1u << 20, kRightLightsBit = 1u << 23;
-
 // A quadratic curve from one arm of a hub into another.
 struct CentreTurn {
     uint32_t hub = 0;
@@ -23,7 +19,7 @@ struct CentreLines {
     std::vector<std::array<Point, 2>> straights;
 };
 
-// Of the links with the bit. The lines turn into each other at a junction, and end at the edge of a runway unless
+// Of the links with the bit in their flags word. The lines turn into each other at a junction, and end at the edge of a runway unless
 // a node on the runway leads them on. `scale` is the view's, pixels per metre.
 CentreLines LayCentreLines(const TaxiNetwork& network, uint32_t bit, double scale);
 

@@ -11,12 +11,14 @@
 #include "map/Lamps.h"
 #include "map/MapView.h"
 #include "map/Painter.h"
-#include "map/RunwayAreas.h"
+#include "map/RunwayOutlines.h"
 #include "map/TaxiwayLines.h"
 
 namespace map {
 
 namespace {
+
+using model::EdgeLine;
 
 constexpr double kCentreLine = 0.3048, kThinEdgeLine = 0.1524, kBroadEdgeLine = 0.4572;  // metres
 constexpr double kTwoLineScale = 6;               // pixels per metre from which edge lines are two
@@ -25,15 +27,15 @@ constexpr double kShortestDash = 2;               // pixels; shorter dashes run 
 
 constexpr int kCurvePieces = 12;
 
-constexpr int kLeftEdgeShift = 18, kRightEdgeShift = 21;
-
-enum EdgeStyle : uint32_t { kNoEdge = 0, kSolidEdge = 1, kDashedEdge = 2 };  // 3 is drawn solid too
-
 // The line on the right (or left) as seen from the hub outward.
-uint32_t EdgeStyleOf(const TaxiNetwork& network, const TaxiArm& arm, bool right) {
+EdgeLine EdgeLineOf(const TaxiNetwork& network, const TaxiArm& arm, bool right) {
     const TaxiSegment& segment = network.segments[arm.link];
-    if (!IsPaved(segment)) return kNoEdge;
-    return segment.flags >> (right == arm.atStart ? kRightEdgeShift : kLeftEdgeShift) & 3;
+    if (!IsPaved(segment)) return EdgeLine::None;
+    return model::EdgeLineOf(segment.flags, right == arm.atStart ? model::LinkSide::Right : model::LinkSide::Left);
+}
+
+bool HasEdgeLine(const TaxiNetwork& network, const TaxiArm& arm, bool right) {
+    return EdgeLineOf(network, arm, right) != EdgeLine::None;
 }
 
 void StrokeIfOnPage(const Painter& painter, Point from, Point to) {
@@ -42,7 +44,7 @@ void StrokeIfOnPage(const Painter& painter, Point from, Point to) {
 }
 
 void PaintCentreLines(const Painter& painter) {
-    const CentreLines lines = LayCentreLines(painter.network, kCentreLineBit, painter.scale);
+    const CentreLines lines = LayCentreLines(painter.network, model::kLinkCentreLine, painter.scale);
     Stroke(painter, ScaledPixels(kCentreLine), InkOf(Ink::TaxiwayLine));
     for (size_t i = 0; i < lines.turns.size();) {
         Outline turns;
@@ -58,7 +60,7 @@ void PaintCentreLines(const Painter& painter) {
 
 struct EdgePainter {
     const Painter* painter;
-    const RunwayAreas* runways;
+    const RunwayOutlines* runways;
 };
 
 void StrokeEdge(const EdgePainter& edges, Point from, Point to) {
@@ -85,11 +87,11 @@ void StrokeDashes(const EdgePainter& edges, Point from, Point to) {
 
 void PaintEdge(const EdgePainter& edges, const TaxiSegment& segment, double inset, bool right) {
     const TaxiNetwork& network = edges.painter->network;
-    const uint32_t style = EdgeStyleOf(network, network.arms[segment.startArm], right);
+    const EdgeLine line = EdgeLineOf(network, network.arms[segment.startArm], right);
     std::array<Point, 2> ends;
-    if (style == kNoEdge || !FindStraightEdge(network, segment, inset, right, &ends[0], &ends[1])) return;
+    if (line == EdgeLine::None || !FindStraightEdge(network, segment, inset, right, &ends[0], &ends[1])) return;
     if (!Meets(BoundsOf(ends), edges.painter->clip)) return;
-    if (style == kDashedEdge && kDash * edges.painter->scale >= kShortestDash)
+    if (line == EdgeLine::Dashed && kDash * edges.painter->scale >= kShortestDash)
         StrokeDashes(edges, ends[0], ends[1]);
     else
         StrokeEdge(edges, ends[0], ends[1]);
@@ -120,14 +122,14 @@ void PaintEdgeCorners(const EdgePainter& edges, const TaxiHub& hub) {
         const TaxiArm& arm = network.arms[hub.firstArm + i];
         const TaxiArm& next = network.arms[hub.firstArm + (i + 1) % hub.edgeArms];
         const Corner& corner = arm.right;
-        const bool lined = EdgeStyleOf(network, arm, true) || IsAlongRunway(network.segments[arm.link]);
-        const bool nextLined = EdgeStyleOf(network, next, false) || IsAlongRunway(network.segments[next.link]);
+        const bool lined = HasEdgeLine(network, arm, true) || IsAlongRunway(network.segments[arm.link]);
+        const bool nextLined = HasEdgeLine(network, next, false) || IsAlongRunway(network.segments[next.link]);
         if (!lined || !nextLined) continue;
         for (const EdgeCurve& curve : CurvesOf(corner)) PaintCornerCurve(edges, curve);
     }
 }
 
-void PaintEdgeLines(Painter* painter, const RunwayAreas& runways, double width, double inset) {
+void PaintEdgeLines(Painter* painter, const RunwayOutlines& runways, double width, double inset) {
     const double insetPixels = inset * painter->scale;
     LayCorners(&painter->network, insetPixels);
     Stroke(*painter, ScaledPixels(width), InkOf(Ink::TaxiwayLine));
@@ -144,7 +146,7 @@ void PaintEdgeLines(Painter* painter, const RunwayAreas& runways, double width, 
 }  // namespace
 
 void PaintTaxiwayMarkings(Painter* painter) {
-    const RunwayAreas runways = CollectRunwayAreas();
+    const RunwayOutlines runways = CollectRunwayOutlines();
     PaintCentreLines(*painter);
     if (painter->scale >= kTwoLineScale) {
         PaintEdgeLines(painter, runways, kThinEdgeLine, kThinEdgeLine / 2);

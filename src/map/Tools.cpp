@@ -5,6 +5,7 @@
 
 #include "map/ApronTool.h"
 #include "map/EdgeLightsTool.h"
+#include "map/Layers.h"
 #include "map/LightStrips.h"
 #include "map/LinkTool.h"
 #include "map/MapHost.h"
@@ -29,17 +30,6 @@ ToolState tools;
 namespace {
 
 constexpr int32_t kScrollEdge = 12;  // pixels from the edge of the map
-
-void Show(bool* layer) {
-    if (!*layer) platform::RequestRepaint();
-    *layer = true;
-}
-
-// Nothing is made unseen.
-void ShowLayerOf(Tool tool) {
-    if (tool == Tool::Nodes || tool == Tool::Links || tool == Tool::Parking) Show(&layers.network);
-    if (tool == Tool::EdgeLights) Show(&layers.lights);
-}
 
 void PressNodes(Pixel at, KeyState) {
     LatLon position;
@@ -77,22 +67,31 @@ struct ToolRow {
     void (*release)(Pixel at);
     void (*cancel)();  // everything back where it was
     bool drags;        // a press may begin a drag
+    uint32_t makes;    // objects of that kind; 0 none
 };
 
 // By Tool.
 constexpr std::array<ToolRow, 9> kTools = { {
-    { PressPointer, FollowPointer, ReleasePointer, CancelPointer, true },
-    { PressNodes, Nowhere, Nowhere, Nothing, false },
-    { PressLinks, FollowLink, FinishLink, CancelLink, true },
-    { PressParking, Nowhere, Nowhere, Nothing, false },
-    { PressApron, Nowhere, Nowhere, Nothing, false },
-    { PressApronPoint, Nowhere, Nowhere, Nothing, false },
-    { PressEdgeLights, FollowStrip, FinishStrip, CancelStrip, true },
-    { PressMarkers, Nowhere, Nowhere, Nothing, false },
-    { PressGuidelines, FollowGuideline, FinishGuideline, CancelGuideline, true },
+    { PressPointer, FollowPointer, ReleasePointer, CancelPointer, true, 0 },
+    { PressNodes, Nowhere, Nowhere, Nothing, false, model::kTaxiNode },
+    { PressLinks, FollowLink, FinishLink, CancelLink, true, model::kTaxiLink },
+    { PressParking, Nowhere, Nowhere, Nothing, false, model::kParkingSpot },
+    { PressApron, Nowhere, Nowhere, Nothing, false, model::kApron },
+    { PressApronPoint, Nowhere, Nowhere, Nothing, false, model::kApron },
+    { PressEdgeLights, FollowStrip, FinishStrip, CancelStrip, true, model::kApronEdgeLights },
+    { PressMarkers, Nowhere, Nowhere, Nothing, false, model::kReferenceMarker },
+    { PressGuidelines, FollowGuideline, FinishGuideline, CancelGuideline, true, model::kGuideline },
 } };
 
 const ToolRow& Row() { return kTools[static_cast<size_t>(tools.toolMode)]; }
+
+// Nothing is made unseen.
+void ShowMadeLayer() {
+    bool MapLayers::*layer = LayerOf(Row().makes);
+    if (!layer || layers.*layer) return;
+    layers.*layer = true;
+    platform::RequestRepaint();
+}
 
 void EndPress() {
     if (tools.pressed && Row().drags) StopDragTimer();
@@ -127,8 +126,8 @@ bool Scroll() {
 void SetTool(Tool tool) {
     CancelDrag();
     if (tool != Tool::Apron) DropOutline();
-    ShowLayerOf(tool);
     tools.toolMode = tool;
+    ShowMadeLayer();
     RequestFeedback();  // the handles belong to the pointer
 }
 
@@ -154,7 +153,7 @@ void OnButtonDown(Pixel at, KeyState keys) {
     tools.press = at;
     tools.hasClick = true;
     tools.lastClick = UnderPixel(at);
-    ShowLayerOf(tools.toolMode);  // it may have been hidden since
+    ShowMadeLayer();  // it may have been hidden since
     if (Row().drags) StartDragTimer();
     Row().press(at, keys);
 }

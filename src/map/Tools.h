@@ -10,6 +10,8 @@
 
 #include "model/Geodesy.h"
 #include "model/Geometry.h"
+#include "model/Names.h"
+#include "model/Records.h"
 #include "model/SceneryObject.h"
 
 namespace map {
@@ -30,11 +32,11 @@ constexpr int kDragThreshold = 3;  // pixels in x or y that make a press a drag
 
 struct ToolState {
     Tool toolMode = Tool::Pointer;
-    uint8_t nodeKind = 1;                   // 1 normal, 2 hold-short, 4 ILS hold-short
-    uint32_t linkKind = 1;                  // 1 normal, 2 runway, 4 apron, 5 closed
-    int lastParkingType = 9;                // code of the type of new parking spots; 9 Gate Medium
-    std::vector<std::string> parkingCodes;  // airline codes of new spots, Windows-1252, at most 4 characters each
-    std::vector<model::LatLon> outline;     // corners of the apron under construction, in order
+    uint8_t nodeKind = model::kNormalNode;     // any model::NodeType
+    uint32_t linkKind = model::kTaxiwayLink;   // any model::LinkType but kParkingLink
+    int lastParkingType = model::kGateMedium;  // code of the type of new parking spots
+    std::vector<std::string> parkingCodes;     // airline codes of new spots, Windows-1252, at most 4 characters each
+    std::vector<model::LatLon> outline;        // corners of the apron under construction, in order
     bool panning = false;
     bool pressed = false;     // the left button went down on the map and is still held
     bool dragging = false;    // and the pointer has left the press

@@ -10,7 +10,6 @@
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
-#include <utility>
 #include <vector>
 
 #include "model/EdgeLights.h"
@@ -112,36 +111,37 @@ void ForgetDesignator(const SceneryObject* designator, Deletion* deletion) {
     }
 }
 
-// What the end names when the ILS goes. A replacement hands its end over to the stock object, unless the user has moved
-// it to another end: then `home`, which the stock object serves, gets the name back.
-uint32_t NameWithout(const SceneryObject* ils, const IlsEnd& end, const IlsEnd& home) {
-    const uint32_t named = IlsNamedBy(end.runway, end.end);
-    const bool served = named != 0 && IlsBelongsTo(ils, end.runway, end.end);
-    if (named != 0 && !served) return named;
-    const bool handedOver = home.runway ? end == home : served;
-    return handedOver && ils->related ? PayloadAs<IlsPayload>(ils->related).body.ident >> kIdentShift : 0;
+// The end that names the stock ILS again when its replacement goes: the one that the replacement serves. If the user has
+// chosen another end for that or moved it to one, only its place tells which end the stock ILS serves.
+IlsEnd HomeOf(const SceneryObject* replacement) {
+    const IlsEnd place = EndByPlace(replacement->related);
+    const bool stayed = HasStockEnd(replacement) && EndByPlace(replacement) == place;
+    return stayed ? ServedEnd(replacement) : place;
 }
 
-// Runways no longer name an ILS that goes; where it replaced a stock one they name that one again. A runway
-// that goes with its ILS stays as it is. All are judged before the first one changes: whose an ident is that several
-// ILSs share shows in what every end names.
+// Runways no longer name an ILS that goes; where it replaced a stock one an end names that one again, unless another
+// ILS has taken it. A runway that goes with its ILS stays as it is.
 void ForgetIls(const SceneryObject* ils, const SceneryObject* leaving, Deletion* deletion) {
-    const IlsEnd home = ils->related && !HasStockEnd(ils) ? EndByPlace(ils->related) : IlsEnd{};
-    std::vector<std::pair<SceneryObject*, SceneryObject*>> edits;
-    for (SceneryObject* runway = FirstOfKind(state.head, kRunway); runway; runway = NextOfKind(runway, kRunway)) {
-        if (runway == leaving) continue;
+    const IlsEnd served = ServedEnd(ils);
+    if (!served.runway || IlsNamedBy(served.runway, served.end) == 0) return;
+    const IlsEnd home = ils->related ? HomeOf(ils) : IlsEnd{};
+    const uint32_t heir = ils->related ? PayloadAs<IlsPayload>(ils->related).body.ident >> kIdentShift : 0;
+    const auto nameWithout = [&](const IlsEnd& end) {
+        const uint32_t named = IlsNamedBy(end.runway, end.end);
+        if (named != 0 && end != served) return named;
+        return end == home ? heir : 0;
+    };
+    ForEachOfKind(kRunway, [&](SceneryObject* runway) {
+        if (runway == leaving) return;
         SceneryObject* edited = CopyObject(runway);
         RunwayRecord& body = PayloadAs<RunwayPayload>(edited).body;
-        body.primaryIls = NameWithout(ils, { runway, RunwayEnd::Primary }, home);
-        body.secondaryIls = NameWithout(ils, { runway, RunwayEnd::Secondary }, home);
-        edits.emplace_back(edited, runway);
-    }
-    for (const auto& [edited, runway] : edits) {
+        body.primaryIls = nameWithout({ runway, RunwayEnd::Primary });
+        body.secondaryIls = nameWithout({ runway, RunwayEnd::Secondary });
         if (std::memcmp(edited->payload, runway->payload, sizeof(RunwayRecord)) != 0)
             Change(edited, runway, deletion);
         else
             FreeObject(edited);
-    }
+    });
 }
 
 // The stock object that the replacement stood for is in force again.
@@ -158,11 +158,9 @@ void RemoveNavaid(SceneryObject* navaid, const SceneryObject* leavingRunway, Del
 
 std::vector<SceneryObject*> OwnIlsOf(const SceneryObject* runway) {
     std::vector<SceneryObject*> found;
-    for (SceneryObject* ils = FirstOfKind(state.head, kIls); ils; ils = NextOfKind(ils, kIls)) {
-        if (IsStock(ils)) continue;
-        if (IlsBelongsTo(ils, runway, RunwayEnd::Primary) || IlsBelongsTo(ils, runway, RunwayEnd::Secondary))
-            found.push_back(ils);
-    }
+    ForEachOfKind(kIls, [&](SceneryObject* ils) {
+        if (!IsStock(ils) && ServedEnd(ils).runway == runway) found.push_back(ils);
+    });
     return found;
 }
 
@@ -187,10 +185,9 @@ void DeleteTower(SceneryObject* tower, Deletion* deletion) {
 
 void RefuseStock(const SceneryObject* object) {
     const std::string what = KindOf(object) == kIls ? "ILS" : "navaids";
-    platform::ShowMessage("Flight Simulator does not allow stock " + what +
-                              " to be deleted,\nthey can only be moved or modified.\n\n"
-                              "This operation has been cancelled.",
-                          Buttons::Ok, Icon::Exclamation);
+    platform::ShowRefusal("Flight Simulator does not allow stock " + what +
+                          " to be deleted,\nthey can only be moved or modified.\n\n"
+                          "This operation has been cancelled.");
 }
 
 void DeleteApron(SceneryObject* apron, Deletion* deletion) {

@@ -12,7 +12,7 @@ namespace model {
 namespace {
 
 constexpr double kLatUnitsPerQuarter = 268435456.0;  // 2^28 from pole to equator
-constexpr double kLonUnitsPerHalf = 402653184.0;     // 3 x 2^27 in half a turn
+constexpr double kLonUnitsPerHalf = kEncodedTurn / 2.0;
 constexpr double kPoleCosine = 1e-6;
 
 // Of a great circle. By half angles, as in the haversine formula: the cosine of an angle as small as those of an

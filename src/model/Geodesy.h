@@ -18,7 +18,6 @@ constexpr double kNorthSouthRadius = 6367311.808277457;  // m: a circumference o
 constexpr double kFeetPerMetre = 3.280839895;
 constexpr double kMetresPerFoot = 0.3048;
 constexpr double kMetresPerNauticalMile = 1852.1759;  // deliberately not 1852
-constexpr double kFeetPerNauticalMile = 6076.12;      // so only on charts; nothing computes with it
 constexpr double kDegreesPerRadian = 57.29577951308232;
 constexpr double kRadiansPerDegree = 0.017453292519943295;
 
@@ -52,6 +51,7 @@ LatLon OffsetByPolar(LatLon origin, Polar polar);
 
 // The scenery file's fixed-point angles: latitude code 0 is the north pole and grows southward over
 // 2^29 units, longitude code 0 is 180 degrees west and grows eastward over 3 x 2^28 units a turn.
+constexpr int64_t kEncodedTurn = 0x30000000;
 LatLon BglToLatLon(BglPoint code);
 // Truncates toward zero. A longitude beyond half a turn is taken once around the earth first, and a latitude
 // beyond a pole lies at it: the codes have no places for them.

@@ -5,6 +5,7 @@
 #include "model/Geometry.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 
 #include "model/Geodesy.h"
@@ -42,6 +43,12 @@ double AngleAdd(double angle, double delta) {
     if (angle < 0) angle += kTwoPi;
     if (angle >= kTwoPi) angle -= kTwoPi;
     return angle;
+}
+
+float WrappedHeading(double degrees) {
+    const double turned = std::fmod(degrees, 360);
+    const auto heading = static_cast<float>(turned < 0 ? turned + 360 : turned);
+    return heading < 360 ? heading : 0;
 }
 
 int Orientation(Pixel p0, Pixel p1, Pixel p2) { return Orientation(ToPoint(p0), ToPoint(p1), ToPoint(p2)); }

@@ -10,8 +10,6 @@ namespace {
 
 constexpr uint32_t kBase = 38;
 constexpr size_t kMaxCharacters = 5;
-constexpr int kRegionBits = 11;
-constexpr uint32_t kRegionMask = (1u << kRegionBits) - 1;
 
 uint32_t CodeOf(char c) {
     if (c >= '0' && c <= '9') return static_cast<uint32_t>(c - '0') + 2;

@@ -13,6 +13,10 @@ namespace model {
 constexpr int kIdentShift = 5;
 constexpr uint32_t kIdentLowBits = 0x1F;
 
+// Region words: a region's packed code below the packed identifier of an airport.
+constexpr int kRegionBits = 11;
+constexpr uint32_t kRegionMask = (1u << kRegionBits) - 1;
+
 // At most the last five characters count; letters without regard to case, digits, and every other
 // character as a blank.
 uint32_t PackIdent(std::string_view text);
@@ -20,7 +24,7 @@ uint32_t PackIdent(std::string_view text);
 // Upper-case text of at most five characters; empty for 0.
 std::string UnpackIdent(uint32_t packed);
 
-// Navaids name their airport in the upper 21 bits of their region word, above the region's eleven; 0 names none.
+// Navaids name their airport in their region word; 0 names none.
 // An identifier of five characters may need more bits: the low ones are kept, and only they are compared.
 uint32_t RegionWordWithAirport(uint32_t regionWord, uint32_t airportIdentWord);  // the region stays
 bool RegionWordNamesAirport(uint32_t regionWord, uint32_t airportIdentWord);     // also when both name none

@@ -18,24 +18,36 @@ constexpr RunwayEnd kEnds[] = { RunwayEnd::Primary, RunwayEnd::Secondary };
 
 uint32_t IdentOf(const SceneryObject* ils) { return PayloadAs<IlsPayload>(ils).body.ident >> kIdentShift; }
 
-// Whether an end names the ident of the ILS; with `localizer` one that the localizer names too.
-bool IsNamed(const SceneryObject* ils, bool localizer) {
-    const uint32_t ident = IdentOf(ils);
-    if (ident == 0) return false;
-    for (SceneryObject* runway = FirstOfKind(state.head, kRunway); runway; runway = NextOfKind(runway, kRunway)) {
-        for (const RunwayEnd end : kEnds) {
-            if (IlsNamedBy(runway, end) == ident && (!localizer || LocalizerNames(ils, runway, end))) return true;
-        }
-    }
-    return false;
+bool NamesThisAirport(const SceneryObject* ils) {
+    return state.airport && RegionWordNamesAirport(PayloadAs<IlsPayload>(ils).body.region,
+                                                   PayloadAs<AirportRecord>(state.airport).ident);
 }
 
-// Metres from the far end of the pavement, behind which the localizer of an end stands.
-double DistanceBehind(LatLon localizer, const SceneryObject* runway, RunwayEnd end) {
-    const RunwayRecord& body = PayloadAs<RunwayPayload>(runway).body;
-    const double heading = body.heading + (end == RunwayEnd::Primary ? 0 : 180);
+// How firmly the ILS is tied to the end; 0 not at all.
+int TieOf(const SceneryObject* ils, const IlsEnd& at) {
+    const uint32_t named = IlsNamedBy(at.runway, at.end);
+    const bool byIdent = named != 0 && named == IdentOf(ils), byName = LocalizerNames(ils, at.runway, at.end);
+    if (!byIdent && (named != 0 || !byName || !NamesThisAirport(ils))) return 0;
+    return (byName ? 1 : 0) + (!byIdent ? 0 : HasStockEnd(ils) ? 2 : 1);
+}
+
+LatLon StoredPositionOf(const SceneryObject* object) {
+    for (const MovedPoint& point : state.moved) {
+        if (point.object == object && point.offset == PositionOffset(KindOf(object)))
+            return BglToLatLon({ point.stored.latitude, point.stored.longitude });
+    }
+    return PositionOf(object);
+}
+
+// Metres from the end of the pavement where what serves the end stands. Wild numbers of a file are far away.
+double DistanceFrom(const IlsEnd& at, const SceneryObject* object) {
+    const RunwayRecord& body = PayloadAs<RunwayPayload>(at.runway).body;
+    const bool ahead = (at.end == RunwayEnd::Primary) == (KindOf(object) == kIls);
+    const double heading = body.heading + (ahead ? 0 : 180);
     const Polar way = { std::fabs(+body.length) / 2, heading * kRadiansPerDegree };
-    return DistanceBetween(localizer, OffsetByPolar(PositionOf(runway), way));
+    const LatLon place = OffsetByPolar(StoredPositionOf(at.runway), way);
+    const double distance = DistanceBetween(StoredPositionOf(object), place);
+    return std::isnan(distance) ? std::numeric_limits<double>::infinity() : distance;
 }
 
 }  // namespace
@@ -61,30 +73,35 @@ bool HasStockEnd(const SceneryObject* ils) {
     return own.runwayNumber == stock.runwayNumber && own.runwayDesignator == stock.runwayDesignator;
 }
 
-bool IlsServes(const SceneryObject* ils, const SceneryObject* runway, RunwayEnd end) {
-    const uint32_t named = IlsNamedBy(runway, end);
-    if (named != 0) return named == IdentOf(ils) && (LocalizerNames(ils, runway, end) || !IsNamed(ils, true));
-    return state.airport && LocalizerNames(ils, runway, end) && !IsNamed(ils, !HasStockEnd(ils)) &&
-           RegionWordNamesAirport(PayloadAs<IlsPayload>(ils).body.region,
-                                  PayloadAs<AirportRecord>(state.airport).ident);
+IlsEnd ServedEnd(const SceneryObject* ils) {
+    return NearestEnd(ils, [ils](const IlsEnd& at) { return TieOf(ils, at); });
 }
 
-bool IlsBelongsTo(const SceneryObject* ils, const SceneryObject* runway, RunwayEnd end) {
-    return IlsServes(ils, runway, end) && (!IsStock(ils) || IlsNamedBy(runway, end) != 0);
+bool IlsServes(const SceneryObject* ils, const SceneryObject* runway, RunwayEnd end) {
+    const IlsEnd served = ServedEnd(ils);
+    return served.runway == runway && served.end == end;
+}
+
+IlsEnd NearestEnd(const SceneryObject* object, const EndRank& rank) {
+    IlsEnd best;
+    int highest = 0;
+    double least = 0;
+    ForEachOfKind(kRunway, [&](SceneryObject* runway) {
+        for (const RunwayEnd end : kEnds) {
+            const int rankHere = rank({ runway, end });
+            if (rankHere == 0 || rankHere < highest) continue;
+            const double distance = DistanceFrom({ runway, end }, object);
+            if (rankHere == highest && distance >= least) continue;
+            best = { runway, end };
+            highest = rankHere;
+            least = distance;
+        }
+    });
+    return best;
 }
 
 IlsEnd EndByPlace(const SceneryObject* ils) {
-    IlsEnd nearest;
-    double least = std::numeric_limits<double>::infinity();
-    for (SceneryObject* runway = FirstOfKind(state.head, kRunway); runway; runway = NextOfKind(runway, kRunway)) {
-        for (const RunwayEnd end : kEnds) {
-            const double distance = DistanceBehind(PositionOf(ils), runway, end);
-            if (!(distance < least)) continue;
-            least = distance;
-            nearest = { runway, end };
-        }
-    }
-    return nearest;
+    return NearestEnd(ils, [](const IlsEnd&) { return 1; });
 }
 
 }  // namespace model

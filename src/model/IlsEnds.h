@@ -1,5 +1,9 @@
-// IlsEnds.h - which runway end an ILS serves.
+// IlsEnds.h - which runway end an ILS serves, and which of several ends an object stands nearest to.
+//
+// Places are those that the records hold: where an open dialog shows an object for the time being does not count.
 #pragma once
+
+#include <functional>
 
 #include "model/SceneryObject.h"
 
@@ -24,17 +28,19 @@ uint32_t IlsNamedBy(const SceneryObject* runway, RunwayEnd end);
 // stock ILS, and of what replaces one until the user chooses another end.
 bool HasStockEnd(const SceneryObject* ils);
 
-// Whether the ILS serves that end: the runway names its ident or, when the runway names none there, its localizer names
-// the end and its region word this airport. Where several ends name the ident, the localizer tells which one it is (new
-// ILSs start with one ident); where several have the name, it is the one that names the ident. An ILS with the bytes of
-// a stock file serves no unnamed end once any end names its ident.
+// The end that the ILS serves; no runway when there is none. Ends are tied to it by naming its ident or, if they name
+// none, by their name in the localizer of an ILS with this airport in its region word. An end that is tied both ways
+// comes first (new ILSs start with one ident), an ident counts more than the bytes of a stock file, and of several that
+// are left it is the nearest.
+IlsEnd ServedEnd(const SceneryObject* ils);
 bool IlsServes(const SceneryObject* ils, const SceneryObject* runway, RunwayEnd end);
 
-// Whether the ILS is deleted with the runway: a stock one does not belong to an end that does not name it.
-bool IlsBelongsTo(const SceneryObject* ils, const SceneryObject* runway, RunwayEnd end);
+// The end with the highest rank above 0 and, of several, the nearest; no runway when there is none. A localizer stands
+// behind the other end of the runway, anything else at the end itself.
+using EndRank = std::function<int(const IlsEnd& end)>;
+IlsEnd NearestEnd(const SceneryObject* object, const EndRank& rank);
 
-// The end that the localizer stands behind: seen from there the nearest far end of a runway. No runway when the
-// airport has none.
+// The end that the localizer stands behind, whatever the two name. No runway when the airport has none.
 IlsEnd EndByPlace(const SceneryObject* ils);
 
 }  // namespace model

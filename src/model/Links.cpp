@@ -15,8 +15,6 @@ namespace {
 constexpr uint16_t kIndexMask = 0x0FFF;
 constexpr int kDesignatorShift = 12;
 constexpr uint32_t kDesignatorMask = 0xF;  // what a link can hold of a runway's designator
-constexpr uint32_t kIndexByteMask = 0x0000FF00;
-constexpr int kIndexByteShift = 8;
 
 SceneryObject* At(const std::vector<SceneryObject*>& objects, uint32_t index) {
     return index < objects.size() ? objects[index] : nullptr;
@@ -105,7 +103,7 @@ void UpdateLinkIndices() {
         }
         link.startIndex = static_cast<uint16_t>(IndexIn(nodes, link.start));
         link.endField = static_cast<uint16_t>(endField);
-        link.flagsWord = (link.flagsWord & ~kIndexByteMask) | ((indexByte & 0xFF) << kIndexByteShift);
+        link.flagsWord = (link.flagsWord & ~kLinkIndexMask) | (indexByte << kLinkIndexShift & kLinkIndexMask);
     }
 }
 

@@ -30,7 +30,19 @@ constexpr const char* kParkingNames[] = {
     "Gate M",    "Gate N",     "Gate O",    "Gate P",     "Gate Q",    "Gate R",     "Gate S",    "Gate T",
     "Gate U",    "Gate V",     "Gate W",    "Gate X",     "Gate Y",    "Gate Z",
 };
-static_assert(std::size(kParkingNames) == 38);
+static_assert(std::size(kParkingNames) == kGateZ + 1);
+
+constexpr const char* kApproachLightsNames[] = {
+    "none", "ODALS",   "MALSF",     "MALSR", "SSALF", "SSALR",  "ALSF-1", "ALSF-2",
+    "RAIL", "CALVERT", "CALVERT-2", "MALS",  "SALS",  "SSALSF", "SSALS",  "SSALSR",
+};
+static_assert(std::size(kApproachLightsNames) == kApproachLightsCount && kSsalsr + 1 == kApproachLightsCount);
+
+constexpr const char* kSlopeLightsNames[] = {
+    "none",   "VASI 2", "VASI 3", "VASI 4", "VASI 6", "VASI 12", "VASI 16", "PAPI 2",
+    "PAPI 4", "TRCV",   "PVASI",  "T-VASI", "BALL",   "ADAP",    "PANELS",
+};
+static_assert(std::size(kSlopeLightsNames) == kPanels + 1);
 
 constexpr const char* kLetteredNumbers[] = { "N", "E", "NW", "SW", "S", "W", "SE", "NE" };
 constexpr const char* kSuffixes[] = { "", "L", "R", "C", "W" };
@@ -42,6 +54,10 @@ const char* SurfaceName(uint32_t code) { return kSurfaceNames[code]; }
 const char* ParkingTypeName(uint32_t code) { return kParkingTypeNames[code < std::size(kParkingTypeNames) ? code : 1]; }
 
 const char* ParkingNameText(uint32_t code) { return kParkingNames[code < std::size(kParkingNames) ? code : 0]; }
+
+std::span<const char* const> ApproachLightsNames() { return kApproachLightsNames; }
+
+std::span<const char* const> SlopeLightsNames() { return kSlopeLightsNames; }
 
 std::string RunwayEndName(uint32_t number, uint32_t designator) {
     const bool lettered = number >= kFirstLetteredNumber && number - kFirstLetteredNumber < std::size(kLetteredNumbers);

@@ -74,6 +74,12 @@ SceneryObject* FirstOfKind(SceneryObject* from, uint32_t kind);
 SceneryObject* NextOfKind(SceneryObject* object, uint32_t kind);
 uint32_t CountKind(uint32_t kind);
 
+// Calls visit(object) for each object of the kind, in list order. A visit may modify its object; it deletes none.
+template <class Visit>
+void ForEachOfKind(uint32_t kind, Visit visit) {
+    for (SceneryObject* o = FirstOfKind(state.head, kind); o; o = NextOfKind(o, kind)) visit(o);
+}
+
 // The objects of the list by kind, each kind in list order. One walk: the list is long and scattered in memory.
 using KindLists = std::array<std::vector<SceneryObject*>, kKindMask + 1>;
 KindLists SortByKind();

@@ -8,6 +8,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "model/LinkBits.h"
+
 namespace model {
 
 struct SceneryObject;
@@ -27,7 +29,7 @@ struct AirportRecord {  // body of record 0x0003
     float magneticVariation;  // degrees 0 to 360, west positive
     uint32_t ident;           // packed << 5; the low five bits are carried
     uint32_t regionIdent;
-    uint32_t fuel;  // bit 31 jet fuel, bit 30 avgas; the rest carried
+    uint32_t fuel;  // but for its two bits carried
 };
 
 struct TowerViewpointRecord {
@@ -98,7 +100,7 @@ struct TaxiNodeRecord {  // one entry of record 0x001A
 struct TaxiLinkPayload {  // one entry of record 0x001C, then three pointers kept in memory only
     uint16_t startIndex;
     uint16_t endField;   // bits 0-11 index, bits 12-15 runway designator
-    uint32_t flagsWord;  // bits 0-3 type, 8-15 designator index or runway number, 16 up: lines, lights, surface
+    uint32_t flagsWord;  // LinkBits.h
     float width;
     uint32_t carried[2];
     SceneryObject* start;       // a TaxiNode
@@ -112,7 +114,7 @@ struct TaxiDesignatorRecord {  // one entry of record 0x001D
 };
 
 struct ParkingSpotRecord {  // fixed part of an entry of record 0x001B; four bytes an airline code follow
-    uint32_t packed;        // bits 0-5 name, 6-7 carried, 8-11 type, 12-23 number, 24-31 airline-code count
+    uint32_t packed;        // SpotBits.h
     float radius, heading;
     uint32_t longitude, latitude;
 };
@@ -122,7 +124,7 @@ struct ApronHead {           // then the outline, the surface vertices and the t
     uint8_t outlineSurface;  // head of the outline record 0x0037
     uint16_t outlineCount;
     uint8_t surface;    // head of the surface record 0x0030
-    uint8_t drawFlags;  // bit 0 draw surface, bit 1 draw detail
+    uint8_t drawFlags;  // surface, detail
     uint16_t vertexCount, triangleCount;
 };
 struct ApronTriangle {
@@ -169,9 +171,11 @@ struct VorRecord {  // body of record 0x0013: an ILS, VOR or DME
     uint32_t region;  // bits 0-10 region; bits 11-31 the airport's packed ident
 };
 constexpr uint8_t kIlsType = 4;
-constexpr uint8_t kHasVor = 0x01;  // else, of a VOR/DME, a lone DME
+constexpr uint8_t kHasVor = 0x01;  // or a localizer; a VOR/DME without it is a lone DME
+constexpr uint8_t kHasBackCourse = 0x04;
 constexpr uint8_t kHasGlideSlope = 0x08;
 constexpr uint8_t kHasDme = 0x10;
+constexpr uint8_t kNavTrue = 0x20;  // known by this name only: usually set, else carried
 
 struct LocalizerPart {  // body of sub-record 0x0014
     uint8_t runwayNumber, runwayDesignator;
@@ -191,7 +195,7 @@ struct IlsPayload {
     GlideSlopePart glideSlope;
     DmePart dme;
     char name[49];          // zero terminated, at most 48 characters
-    uint8_t selectedParts;  // 1 localizer, 2 glide slope, 4 DME; memory only
+    uint8_t selectedParts;  // memory only
     uint8_t unused[104];
 };
 
@@ -273,28 +277,24 @@ static_assert(offsetof(NdbPayload, ident) == 26 && offsetof(NdbPayload, name) ==
 
 // Fields of the packed words.
 enum NodeType : uint8_t { kNormalNode = 1, kHoldShortNode = 2, kIlsHoldShortNode = 4 };
-enum LinkType : uint32_t { kTaxiwayLink = 1, kRunwayLink = 2, kParkingLink = 3, kApronRouteLink = 4, kClosedLink = 5 };
-constexpr uint32_t kLinkTypeMask = 0xF;
-constexpr uint32_t kLinkDrawFlags = 0x60;  // draw surface, draw detail: compiled apron routes lack them
 enum StartType : uint8_t { kRunwayStart = 1, kWaterStart = 2, kHelipadStart = 3 };
 constexpr uint8_t kPadTypeMask = 0x0F, kPadTransparent = 0x10, kPadClosed = 0x20;
-constexpr uint8_t kDrawApron = 3;       // surface and detail
-constexpr size_t kParkingCodeSize = 4;  // bytes of an airline code, zero padded
-constexpr int kParkingTypeShift = 8, kParkingNumberShift = 12, kParkingCountShift = 24;
+constexpr uint32_t kJetFuel = 1u << 31, kAvgas = 1u << 30;
+constexpr uint8_t kDrawApronSurface = 1, kDrawApronDetail = 2, kDrawApron = kDrawApronSurface | kDrawApronDetail;
+constexpr int kLocalizerPart = 1, kGlideSlopePart = 2, kDmePart = 4;  // of an ILS's selected parts
+constexpr uint8_t kAllIlsParts = kLocalizerPart | kGlideSlopePart | kDmePart;
+constexpr size_t kParkingCodeSize = 4;                  // bytes of an airline code, zero padded
 constexpr uint32_t kPlaceholderLongitude = 0x18000000;  // 0 degrees north, 0 degrees east: where a new
 constexpr uint32_t kPlaceholderLatitude = 0x10000000;   // airport and its tower stand until placed
 
 inline uint32_t LinkTypeOf(const TaxiLinkPayload& link) { return link.flagsWord & kLinkTypeMask; }
-inline uint32_t LinkIndexByte(const TaxiLinkPayload& link) { return (link.flagsWord >> 8) & 0xFF; }
-inline uint32_t LinkSurface(const TaxiLinkPayload& link) { return link.flagsWord >> 24; }
+inline uint32_t LinkIndexByte(const TaxiLinkPayload& link) {
+    return (link.flagsWord & kLinkIndexMask) >> kLinkIndexShift;
+}
+inline uint32_t LinkSurface(const TaxiLinkPayload& link) { return link.flagsWord >> kLinkSurfaceShift; }
 
 inline uint32_t StartTypeOf(const StartLocationRecord& start) { return start.designatorAndType >> 4; }
 inline uint32_t StartSuffix(const StartLocationRecord& start) { return start.designatorAndType & 0xF; }
 inline uint8_t StartNibbles(uint32_t type, uint32_t suffix) { return static_cast<uint8_t>(type << 4 | (suffix & 0xF)); }
-
-inline uint32_t ParkingNameCode(const ParkingSpotRecord& spot) { return spot.packed & 0x3F; }
-inline uint32_t ParkingTypeCode(const ParkingSpotRecord& spot) { return (spot.packed >> kParkingTypeShift) & 0xF; }
-inline uint32_t ParkingNumber(const ParkingSpotRecord& spot) { return (spot.packed >> kParkingNumberShift) & 0xFFF; }
-inline uint32_t ParkingCodeCount(const ParkingSpotRecord& spot) { return spot.packed >> kParkingCountShift; }
 
 }  // namespace model

@@ -43,9 +43,7 @@ RunwayArea AreaOf(SceneryObject* runway) {
 
 std::vector<RunwayArea> RunwayAreas() {
     std::vector<RunwayArea> areas;
-    for (SceneryObject* runway = FirstOfKind(state.head, kRunway); runway; runway = NextOfKind(runway, kRunway)) {
-        areas.push_back(AreaOf(runway));
-    }
+    ForEachOfKind(kRunway, [&](SceneryObject* runway) { areas.push_back(AreaOf(runway)); });
     return areas;
 }
 

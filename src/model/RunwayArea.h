@@ -28,7 +28,8 @@ struct RunwayArea {
 RunwayArea AreaOf(SceneryObject* runway);
 std::vector<RunwayArea> RunwayAreas();  // of all runways, in list order
 
-// The position in the runway's own frame, in metres: y along the heading, x to its right.
+// The position in the runway's own frame, in metres: y along the heading, x to its right. The offset is measured from
+// the position to the centre (see RunwayArea.cpp); dialogs::PlaceIn measures it the other way, which PositionIn undoes.
 Point PlaceOnRunway(const RunwayArea& area, LatLon position);
 
 bool Contains(const RunwayArea& area, LatLon position);  // boundary included

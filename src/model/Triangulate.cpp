@@ -8,11 +8,12 @@
 #include <iterator>
 #include <utility>
 
+#include "model/Geodesy.h"
+
 namespace model {
 
 namespace {
 
-constexpr int64_t kTurn = 0x30000000;           // encoded longitude units in a full turn
 constexpr int64_t kReach = int64_t{ 1 } << 29;  // keeps every product below 2^62
 
 struct Corner {
@@ -24,8 +25,8 @@ std::vector<Corner> CornersOf(std::span<const EncodedPoint> outline) {
     std::vector<Corner> corners;
     for (const EncodedPoint& point : outline) {
         int64_t x = int64_t{ point.longitude } - outline[0].longitude;
-        if (x > kTurn / 2) x -= kTurn;  // the apron lies across the 180th meridian
-        if (x < -kTurn / 2) x += kTurn;
+        if (x > kEncodedTurn / 2) x -= kEncodedTurn;  // the apron lies across the 180th meridian
+        if (x < -kEncodedTurn / 2) x += kEncodedTurn;
         const int64_t y = int64_t{ outline[0].latitude } - point.latitude;
         corners.push_back({ std::clamp(x, -kReach, kReach), std::clamp(y, -kReach, kReach) });
     }

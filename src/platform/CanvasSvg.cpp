@@ -4,7 +4,6 @@
 // that a line one pixel wide covers exactly one row. Pens have round ends and joins.
 #include "platform/CanvasSvg.h"
 
-#include <cmath>
 #include <cstdio>
 #include <string_view>
 

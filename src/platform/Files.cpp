@@ -3,6 +3,11 @@
 
 namespace platform {
 
+bool IsLeftOver(uint64_t writeTime, uint64_t now) {
+    constexpr uint64_t kMinute = 60 * 10000000ull;  // in units of FILETIME
+    return now > writeTime && now - writeTime > kMinute;
+}
+
 uint64_t FileSize(OpenFile* file) {
     uint64_t size = 0;
     TakeFileSize(file, &size);

@@ -43,6 +43,10 @@ bool ReadWholeFile(const std::string& path, uint64_t limit, std::vector<uint8_t>
 // untouched and no sibling left behind, when any step fails.
 bool WriteFileWhole(const std::string& path, std::span<const uint8_t> bytes);
 
+// Whether a file that stands only while something is written was left by a process that was killed meanwhile: nothing
+// has written to it for more than a minute. Both times are FILETIMEs.
+bool IsLeftOver(uint64_t writeTime, uint64_t now);
+
 // Tells this process from all others that run now, for the name of a file that must be its own.
 uint32_t ProcessNumber();
 

@@ -84,9 +84,8 @@ bool IsSiblingName(std::wstring_view name) {
 }
 
 // What a process that was killed while it wrote has left in the folder. A file that is being written is not shared and
-// stays; one that waits for its new name is younger.
+// stays, however old it is.
 void RemoveLeftSiblings(const std::wstring& folder) {
-    constexpr uint64_t kLeftAfter = 60 * 10000000ull;  // a minute, in units of FILETIME
     FILETIME now;
     GetSystemTimeAsFileTime(&now);
     WIN32_FIND_DATAW found;
@@ -95,7 +94,7 @@ void RemoveLeftSiblings(const std::wstring& folder) {
     do {
         if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) || !IsSiblingName(found.cFileName)) continue;
         const uint64_t written = Joined(found.ftLastWriteTime.dwHighDateTime, found.ftLastWriteTime.dwLowDateTime);
-        if (written + kLeftAfter < Joined(now.dwHighDateTime, now.dwLowDateTime))
+        if (IsLeftOver(written, Joined(now.dwHighDateTime, now.dwLowDateTime)))
             DeleteFileW((folder + found.cFileName).c_str());
     } while (FindNextFileW(search, &found));
     FindClose(search);

@@ -17,6 +17,13 @@ enum class Answer { Ok, Cancel, Yes, No };
 // box count as Cancel where the box has that button, else as its only or its No button.
 Answer ShowMessage(std::string_view text, Buttons buttons, Icon icon);
 
+// Such a box with OK and the exclamation mark: what was not done, or not as asked, and why. False, for
+// `return ShowRefusal(...)`.
+bool ShowRefusal(std::string_view text);
+
+// The same with "ERROR: " before the text: what the user entered, or what a file holds, is wrong.
+bool ShowError(std::string_view text);
+
 // Invalidates the whole map; the next paint redraws it from the model. Cheap, may be called often.
 void RequestRepaint();
 

@@ -24,8 +24,8 @@ constexpr uint32_t kBlueLights = 0xFF0000FF;              // ARGB
 constexpr float kLightBrightness = 1, kLightLimit = 800;  // as the simulator's own strips
 
 uint32_t FuelWord(const AirportPlan& plan) {
-    constexpr uint32_t kAvgas = 1u << 30 | 3u << 4, kJet = 1u << 31 | 3u << 14;  // with 100 octane and Jet A
-    return (plan.avgas ? kAvgas : 0) | (plan.jetFuel ? kJet : 0);
+    constexpr uint32_t kHundredOctane = 3u << 4, kJetA = 3u << 14;
+    return (plan.avgas ? model::kAvgas | kHundredOctane : 0) | (plan.jetFuel ? model::kJetFuel | kJetA : 0);
 }
 
 void AppendAirport(const AirportPlan& plan) {

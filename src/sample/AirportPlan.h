@@ -10,53 +10,22 @@
 #include <vector>
 
 #include "model/Geodesy.h"
+#include "model/Names.h"
 #include "model/Records.h"
 
 namespace sample {
 
 using model::Local;
 
-enum Surface : uint8_t {
-    kConcrete = 0,
-    kGrass = 1,
-    kWater = 2,
-    kAsphalt = 4,
-    kClay = 7,
-    kSnow = 8,
-    kIce = 9,
-    kDirt = 12,
-    kCoral = 13,
-    kGravel = 14,
-    kOilTreated = 15,
-    kSteel = 16,
-    kBitumen = 17,
-    kBrick = 18,
-    kMacadam = 19,
-    kPlanks = 20,
-    kSand = 21,
-    kShale = 22,
-    kTarmac = 23,
-};
+using enum model::Surface;
+using enum model::ParkingType;
+using enum model::ParkingName;
+using enum model::ApproachLights;
+using enum model::SlopeLights;
+using model::ParkingType;
+using model::Surface;
 
-enum ParkingType : uint8_t {
-    kRampGa = 1,
-    kRampGaSmall = 2,
-    kRampGaMedium = 3,
-    kRampGaLarge = 4,
-    kRampCargo = 5,
-    kRampMilCargo = 6,
-    kRampMilCombat = 7,
-    kGateSmall = 8,
-    kGateMedium = 9,
-    kGateHeavy = 10,
-};
-
-// Name codes of parking spots: 1 Parking, 2 to 9 the eight directions, 10 Gate, 12 on Gate A on.
-enum ParkingName : uint8_t { kParking = 1, kNorthParking = 2, kSouthParking = 6, kWestParking = 8, kGateName = 10 };
-constexpr uint8_t GateOf(char letter) { return static_cast<uint8_t>(12 + (letter - 'A')); }
-
-enum VasiType : uint8_t { kNoVasi = 0, kVasi2 = 1, kVasi4 = 3, kPapi2 = 7, kPapi4 = 8 };
-enum ApproachLights : uint8_t { kNoLights = 0, kOdals = 1, kMalsr = 3, kSsalr = 5, kAlsf2 = 7, kMals = 11 };
+constexpr uint8_t GateOf(char letter) { return static_cast<uint8_t>(kGateA + (letter - 'A')); }
 
 struct IlsPlan {
     std::string ident;       // empty: none
@@ -67,10 +36,10 @@ struct RunwayEndPlan {
     uint8_t number = 0, designator = 0;
     double displaced = 0;  // metres of displaced threshold
     double blastPad = 0;   // metres before the end
-    ApproachLights approach = kNoLights;
+    model::ApproachLights approach = kNoApproachLights;
     uint8_t strobes = 0;
     bool endLights = false, reil = false, touchdownLights = false;
-    VasiType vasi = kNoVasi;
+    model::SlopeLights vasi = kNoSlopeLights;
     bool vasiRight = false;  // else left of the runway
     IlsPlan ils;
     bool rightPattern = false;

@@ -69,51 +69,31 @@ constexpr Satellite kSatellites[] = {
     { 'S', 2 * kMirror - kSatellite, "NWA,KLM,BAW", "NWA,DAL,AAR", "SAS,EVA,AFL" },
 };
 
+// The rows at a satellite, from its middle: four spots along each side, one at each end.
+struct SatelliteRow {
+    Local first, last;
+    int count;
+    double heading;
+    uint16_t number;
+    const char* Satellite::*codes;
+};
+constexpr double kSatelliteRadius = 30;  // of each of their spots
+constexpr double kAside = kSatelliteHalf + 36, kSpan = 93, kEnd = kSatelliteLength / 2 + kSatelliteRadius + 1;
+constexpr SatelliteRow kSatelliteRows[] = {
+    { { -kAside, kSpan }, { -kAside, -kSpan }, 4, 90, 1, &Satellite::westCodes },
+    { { kAside, kSpan }, { kAside, -kSpan }, 4, 270, 5, &Satellite::eastCodes },
+    { { 0, kEnd }, { 0, kEnd }, 1, 180, 9, &Satellite::endCodes },
+    { { 0, -kEnd }, { 0, -kEnd }, 1, 0, 10, &Satellite::endCodes },
+};
+
 void AddSatellite(AirportPlan* plan, const Satellite& satellite) {
-    constexpr double kStandOff = 36, kRadius = 30, kSpan = 93;
-    const double aside = kSatelliteHalf + kStandOff, end = kSatelliteLength / 2 + kRadius + 1;
-    const uint8_t name = GateOf(satellite.letter);
-    const double middle = satellite.middle;
-    AddSpotRow(plan, { { kSatelliteEast - aside, middle + kSpan },
-                       { kSatelliteEast - aside, middle - kSpan },
-                       4,
-                       90,
-                       kRadius,
-                       kGateHeavy,
-                       name,
-                       1,
-                       satellite.westCodes,
-                       20 });
-    AddSpotRow(plan, { { kSatelliteEast + aside, middle + kSpan },
-                       { kSatelliteEast + aside, middle - kSpan },
-                       4,
-                       270,
-                       kRadius,
-                       kGateHeavy,
-                       name,
-                       5,
-                       satellite.eastCodes,
-                       20 });
-    AddSpotRow(plan, { { kSatelliteEast, middle + end },
-                       { kSatelliteEast, middle + end },
-                       1,
-                       180,
-                       kRadius,
-                       kGateHeavy,
-                       name,
-                       9,
-                       satellite.endCodes,
-                       20 });
-    AddSpotRow(plan, { { kSatelliteEast, middle - end },
-                       { kSatelliteEast, middle - end },
-                       1,
-                       0,
-                       kRadius,
-                       kGateHeavy,
-                       name,
-                       10,
-                       satellite.endCodes,
-                       20 });
+    const auto at = [&](Local fromMiddle) {
+        return Local{ kSatelliteEast + fromMiddle.east, satellite.middle + fromMiddle.north };
+    };
+    for (const SatelliteRow& row : kSatelliteRows) {
+        AddSpotRow(plan, { at(row.first), at(row.last), row.count, row.heading, kSatelliteRadius, kGateHeavy,
+                           GateOf(satellite.letter), row.number, satellite.*row.codes, 20 });
+    }
 }
 
 // Rows away from the terminal: first, last, count, heading, radius, type, name, number, codes, connector.

@@ -11,9 +11,9 @@ struct HubRunwayEnd {
     int end;             // 0 the northern threshold (16), 1 the southern one (34)
     const char* ils;
     uint32_t frequency;  // Hz
-    ApproachLights approach;
+    model::ApproachLights approach;
     uint8_t strobes;
-    VasiType vasi;
+    model::SlopeLights vasi;
     bool vasiRight;
     double blastPad;  // metres
 };

@@ -20,9 +20,8 @@ using model::SceneryObject;
 constexpr double kSquare = 2;  // degrees
 constexpr int kRings = 5;      // squares around a place that are searched
 
-// Kinds of a VOR record, its flags, and the kind of object in the low bits of an ident word.
+// Kinds of a VOR record, and the kind of object in the low bits of an ident word.
 constexpr uint8_t kTerminalVor = 1, kLowVor = 2, kHighVor = 3;
-constexpr uint8_t kNavTrue = 0x20;
 constexpr uint32_t kVorLowBits = 2, kNdbLowBits = 3;
 
 // By a word of the table: the kind in the record and the range.
@@ -68,7 +67,7 @@ SceneryObject* MakeVor(const NavaidRow& row, bool vor, bool dme) {
     auto& payload = PayloadAs<model::VorDmePayload>(object);
     const model::EncodedPoint at = Encoded(row.position);
     const int32_t altitude = Millimetres(row.elevation);
-    const uint32_t flags = (vor ? model::kHasVor | kNavTrue : 0u) | (dme ? model::kHasDme : 0u);
+    const uint32_t flags = (vor ? model::kHasVor | model::kNavTrue : 0u) | (dme ? model::kHasDme : 0u);
     payload.body = { kind.type,
                      static_cast<uint8_t>(flags),
                      at.longitude,

@@ -8,6 +8,7 @@
 
 #include "model/ObjectList.h"
 #include "model/Records.h"
+#include "model/SpotBits.h"
 #include "sample/AirportModel.h"
 #include "sample/Network.h"
 #include "sample/PlanGeometry.h"
@@ -47,9 +48,10 @@ SceneryObject* MakeSpot(const AirportPlan& plan, const SpotPlan& spot) {
     SceneryObject* object = model::CreateObject(
         model::kParkingSpot, static_cast<uint32_t>(sizeof(model::ParkingSpotRecord) + model::kParkingCodeSize * count));
     const model::EncodedPoint at = Encoded(plan, spot.at);
-    const uint32_t packed = spot.name | static_cast<uint32_t>(spot.pushback) << 6 |
-                            static_cast<uint32_t>(spot.type) << 8 | static_cast<uint32_t>(spot.number & 0xFFF) << 12 |
-                            count << 24;
+    const uint32_t packed = spot.name | uint32_t{ spot.pushback } << model::kParkingPushbackShift |
+                            uint32_t{ spot.type } << model::kParkingTypeShift |
+                            (uint32_t{ spot.number } << model::kParkingNumberShift & model::kParkingNumberMask) |
+                            count << model::kParkingCountShift;
     PayloadAs<model::ParkingSpotRecord>(object) = { packed, static_cast<float>(spot.radius),
                                                     static_cast<float>(Wrapped(spot.heading)), at.longitude,
                                                     at.latitude };
@@ -61,21 +63,23 @@ SceneryObject* MakeSpot(const AirportPlan& plan, const SpotPlan& spot) {
     return object;
 }
 
-// What the designers of the simulator's own airports set in the bytes behind the link's type: lines and lights.
+constexpr uint32_t SolidEdge(model::LinkSide side) { return model::WithEdgeLine(0, side, model::EdgeLine::Solid); }
+
+// The lines and lights that the designers of the simulator's own airports set.
 uint32_t PaintBits(Paint paint) {
-    constexpr uint32_t kCentreLine = 0x01, kCentreLights = 0x02, kSolidEdges = 0x04 | 0x20, kEdgeLights = 0x10 | 0x80;
+    constexpr uint32_t kSolidEdges = SolidEdge(model::LinkSide::Left) | SolidEdge(model::LinkSide::Right);
+    constexpr uint32_t kLights = model::kLinkCentreLights | model::kLinkLeftLights | model::kLinkRightLights;
     switch (paint) {
     case Paint::None: return 0;
-    case Paint::Centre: return kCentreLine;
-    case Paint::Taxiway: return kCentreLine | kSolidEdges;
-    default: return kCentreLine | kCentreLights | kSolidEdges | kEdgeLights;
+    case Paint::Centre: return model::kLinkCentreLine;
+    case Paint::Taxiway: return model::kLinkCentreLine | kSolidEdges;
+    default: return model::kLinkCentreLine | kSolidEdges | kLights;
     }
 }
 
 uint32_t LinkFlags(model::LinkType type, Paint paint, Surface surface) {
-    constexpr uint32_t kDrawBits = 0x60;
-    const uint32_t typeByte = type == model::kApronRouteLink ? type : type | kDrawBits;
-    return typeByte | PaintBits(paint) << 16 | static_cast<uint32_t>(surface) << 24;
+    const uint32_t drawn = type == model::kApronRouteLink ? 0 : model::kLinkDrawFlags;
+    return type | drawn | PaintBits(paint) | uint32_t{ surface } << model::kLinkSurfaceShift;
 }
 
 struct LinkEnds {

@@ -50,7 +50,7 @@ uint16_t ApproachWord(const RunwayEndPlan& end) {
 
 // A PAPI or VASI 305 m from the threshold; the record measures back from the runway's centre.
 model::VasiPart Vasi(const RunwayPlan& runway, const RunwayEndPlan& end, bool right) {
-    if (end.vasi == kNoVasi || end.vasiRight != right) return {};
+    if (end.vasi == kNoSlopeLights || end.vasiRight != right) return {};
     const bool papi = end.vasi == kPapi2 || end.vasi == kPapi4;
     const double fromThreshold = std::min(305.0, runway.length / 4);
     return { end.vasi, static_cast<float>(runway.width / 2 + 15),
@@ -85,7 +85,8 @@ model::RunwayRecord RunwayBody(const AirportPlan& plan, const RunwayPlan& runway
     return body;
 }
 
-// Full width of 213 m at the threshold, between 3 and 6 degrees (ICAO Annex 10).
+// Full width of 700 ft at the threshold, which American localizers have, between 3 and 6 degrees. An ILS that the user
+// makes (dialogs/NewIls.cpp) gets the 210 m of ICAO Annex 10, but the ranges of this one.
 float LocalizerWidth(double distance) {
     constexpr double kHalfWidth = 106.68;
     const double width = 2 * std::atan(kHalfWidth / distance) * model::kDegreesPerRadian;
@@ -130,7 +131,6 @@ SceneryObject* MakeStart(const AirportPlan& plan, const RunwayPlan& runway, int 
 }
 
 SceneryObject* MakeIls(const AirportPlan& plan, const RunwayPlan& runway, int end) {
-    constexpr uint8_t kNavaidPresent = 0x01;
     const RunwayEndPlan &served = runway.ends[end], &far = runway.ends[1 - end];
     const double antenna = runway.length - served.displaced + far.blastPad + kLocalizerBehind;
     const model::EncodedPoint localizer = Encoded(plan, OnApproach(runway, end, antenna, 0));
@@ -139,7 +139,7 @@ SceneryObject* MakeIls(const AirportPlan& plan, const RunwayPlan& runway, int en
     SceneryObject* object = model::CreateObject(model::kIls, sizeof(model::IlsPayload));
     auto& ils = PayloadAs<model::IlsPayload>(object);
     ils.body = { model::kIlsType,
-                 kNavaidPresent | model::kHasGlideSlope | model::kHasDme,
+                 model::kHasVor | model::kHasGlideSlope | model::kHasDme,
                  localizer.longitude,
                  localizer.latitude,
                  altitude,

@@ -62,10 +62,7 @@ bool AddModelAirport(StockFile* file, std::string* error) {
     AppendWithoutDelete(record.bytes, &subsection->records);
     file->names.push_back(
         { model::state.country, model::state.state, model::state.city, model::AirportName(), airport.ident, position });
-    for (model::SceneryObject* ils = model::FirstOfKind(model::state.head, model::kIls); ils;
-         ils = model::NextOfKind(ils, model::kIls)) {
-        AddNavaid(file, ils);
-    }
+    model::ForEachOfKind(model::kIls, [&](model::SceneryObject* ils) { AddNavaid(file, ils); });
     return true;
 }
 

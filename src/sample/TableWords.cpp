@@ -24,7 +24,7 @@ constexpr SurfaceWord kSurfaceWords[] = {
     { "GRS", kGrass },          { "GRAS", kGrass },     { "SOD", kGrass },      { "GRAV", kGravel },
     { "GRVL", kGravel },        { "GVL", kGravel },     { "GRV", kGravel },     { "GRE", kDirt },
     { "GRADED", kDirt },        { "DIRT", kDirt },      { "EARTH", kDirt },     { "GROUND", kDirt },
-    { "TER", kDirt },           { "LAT", kDirt },       { "CLA", kClay },       { "SAND", kSand },
+    { "TER", kDirt },           { "LAT", kDirt },       { "CLA", kTurf },       { "SAND", kSand },
     { "SAN", kSand },           { "ICE", kIce },        { "SNOW", kSnow },      { "WAT", kWater },
     { "MAC", kMacadam },        { "BRI", kBrick },      { "PSP", kSteel },      { "MET", kSteel },
     { "STEEL", kSteel },        { "MATS", kSteel },     { "OIL", kOilTreated }, { "TRTD", kOilTreated },

@@ -11,7 +11,9 @@
 #include "fakes/BuildObjects.h"
 #include "fakes/FakeDialogHost.h"
 #include "fakes/FakePlatform.h"
+#include "map/LinkTemplate.h"
 #include "map/MapView.h"
+#include "map/Tools.h"
 #include "model/EditHistory.h"
 #include "model/ObjectList.h"
 
@@ -27,6 +29,8 @@ protected:
         ResetDialogFakes();
         app::settings = app::Settings{};
         map::view = {};
+        map::tools = {};
+        map::ForgetLinkTemplates();
     }
 
     static std::vector<uint8_t> Bytes(const model::SceneryObject* object) {

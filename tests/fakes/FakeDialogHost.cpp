@@ -9,8 +9,6 @@ void ResetDialogFakes() { fakeDialogs = FakeDialogHost{}; }
 
 namespace dialogs {
 
-void UseLinkTemplate(const model::TaxiLinkPayload& link) { fakeDialogs.linkTemplates.push_back(link); }
-void UseParkingType(uint32_t type) { fakeDialogs.parkingTypes.push_back(type); }
 void OpenHelpTopic(const char* topic) { fakeDialogs.helpTopics.emplace_back(topic); }
 
 }  // namespace dialogs

@@ -1,15 +1,10 @@
 // FakeDialogHost.h - the program around the dialogs as tests see it.
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <vector>
 
-#include "model/Records.h"
-
 struct FakeDialogHost {
-    std::vector<model::TaxiLinkPayload> linkTemplates;
-    std::vector<uint32_t> parkingTypes;
     std::vector<std::string> helpTopics;
 };
 

@@ -9,6 +9,7 @@
 #include "dialogs/PositionField.h"
 #include "map/NewObjects.h"
 #include "model/Ident.h"
+#include "model/SpotBits.h"
 
 namespace {
 

@@ -34,26 +34,20 @@ protected:
         PostDoubleClick(at);
         return Dialog(title);
     }
-    // "Properties" of the map's menu, which the right button opens there. Under Wine a menu that is asked for as soon
-    // as a dialog has closed now and then does not come up or takes no key; the next one does.
+    // "Properties" of the map's menu, which `ask` opens.
+    HWND OpenByMenu(const std::function<void()>& ask, const wchar_t* title) {
+        HWND dialog = nullptr;
+        const auto isOpen = [&] { return (dialog = FindVisible(program.id, L"#32770", title)) != nullptr; };
+        EXPECT_TRUE(ChooseFromMenu(ask, 'P', isOpen)) << "no dialog \"" << Utf8(title) << '"';
+        return dialog;
+    }
     HWND OpenByRightClick(POINT at, const wchar_t* title) {
-        constexpr DWORD kSoon = 4000;
-        for (int attempt = 0; attempt < 3; ++attempt) {
-            EXPECT_TRUE(BringToFront(mainWindow));
-            Settle(mainWindow);  // what was just made is painted: only then it can be hit
+        const auto ask = [&] {
             MovePointer(mainWindow, at.x, at.y);
             MouseButton(MOUSEEVENTF_RIGHTDOWN);
             MouseButton(MOUSEEVENTF_RIGHTUP);
-            if (!WaitUntil([&] { return InMenu(mainWindow); }, kSoon)) continue;
-            EXPECT_TRUE(SettlePosted(agent));  // the menu is not only announced but up
-            TapKey('P');
-            const HWND dialog = WaitForDialog(program.id, title, kSoon);
-            if (dialog) return dialog;
-            TapKey(VK_ESCAPE);
-            EXPECT_TRUE(WaitUntil([&] { return !InMenu(mainWindow); }));
-        }
-        ADD_FAILURE() << "no dialog \"" << Utf8(title) << '"';
-        return nullptr;
+        };
+        return OpenByMenu(ask, title);
     }
     void ClickMap(POINT at) {
         SendClick(mainWindow, at.x, at.y);

@@ -22,11 +22,11 @@ protected:
         Command(IDT_POINTER);
     }
     POINT Beside(int dx, int dy = 0) const { return { ground.x + dx, ground.y + dy }; }
+    // By sent messages: a late word of the display about the active window, as after a dialog, does not end the drag, and
+    // no late move of the pointer falls on the menu that comes next.
     void Drag(UINT tool, POINT from, POINT to) {
         Command(tool);
-        BringToFront(mainWindow);
-        DragPointer(mainWindow, { from, { (from.x + to.x) / 2, (from.y + to.y) / 2 }, to });
-        SettlePosted(agent);
+        SendDrag(mainWindow, { from, { (from.x + to.x) / 2, (from.y + to.y) / 2 }, to });
         Settle(mainWindow);
         Command(IDT_POINTER);
     }

@@ -70,12 +70,9 @@ protected:
     // The map's menu stands in the middle of what can be seen of it.
     HWND OpenByMapMenu(const wchar_t* title) {
         EXPECT_TRUE(HasKeys(mainWindow));
-        EXPECT_TRUE(SettlePosted(agent));
-        TapKey(VK_APPS);
-        EXPECT_TRUE(WaitUntil([&] { return InMenu(mainWindow); }));
-        EXPECT_TRUE(SettlePosted(agent));  // the menu is not only announced but up
-        TapKey('P');
-        return DialogWithKeys(title);
+        const HWND dialog = OpenByMenu([] { TapKey(VK_APPS); }, title);
+        EXPECT_TRUE(HasKeys(dialog)) << "the focus is not in " << Utf8(title);
+        return dialog;
     }
     void Leave(HWND dialog, WORD key, HWND next) {
         TapKey(key);
@@ -92,12 +89,22 @@ protected:
         }
         return false;
     }
+    // By Alt and the letter. Late words of the display about the active window may take the keys to the desktop.
+    void Reach(HWND dialog, WORD letter, int control) {
+        const HWND field = ChildWithId(dialog, control);
+        TapKey(letter, { VK_MENU });
+        EXPECT_TRUE(WaitUntil([&] {
+            if (FocusOf(agent) == field) return true;
+            if (GetForegroundWindow() != dialog && BringToFront(dialog)) TapKey(letter, { VK_MENU });
+            return false;
+        })) << "Alt+"
+            << static_cast<char>(letter) << " leads to control " << GetDlgCtrlID(FocusOf(agent));
+    }
     void Type(HWND dialog, const Typed& typed) {
         const HWND field = ChildWithId(dialog, typed.control);
         if (typed.letter) {
-            TapKey(typed.letter, { VK_MENU });
-            ASSERT_TRUE(WaitUntil([&] { return FocusOf(agent) == field; }))
-                << "Alt+" << static_cast<char>(typed.letter) << " leads to control " << GetDlgCtrlID(FocusOf(agent));
+            Reach(dialog, typed.letter, typed.control);
+            ASSERT_EQ(FocusOf(agent), field);
         } else {
             ASSERT_TRUE(TabTo(field)) << "Tab does not lead to control " << typed.control;
         }
@@ -194,16 +201,11 @@ protected:
         *latitude = text.substr(north, text.find(L'\'', north) + 1 - north);
         *longitude = text.substr(west, text.find(L'\'', west) + 1 - west);
     }
-    // By sent messages: no late move of a real pointer falls on the menu that comes next.
     void Make(const Ground& row) {
-        if (row.drawn) {
-            Command(row.tool);
-            SendDrag(mainWindow, { Beside(-kApart / 2), ground, Beside(kApart / 2) });
-            Settle(mainWindow);
-            Command(IDT_POINTER);
-        } else {
+        if (row.drawn)
+            Drag(row.tool, Beside(-kApart / 2), Beside(kApart / 2));
+        else
             Use(row.tool, ground);
-        }
         ASSERT_TRUE(CanUndo()) << "nothing was made";
     }
 };
@@ -318,11 +320,7 @@ TEST_F(KeyboardTest, EachLetterOfTheIlsDialogLeadsToItsField) {
     TapKey(VK_RETURN);
     const HWND dialog = DialogWithKeys(L"ILS Properties");
     ASSERT_NE(dialog, nullptr);
-    for (const auto& row : kLetters) {
-        TapKey(row.letter, { VK_MENU });
-        EXPECT_TRUE(WaitUntil([&] { return FocusOf(agent) == ChildWithId(dialog, row.control); }))
-            << "Alt+" << static_cast<char>(row.letter) << " leads to control " << GetDlgCtrlID(FocusOf(agent));
-    }
+    for (const auto& row : kLetters) Reach(dialog, row.letter, row.control);
     ASSERT_NO_FATAL_FAILURE(Leave(dialog, VK_ESCAPE, list));
     Leave(list, VK_ESCAPE, mainWindow);
 }

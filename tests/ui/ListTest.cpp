@@ -178,6 +178,19 @@ TEST_F(ListTest, AStockIlsCannotBeDeleted) {
     EXPECT_FALSE(CanUndo());
 }
 
+TEST_F(ListTest, APauseInTypingIsThatOfTheUserNotOfTheMachine) {
+    const HWND dialog = StartWithList(IDM_LIST_COMMS, kCommList);
+    ASSERT_NE(dialog, nullptr);
+    const int unicom = RowWith(dialog, "\tUNICOM");
+    ASSERT_GE(unicom, 0);
+    Select(dialog, unicom);
+    ASSERT_TRUE(BringToFront(dialog));
+    ASSERT_TRUE(WaitUntil([&] { return FocusOf(agent) == Rows(dialog); }));
+    TypeText(L"us", 1500);
+    EXPECT_TRUE(WaitUntil([&] { return Row(dialog, Selected(dialog)).find("\tSeattle ") != std::string::npos; }))
+        << "the second letter began no word: " << Row(dialog, Selected(dialog));
+}
+
 TEST_F(ListTest, TheKeyboardAloneIsEnough) {
     const HWND dialog = StartWithList(IDM_LIST_COMMS, kCommList);
     ASSERT_NE(dialog, nullptr);
@@ -259,8 +272,7 @@ TEST_F(ListTest, ADoubleClickOpensTheProperties) {
     const HWND list = Open(IDM_LIST_COMMS, kCommList);
     ASSERT_NE(list, nullptr);
     ASSERT_TRUE(BringToFront(list));
-    ClickPointer(Rows(list), 20, 20);
-    ClickPointer(Rows(list), 20, 20);
+    DoubleClickPointer(Rows(list), 20, 20);
     const HWND dialog = Dialog(kComm);
     ASSERT_NE(dialog, nullptr);
     EXPECT_EQ(Shown(dialog, IDC_NAV_FREQUENCY), Row(list, Selected(list)).substr(0, 7));
@@ -276,8 +288,7 @@ TEST_F(ListTest, ADoubleClickBelowTheRowsOpensNothing) {
     GetClientRect(Rows(list), &area);
     for (const int row : { -1, 0 }) {
         if (row >= 0) Select(list, row);
-        ClickPointer(Rows(list), 20, area.bottom - 5);
-        ClickPointer(Rows(list), 20, area.bottom - 5);
+        DoubleClickPointer(Rows(list), 20, area.bottom - 5);
         ASSERT_TRUE(SettlePosted(agent));
         EXPECT_TRUE(IsWindowEnabled(list)) << "no dialog or message is up over it, row " << row;
         EXPECT_EQ(FindVisible(program.id, nullptr, kComm), nullptr);

@@ -109,7 +109,9 @@ TEST_F(MapKeysTest, ARightClickOnTheMapOpensItsMenu) {
     const RECT area = MapArea(mainWindow);
     POINT at = { area.left + 100, area.top + 100 };
     ClientToScreen(mainWindow, &at);
-    PostMessageW(mainWindow, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(mainWindow), MAKELPARAM(at.x, at.y));
+    ASSERT_TRUE(OpenMenu([&] {
+        PostMessageW(mainWindow, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(mainWindow), MAKELPARAM(at.x, at.y));
+    }));
     const HWND menu = WaitForWindow(program.id, L"#32768", nullptr);
     ASSERT_NE(menu, nullptr) << "no menu";
     RECT place{};

@@ -246,6 +246,8 @@ TEST_F(NavaidDialogTest, EveryFieldOfAMarkerIsKept) {
     ASSERT_NE(dialog, nullptr);
     EXPECT_EQ(Shown(dialog, IDC_NAV_IDENT), "OM");
     EXPECT_EQ(Choice(dialog, IDC_NAV_TYPE), 2);
+    Enter(dialog, IDC_NAV_HEADING, L"400");
+    ExpectRefusal(dialog, "ERROR: The heading must be a number from 0 to 360 degrees", IDC_NAV_HEADING);
     Enter(dialog, IDC_NAV_IDENT, L"zqm");
     Choose(dialog, IDC_NAV_TYPE, 3);
     Enter(dialog, IDC_NAV_ELEVATION, L"250");

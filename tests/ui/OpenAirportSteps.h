@@ -11,6 +11,7 @@
 #include "ProgressIds.h"
 #include "Resource.h"
 #include "UiAgent.h"
+#include "UiFiles.h"
 #include "UiHarness.h"
 
 namespace ui {
@@ -133,10 +134,16 @@ protected:
     void SelectItem(HTREEITEM item) const {
         SendMessageW(places, TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(item));
     }
+    // Again when a late echo of the pointer has taken the click elsewhere.
     void ClickItem(HTREEITEM item) const {
+        constexpr int kClicks = 3;
+        constexpr DWORD kSoon = 4000;
+        const auto isSelected = [&] { return NextTreeItem(places, TVGN_CARET) == item; };
         SendMessageW(places, TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(item));
         const RECT rect = TreeItemRect(places, item);
-        ClickPointer(places, rect.left + 4, (rect.top + rect.bottom) / 2);
+        for (int i = 0; i < kClicks && (i == 0 || !WaitUntil(isSelected, kSoon)); ++i)
+            ClickPointer(places, rect.left + 4, (rect.top + rect.bottom) / 2);
+        EXPECT_TRUE(WaitUntil(isSelected));
         SettlePosted(agent);
     }
     // Found without asking the windows, whose thread is at work.
@@ -145,6 +152,28 @@ protected:
             if (ClassOf(window) == L"#32770" && GetDlgItem(window, IDC_PROGRESS_BAR)) return window;
         }
         return nullptr;
+    }
+
+    // The box over a collection that has come so far: with its text, in sight, and the activation elsewhere. False when
+    // the collection was over before all that could be read.
+    bool WatchProgressBox(int percent) const {
+        HWND box = nullptr;
+        WaitUntil([&] { return (box = ProgressBox()) || IsThere(std::wstring(kProgramFolder) + L"\\FileList"); });
+        if (!box) return false;
+        const HWND text = GetDlgItem(box, IDC_PROGRESS_TEXT), bar = GetDlgItem(box, IDC_PROGRESS_BAR);
+        WaitUntil([&] { return SendMessageW(bar, PBM_GETPOS, 0, 0) > percent || !IsWindow(box); });
+        const std::wstring said = TextOf(text);
+        const LRESULT range = SendMessageW(bar, PBM_GETRANGE, FALSE, 0);
+        const bool visible = IsWindowVisible(box), active = GetForegroundWindow() == box;
+        const HWND owner = GetWindow(box, GW_OWNER);
+        if (!IsWindow(box)) return false;
+        EXPECT_EQ(said, L"Collecting Airports...") << Utf8(said);
+        EXPECT_EQ(range, 100);
+        EXPECT_TRUE(visible);
+        EXPECT_FALSE(active);
+        EXPECT_EQ(owner, nullptr);
+        EXPECT_TRUE(WaitUntil([&] { return !IsWindow(box); }));
+        return true;
     }
 
     void ChooseFile(const std::wstring& path) {

@@ -136,8 +136,7 @@ TEST_F(ParkingListTest, ADoubleClickOnARowOpensTheProperties) {
     const HWND dialog = StartWithList(IDM_LIST_PARKING, kParkingList);
     ASSERT_NE(dialog, nullptr);
     ASSERT_TRUE(BringToFront(dialog));
-    ClickPointer(Rows(dialog), 40, 60);
-    ClickPointer(Rows(dialog), 40, 60);
+    DoubleClickPointer(Rows(dialog), 40, 60);
     const HWND properties = Dialog(kParkingProperties);
     ASSERT_NE(properties, nullptr);
     CloseDialog(properties, IDCANCEL);

@@ -88,7 +88,6 @@ inline void ClickToolButton(HWND mainWindow, int id) {
 inline Picture GrabMap(HWND mainWindow) {
     BringToFront(mainWindow);
     ParkPointer();
-    RedrawWindow(mainWindow, nullptr, nullptr, RDW_UPDATENOW);  // what is to be painted is painted now
     return GrabStable([&] { return GrabClient(mainWindow); });
 }
 

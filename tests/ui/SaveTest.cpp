@@ -147,6 +147,25 @@ TEST_F(SaveTest, AFileOfOurOwnIsSavedWithoutADialog) {
     EXPECT_EQ(CloseProgram(), 0u);
 }
 
+TEST_F(SaveTest, TheStatusBarTellsOfASaveUntilTheNextEditAndTheEndOfTheAirport) {
+    const auto isTold = [&](std::wstring_view start) {
+        return WaitUntil([&] { return StatusText(mainWindow, kNoticePart).starts_with(start); });
+    };
+    const auto isSilent = [&] {
+        return WaitUntil([&] { return StatusText(mainWindow, kNoticePart).find(L"Saved") == std::wstring::npos; });
+    };
+    StartModified();
+    PostCommand(mainWindow, IDM_SAVE);
+    EXPECT_TRUE(isTold(L"Saved TV2_own.bgl"));
+    PostCommand(mainWindow, IDM_UNDO);
+    EXPECT_TRUE(isSilent()) << Utf8(StatusText(mainWindow, kNoticePart));
+    PostCommand(mainWindow, IDM_SAVE);
+    EXPECT_TRUE(isTold(L"Saved TV2_own.bgl"));
+    PostCommand(mainWindow, IDM_CLOSE);
+    EXPECT_TRUE(isTold(L"File > Open Airport")) << Utf8(StatusText(mainWindow, kNoticePart));
+    EXPECT_EQ(CloseProgram(), 0u);
+}
+
 TEST_F(SaveTest, ExitAsksAndCancelKeepsTheAirport) {
     StartModified();
     const std::wstring title = Title();

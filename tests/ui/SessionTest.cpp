@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "app/Timers.h"
 #include "ProgramParts.h"
 #include "Resource.h"
 #include "UiAgent.h"
@@ -16,8 +17,9 @@ constexpr wchar_t kWork[] = L"C:\\UiTest\\Work";
 constexpr wchar_t kBackup[] = L"C:\\UiTest\\Tarvo\\AutoBackupTemp.bgl";
 constexpr wchar_t kSpecs[] = L"C:\\UiTest\\Tarvo\\ParkingSpecs.txt";
 constexpr wchar_t kSavedSpecs[] = L"C:\\UiTest\\ParkingSpecs.saved";
+constexpr wchar_t kDrafts[] = L"Tarvo2.new*";  // of the settings file
 constexpr wchar_t kPrompt[] = L"Do you want to save changes to the current facility ?";
-constexpr WPARAM kLinkTimer = 1, kBackupTimer = 3;
+constexpr WPARAM kLinkTimer = app::kSimLinkTimer, kBackupTimer = app::kBackupTimer;
 
 void PutBytes(const std::wstring& path, const std::string& bytes) {
     FILE* file = _wfopen(path.c_str(), L"wb");
@@ -53,6 +55,9 @@ protected:
         DeleteFileW(kBackup);
         DeleteFileW(Own().c_str());
         DeleteFileW(kSettingsFile);
+        // Drafts of programs that were killed: the program itself takes them away only when they are old.
+        for (const std::wstring& draft : FilesLike(kDrafts))
+            DeleteFileW((std::wstring(kProgramFolder) + L"\\" + draft).c_str());
     }
     void TearDown() override {
         UiTest::TearDown();
@@ -155,7 +160,7 @@ TEST_F(SessionTest, SettingsSurviveARestartByteForByteAndKeysOfOthersStay) {
     Start(L"", nullptr);
     EXPECT_EQ(CloseProgram(), 0u);
     EXPECT_EQ(BytesOf(kSettingsFile), first);
-    EXPECT_TRUE(FilesLike(L"Tarvo2.new*").empty());
+    EXPECT_TRUE(FilesLike(kDrafts).empty());
 }
 
 TEST_F(SessionTest, WhatTheUserChangedIsThereAtTheNextStart) {

@@ -70,7 +70,7 @@ public:
     int64_t Count() const { return Tell(kCountMessage, 0, 0); }
     void Fly(bool on) const { Tell(kFlyMessage, on, 0); }
     void Be(Trouble trouble, int64_t measure = 0) const {
-        ResetEvent(resume);
+        if (trouble == Trouble::Hang) ResetEvent(resume);  // it may still be waiting to go on
         Tell(kTroubleMessage, static_cast<WPARAM>(trouble), static_cast<LPARAM>(measure));
     }
     void Resume() const { SetEvent(resume); }

@@ -173,7 +173,6 @@ protected:
 
     // With the pointer at rest: it need not be parked.
     Picture Shown() {
-        RedrawWindow(mainWindow, nullptr, nullptr, RDW_UPDATENOW);
         return GrabStable([&] { return GrabClient(mainWindow); });
     }
     bool Same(const Picture& a, const Picture& b) { return SameMap(a, b, MapArea(mainWindow)); }

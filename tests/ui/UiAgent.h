@@ -28,6 +28,7 @@ enum AgentMessage : UINT {
     kAgentCatch,                   // wParam: from now on commands are caught on their way (1) or obeyed (0)
     kAgentEndTimer,                // wParam timer, lParam window -> whether it ran; it runs no more
     kAgentCaught,                  // -> the command caught last, 0 none; forgets it
+    kAgentShow,                    // lParam window: paints what is to be painted of it and brings it onto the screen
     kAgentMouse,                   // wParam count, lParam MouseMessage[]: sent one after the other, nothing between
 };
 

@@ -122,6 +122,11 @@ bool SendUninterrupted(const std::vector<MouseMessage>& messages) {
     return true;
 }
 
+bool ShowPainted(HWND window) {
+    const HWND agent = AgentWindowOf(window);
+    return agent && SendMessageW(agent, kAgentShow, 0, reinterpret_cast<LPARAM>(window)) != 0;
+}
+
 HWND FocusOf(const Agent& agent) { return reinterpret_cast<HWND>(SendMessageW(agent.window, kAgentFocus, 0, 0)); }
 
 }  // namespace ui

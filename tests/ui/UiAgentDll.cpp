@@ -108,6 +108,18 @@ LRESULT SendMouseMessages(const MouseMessage* messages, size_t count) {
     return 0;
 }
 
+// Wine paints into memory of the program's, which goes to the display when the thread looks for messages; what a closed
+// window has uncovered is told by the display at such a look. A pixel is asked for last: the display answers after it has
+// done all that it was told before.
+LRESULT Show(HWND window) {
+    MsgWaitForMultipleObjects(0, nullptr, FALSE, 0, QS_ALLINPUT);
+    RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    MsgWaitForMultipleObjects(0, nullptr, FALSE, 0, 0);
+    const HDC screen = GetDC(nullptr);
+    GetPixel(screen, 0, 0);
+    return ReleaseDC(nullptr, screen);
+}
+
 LRESULT CALLBACK AgentProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case kAgentMenuState:
@@ -127,6 +139,7 @@ LRESULT CALLBACK AgentProc(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     case kAgentCatch: catching = wParam != 0; return 0;
     case kAgentEndTimer: return KillTimer(reinterpret_cast<HWND>(lParam), wParam);
     case kAgentCaught: return TakeCaught();
+    case kAgentShow: return Show(reinterpret_cast<HWND>(lParam));
     case kAgentMouse: return SendMouseMessages(reinterpret_cast<const MouseMessage*>(lParam), wParam);
     default: return DefWindowProcW(window, message, wParam, lParam);
     }

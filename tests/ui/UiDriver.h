@@ -92,6 +92,8 @@ bool DropFile(const Agent& agent, const std::wstring& path);  // as if it were d
 HWND FocusOf(const Agent& agent);
 // From within the program that has the windows. False when no agent is there.
 bool SendUninterrupted(const std::vector<MouseMessage>& messages);
+// What is to be painted of the window is on the screen, and what the display has to say has been heard. False as above.
+bool ShowPainted(HWND window);
 // While commands are caught, the program gets none: what a menu gives can be read instead of obeyed.
 void CatchCommands(const Agent& agent, bool on);
 UINT CaughtCommand(const Agent& agent);  // the last one, which is then forgotten; 0 none

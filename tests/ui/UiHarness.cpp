@@ -8,6 +8,9 @@
 namespace ui {
 namespace {
 
+constexpr int kMenuTries = 3;
+constexpr DWORD kSoon = 10000;  // milliseconds, after which a menu is asked for again
+
 bool WriteTextFile(const wchar_t* path, const char* text) {
     FILE* file = _wfopen(path, L"wb");
     if (!file) return false;
@@ -115,6 +118,29 @@ void UiTest::CloseDialog(HWND dialog, int button) {
     PressButton(dialog, button);
     ASSERT_TRUE(WaitUntilGone(dialog)) << "the dialog stays open";
     Settle(mainWindow);
+}
+
+bool UiTest::OpenMenu(const std::function<void()>& ask) {
+    for (int attempt = 0; attempt < kMenuTries; ++attempt) {
+        EXPECT_TRUE(BringToFront(mainWindow));
+        EXPECT_TRUE(SettlePosted(agent));
+        ShowPainted(mainWindow);  // only what is painted can be hit
+        ask();
+        if (WaitUntil([&] { return InMenu(mainWindow); }, kSoon)) return SettlePosted(agent);  // not only announced
+    }
+    return false;
+}
+
+bool UiTest::ChooseFromMenu(const std::function<void()>& ask, WORD letter, const std::function<bool()>& isDone) {
+    for (int attempt = 0; attempt < kMenuTries; ++attempt) {
+        if (!OpenMenu(ask)) return false;
+        TapKey(letter);
+        if (WaitUntil(isDone, kSoon)) return true;
+        if (InMenu(mainWindow)) TapKey(VK_ESCAPE);
+        EXPECT_TRUE(WaitUntil([&] { return !InMenu(mainWindow); }));
+        if (isDone()) return true;
+    }
+    return false;
 }
 
 DWORD UiTest::CloseProgram() {

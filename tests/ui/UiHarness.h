@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 
 #include "Resource.h"
@@ -57,6 +58,12 @@ protected:
     void Answer(const Box& box, int button);  // and waits until the box is gone
     void Press(HWND dialog, int button) { PressButton(dialog, button); }
     void CloseDialog(HWND dialog, int button);  // presses and waits until it is gone
+
+    // A menu of the main window's that `ask` opens. Under Wine one that is asked for as soon as a dialog has closed now and
+    // then does not come up or takes no key; the next one does.
+    bool OpenMenu(const std::function<void()>& ask);
+    // And the entry of that letter; `isDone` looks for what it does.
+    bool ChooseFromMenu(const std::function<void()>& ask, WORD letter, const std::function<bool()>& isDone);
 
     DWORD CloseProgram();  // WM_CLOSE; exit code, or 0xFFFFFFFF when it does not end
 

@@ -123,12 +123,15 @@ void TapKey(WORD key, std::initializer_list<WORD> modifiers) {
     for (const WORD* modifier = modifiers.end(); modifier != modifiers.begin();) SendKeyInput(*--modifier, true);
 }
 
-void TypeText(const std::wstring& text) {
+void TypeText(const std::wstring& text, DWORD apart) {
+    DWORD time = apart ? GetTickCount() : 0;  // 0: when it arrives
     for (wchar_t character : text) {
         INPUT input = {};
         input.type = INPUT_KEYBOARD;
         input.ki.wScan = character;
         input.ki.dwFlags = KEYEVENTF_UNICODE;
+        input.ki.time = time;
+        time += apart;
         SendInput(1, &input, sizeof input);
         input.ki.dwFlags |= KEYEVENTF_KEYUP;
         SendInput(1, &input, sizeof input);
@@ -152,6 +155,21 @@ void MouseButton(DWORD flags, DWORD data) {
 
 void ClickPointer(HWND window, int x, int y) { DragPointer(window, { { x, y } }); }
 
+// Both presses bear the same time: however busy the machine is, no pause between them makes two clicks of it.
+void DoubleClickPointer(HWND window, int x, int y) {
+    MovePointer(window, x, y);
+    INPUT inputs[4] = {};
+    const DWORD now = GetTickCount();
+    for (int i = 0; i < 4; ++i) {
+        inputs[i].type = INPUT_MOUSE;
+        inputs[i].mi.dwFlags = i % 2 == 0 ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_LEFTUP;
+        inputs[i].mi.time = now;
+    }
+    SendInput(4, inputs, sizeof inputs[0]);
+    LetPointerEcho();
+    Settle(window);
+}
+
 void DragPointer(HWND window, std::initializer_list<POINT> points) {
     const POINT* point = points.begin();
     MovePointer(window, point->x, point->y);
@@ -165,6 +183,7 @@ void DragPointer(HWND window, std::initializer_list<POINT> points) {
 void ParkPointer() { SendPointer({ GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1 }); }
 
 Picture GrabClient(HWND window) {
+    ShowPainted(window);
     RECT rect;
     GetClientRect(window, &rect);
     HDC source = GetDC(window);
@@ -175,6 +194,7 @@ Picture GrabClient(HWND window) {
 
 // Clipped to the screen: a bitmap that reaches outside it comes out black as a whole.
 Picture GrabWindow(HWND window) {
+    ShowPainted(window);
     RECT rect, screen = { 0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN) };
     GetWindowRect(window, &rect);
     IntersectRect(&rect, &rect, &screen);

@@ -24,10 +24,11 @@ void PostKey(HWND window, WORD key);  // key down and up through the queue, so a
 // Real input. The window must be in front.
 bool BringToFront(HWND window);
 void TapKey(WORD key, std::initializer_list<WORD> modifiers = {});
-void TypeText(const std::wstring& text);
+void TypeText(const std::wstring& text, DWORD apart = 0);  // the keys say that so many milliseconds lie between them
 void MovePointer(HWND window, int x, int y);
 void MouseButton(DWORD flags, DWORD data = 0);  // MOUSEEVENTF_ flags
 void ClickPointer(HWND window, int x, int y);
+void DoubleClickPointer(HWND window, int x, int y);
 void DragPointer(HWND window, std::initializer_list<POINT> points);
 void ParkPointer();  // to the lower right corner: hover looks and tooltips would spoil a picture
 
@@ -35,6 +36,7 @@ struct Picture {
     int width = 0, height = 0;
     std::vector<uint32_t> pixels;  // 0x00RRGGBB, top row first
 };
+// Of a window that the agent's program has: as it is painted up to now.
 Picture GrabClient(HWND window);
 Picture GrabWindow(HWND window);  // with the frame, as far as it is on the screen
 // Painting goes on after a window has come up: grabs until two pictures agree.

@@ -22,8 +22,11 @@ protected:
     }
     void TearDown() override { ClearModel(); }
 
-    // Reads an airport record with these records inside it.
-    static void Read(const std::vector<ByteList>& records) { bgl::ReadAirport(AirportRecordWith(records)); }
+    // Reads an airport record with these records inside it into the empty model. Whether nothing is said to be missing.
+    static bool Read(const std::vector<ByteList>& records) {
+        ClearModel();
+        return bgl::ReadAirport(AirportRecordWith(records));
+    }
 
     static SceneryObject* Only(uint32_t kind) {
         EXPECT_EQ(CountKind(kind), 1u);
@@ -268,10 +271,25 @@ TEST_F(AirportReader, SecondAirportRecordIsPassedWhole) {
 
 TEST_F(AirportReader, SizeBelowSixEndsTheReading) {
     for (uint32_t size = 0; size < 6; ++size) {
-        ClearModel();
         Read({ Nodes(1), RecordOfSize(0x24, size, {}), Nodes(1) });
         EXPECT_EQ(CountKind(kTaxiNode), 1u) << size;
     }
+}
+
+TEST_F(AirportReader, WhatLiesBehindADamagedRecordIsSaidToBeMissing) {
+    for (uint32_t size : { 0u, 5u, 100u, 0x7FFFFFFFu }) {
+        for (int id : { 0x19, 0x1A, 0x24 }) {
+            const ByteList damaged = RecordOfSize(static_cast<uint16_t>(id), size, Zeros(14));
+            EXPECT_FALSE(Read({ damaged, Nodes(1) })) << id << " of " << size;
+        }
+    }
+    EXPECT_FALSE(Read({ Record(0x1A, Join({ U16(2), Node(0) })) })) << "the second node";
+}
+
+TEST_F(AirportReader, NothingIsMissingWhereTheBytesBehindTheLastRecordHoldNone) {
+    for (size_t padding = 0; padding < 6; ++padding) EXPECT_TRUE(Read({ Nodes(1), Zeros(padding) })) << padding;
+    EXPECT_FALSE(Read({ Nodes(1), Zeros(6) }));
+    EXPECT_TRUE(Read({ RecordOfSize(0x1A, 24, Join({ U16(1), Node(0), Zeros(2) })) })) << "padding that is not there";
 }
 
 TEST_F(AirportReader, CountIsTrustedBeyondTheRecordsOwnSize) {
@@ -347,7 +365,7 @@ protected:
 };
 
 TEST_F(DamagedAirport, CutAtEveryByteWhatWasReadStays) {
-    bgl::ReadAirport(record);
+    EXPECT_TRUE(bgl::ReadAirport(record));
     const std::vector<uint32_t> whole = KindsInOrder();
     size_t before = 0;
     for (size_t size = 0; size <= record.size(); ++size) {

@@ -115,7 +115,7 @@ constexpr NameCase kNameCases[] = {
     { 11, 20 }, { 14, 20 }, { 44, 52 }, { 45, 52 }, { 46, 52 }, { 47, 56 }, { 48, 56 }
 };
 
-TEST_F(AirportWriter, NameRecordSizes) {
+TEST_F(AirportWriter, TheNamesRecordIsItsLengthAndNineRoundedDownToWholeFours) {
     for (const NameCase& c : kNameCases) {
         const std::string name(c.length, 'n');
         SetAirportName(name);

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "fakes/LampFixture.h"
+#include "model/Names.h"
 
 namespace {
 
@@ -31,24 +32,7 @@ protected:
     model::SceneryObject* runway = nullptr;
 };
 
-enum System : uint16_t {
-    kNone,
-    kOdals,
-    kMalsf,
-    kMalsr,
-    kSsalf,
-    kSsalr,
-    kAlsf1,
-    kAlsf2,
-    kRail,
-    kCalvert,
-    kCalvert2,
-    kMals,
-    kSals,
-    kSsalsf,
-    kSsals,
-    kSsalsr,
-};
+using enum model::ApproachLights;
 
 TEST_F(ApproachLightsTest, EachSystemHasItsNumberOfLamps) {
     const struct {
@@ -60,11 +44,11 @@ TEST_F(ApproachLightsTest, EachSystemHasItsNumberOfLamps) {
                   { "CALVERT", 134, 0, 0, 0 },   { "CALVERT-2", 159, 54, 0, 0 }, { "MALS", 45, 0, 0, 0 },
                   { "SALS", 81, 21, 49, 0 },     { "SSALSF", 45, 0, 0, 3 },      { "SSALS", 45, 0, 0, 0 },
                   { "SSALSR", 45, 0, 0, 5 } };
-    static_assert(std::size(kRows) == kApproachSystems);
-    for (uint16_t code = 0; code < kApproachSystems; ++code) {
+    static_assert(std::size(kRows) == model::kApproachLightsCount);
+    for (uint16_t code = 0; code < std::size(kRows); ++code) {
         const auto& row = kRows[code];
         Show(code);
-        EXPECT_STREQ(ApproachSystemOf(code).name, row.name);
+        EXPECT_STREQ(model::ApproachLightsNames()[code], row.name);
         EXPECT_EQ(Lit(Ink::LightWhite).size(), row.white) << row.name;
         EXPECT_EQ(Lit(Ink::LightRed).size(), row.red) << row.name;
         EXPECT_EQ(Lit(Ink::LightGreen).size(), row.green) << row.name;
@@ -75,7 +59,7 @@ TEST_F(ApproachLightsTest, EachSystemHasItsNumberOfLamps) {
 TEST_F(ApproachLightsTest, AnUnknownSystemIsNone) {
     Show(31);
     EXPECT_TRUE(Lit(Ink::LightWhite).empty());
-    EXPECT_STREQ(ApproachSystemOf(16).name, "none");
+    EXPECT_EQ(&ApproachSystemOf(16), &ApproachSystemOf(0));
 }
 
 TEST_F(ApproachLightsTest, MediumBarrettesStand200FeetApartTo1400Feet) {

@@ -46,7 +46,7 @@ TEST_F(ApronToolTest, EscapeClosesTheOutlineIntoAnApron) {
     EXPECT_EQ(Copied(HeadOf(apron).triangleCount), 2);
     EXPECT_EQ(Copied(HeadOf(apron).drawFlags), 3);
     EXPECT_EQ(apron->flags, kApron | kSelected | kWholeSelected);
-    EXPECT_LT(DistanceBetween(map::ApronOutline(apron)[2], build::At({ 100, 100 })), 1.6);
+    EXPECT_LT(DistanceBetween(map::ApronCorners(apron)[2], build::At({ 100, 100 })), 1.6);
     ExpectOneAction(before);
 }
 
@@ -129,7 +129,7 @@ TEST_F(ApronToolTest, APressOnAnEdgeInsertsAVertexThere) {
     const ByteList before = File();
     InsertAt({ 30, -102 });
     ASSERT_EQ(Copied(HeadOf(apron).outlineCount), 5);
-    EXPECT_LT(DistanceBetween(map::ApronOutline(apron)[1], build::At({ 30, -100 })), 1.6);
+    EXPECT_LT(DistanceBetween(map::ApronCorners(apron)[1], build::At({ 30, -100 })), 1.6);
     EXPECT_EQ(Copied(HeadOf(apron).triangleCount), 3);
     EXPECT_TRUE(IsVertexSelected(apron, 1));
     EXPECT_FALSE(IsVertexSelected(apron, 0));
@@ -168,7 +168,7 @@ TEST_F(ApronToolTest, TheClosingEdgeIsAnEdgeToo) {
     SceneryObject* apron = SquareApron();
     InsertAt({ -100, 10 });
     ASSERT_EQ(Copied(HeadOf(apron).outlineCount), 5);
-    EXPECT_LT(DistanceBetween(map::ApronOutline(apron)[4], build::At({ -100, 10 })), 1.6);
+    EXPECT_LT(DistanceBetween(map::ApronCorners(apron)[4], build::At({ -100, 10 })), 1.6);
 }
 
 TEST_F(ApronToolTest, APressBesideTheEdgesInsertsNothing) {

@@ -15,7 +15,7 @@ EncodedPoint Encoded(double north, double east) {
     return { code.lonCode, code.latCode };
 }
 
-TEST(Cells, KnownPlaces) {
+TEST(Cells, PlacesWhoseCellIsKnownLieInIt) {
     EXPECT_EQ(CellOf({ 0x07B12FA6, 0x07908B15 }), 0x00080FF1u);
     EXPECT_EQ(CellOf({ 0x17F04052, 0x06D933A8 }), 0x00084F7Du);
     EXPECT_EQ(CellOf({ 0x2C282EB9, 0x1608ECDC }), 0x00099E01u);

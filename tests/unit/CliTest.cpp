@@ -1,3 +1,4 @@
+// CliTest.cpp - tarvo-tool as its user meets it: arguments, verbs, statuses, messages.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -134,7 +135,7 @@ TEST(Arguments, FaultsAreNamed) {
     }
 }
 
-TEST(Arguments, WholeNumbers) {
+TEST(Arguments, AWholeNumberIsDecimalOrHexadecimalAndNothingElse) {
     EXPECT_EQ(ParseWhole("0"), 0u);
     EXPECT_EQ(ParseWhole("127765632000000000"), 127765632000000000u);
     EXPECT_EQ(ParseWhole("0x1C5E6b3"), 0x1C5E6B3u);
@@ -143,7 +144,7 @@ TEST(Arguments, WholeNumbers) {
         EXPECT_EQ(ParseWhole(text), std::nullopt) << text;
 }
 
-TEST(Arguments, DecimalNumbers) {
+TEST(Arguments, ADecimalNumberIsFiniteAndNothingElse) {
     EXPECT_EQ(ParseDecimal("2.5"), 2.5);
     EXPECT_EQ(ParseDecimal("-30"), -30);
     for (const char* text : { "", "x", "1x", "inf", "nan", "1e999", "1,5" })

@@ -67,10 +67,9 @@ TEST_F(DeleteNavaids, ARunwayThatNamesNoIlsIsMatchedByLocalizerAndAirport) {
     SceneryObject* otherAirport = IlsByLocalizer(16, 2, "KBFI");
     SceneryObject* otherEnd = IlsByLocalizer(16, 1, "KSEA");
     SceneryObject* stock = Stock(IlsByLocalizer(16, 2, "KSEA"));
-    EXPECT_TRUE(IlsBelongsTo(primary, runway, RunwayEnd::Primary));
-    EXPECT_FALSE(IlsBelongsTo(primary, runway, RunwayEnd::Secondary));
-    EXPECT_TRUE(IlsBelongsTo(secondary, runway, RunwayEnd::Secondary));
-    EXPECT_FALSE(IlsBelongsTo(stock, runway, RunwayEnd::Primary));
+    EXPECT_TRUE(IlsServes(primary, runway, RunwayEnd::Primary));
+    EXPECT_FALSE(IlsServes(primary, runway, RunwayEnd::Secondary));
+    EXPECT_TRUE(IlsServes(secondary, runway, RunwayEnd::Secondary));
     EXPECT_EQ(DeleteSelected(), 3);
     EXPECT_EQ(build::List(), (Objects{ airport, otherAirport, otherEnd, stock }));
 }
@@ -78,36 +77,62 @@ TEST_F(DeleteNavaids, ARunwayThatNamesNoIlsIsMatchedByLocalizerAndAirport) {
 TEST_F(DeleteNavaids, AnAirportOfFiveCharactersIsMatchedByWhatARegionWordKeepsOfIt) {
     PayloadAs<AirportRecord>(airport).ident = PackIdent("ZZZZZ") << kIdentShift | 1;
     SceneryObject* runway = build::Runway(16, 2);
-    EXPECT_TRUE(IlsBelongsTo(IlsByLocalizer(16, 2, "ZZZZZ"), runway, RunwayEnd::Primary));
-    EXPECT_FALSE(IlsBelongsTo(IlsByLocalizer(16, 2, "ZZZZY"), runway, RunwayEnd::Primary));
+    EXPECT_TRUE(IlsServes(IlsByLocalizer(16, 2, "ZZZZZ"), runway, RunwayEnd::Primary));
+    EXPECT_FALSE(IlsServes(IlsByLocalizer(16, 2, "ZZZZY"), runway, RunwayEnd::Primary));
 }
 
 TEST_F(DeleteNavaids, ARunwayThatNamesAnotherIlsIsNotMatchedByLocalizer) {
     SceneryObject* runway = build::Runway(16);
     BodyOf(runway).primaryIls = PackIdent("IOTH");
     SceneryObject* ils = IlsByLocalizer(16, 0, "KSEA");
-    EXPECT_FALSE(IlsBelongsTo(ils, runway, RunwayEnd::Primary));
+    EXPECT_FALSE(IlsServes(ils, runway, RunwayEnd::Primary));
     BodyOf(runway).primaryIls = PackIdent("ISEA");
-    EXPECT_TRUE(IlsBelongsTo(ils, runway, RunwayEnd::Primary));
-    EXPECT_TRUE(IlsBelongsTo(Stock(ils), runway, RunwayEnd::Primary));  // by ident even a stock one does
+    EXPECT_TRUE(IlsServes(ils, runway, RunwayEnd::Primary));
+    EXPECT_TRUE(IlsServes(Stock(ils), runway, RunwayEnd::Primary));  // by ident even a stock one does
 }
 
-TEST_F(DeleteNavaids, OfTwoEndsWithTheSameNameTheIlsBelongsToTheOneThatNamesIt) {
-    SceneryObject* ils = IlsByLocalizer(16, 2, "KSEA");
-    SceneryObject* runway = build::Runway(16, 2);
-    SceneryObject* namesake = build::Runway(16, 2);
-    EXPECT_TRUE(IlsBelongsTo(ils, namesake, RunwayEnd::Primary));
-    BodyOf(runway).primaryIls = PayloadAs<IlsPayload>(ils).body.ident >> kIdentShift;
-    EXPECT_TRUE(IlsBelongsTo(ils, runway, RunwayEnd::Primary));
-    EXPECT_FALSE(IlsBelongsTo(ils, namesake, RunwayEnd::Primary));
+// Two runways 16R of 2 km, 500 m apart, and the ILS of the first.
+class NamesakesWithIls : public DeleteNavaids {
+protected:
+    void SetUp() override {
+        DeleteNavaids::SetUp();
+        namesake = build::Runway(16, 2, { 500, 0 });
+        runway = build::Runway(16, 2);
+        ils = IlsByLocalizer(16, 2, "KSEA");
+        SetPosition(ils, build::At({ 0, 1300 }));
+    }
+    SceneryObject *runway = nullptr, *namesake = nullptr, *ils = nullptr;
+};
+
+TEST_F(NamesakesWithIls, TheIlsBelongsToTheNearerUnlessOnlyOneNamesIt) {
+    EXPECT_TRUE(IlsServes(ils, runway, RunwayEnd::Primary));
+    EXPECT_FALSE(IlsServes(ils, namesake, RunwayEnd::Primary));
+    BodyOf(namesake).primaryIls = PackIdent("ISEA");
+    EXPECT_TRUE(IlsServes(ils, namesake, RunwayEnd::Primary));
+    EXPECT_FALSE(IlsServes(ils, runway, RunwayEnd::Primary));
+    BodyOf(runway).primaryIls = PackIdent("ISEA");
+    EXPECT_TRUE(IlsServes(ils, runway, RunwayEnd::Primary));
+    EXPECT_FALSE(IlsServes(ils, namesake, RunwayEnd::Primary));
+}
+
+TEST_F(NamesakesWithIls, ARunwayGoesWithoutTheIlsOfItsNamesake) {
+    for (const uint32_t named : { 0u, PackIdent("ISEA") }) {
+        BodyOf(runway).primaryIls = BodyOf(namesake).primaryIls = named;
+        Selected(namesake);
+        EXPECT_EQ(DeleteSelected(), 1);
+        EXPECT_TRUE(fake.messages.empty());
+        EXPECT_TRUE(IsListed(ils));
+        EXPECT_EQ(+BodyOf(runway).primaryIls, named);
+        Undo();
+    }
 }
 
 TEST_F(DeleteNavaids, AnIlsWithoutIdentBelongsToNoRunwayThatNamesNone) {
     SceneryObject* runway = build::Runway(16);
     SceneryObject* ils = build::Ils("");
-    EXPECT_FALSE(IlsBelongsTo(ils, runway, RunwayEnd::Primary));
+    EXPECT_FALSE(IlsServes(ils, runway, RunwayEnd::Primary));
     UnlinkObject(airport);
-    EXPECT_FALSE(IlsBelongsTo(IlsByLocalizer(16, 0, ""), runway, RunwayEnd::Primary));  // nor without an airport
+    EXPECT_FALSE(IlsServes(IlsByLocalizer(16, 0, ""), runway, RunwayEnd::Primary));  // nor without an airport
     FreeObject(airport);
 }
 
@@ -245,8 +270,8 @@ protected:
 };
 
 TEST_F(MovedReplacement, TheStockIlsGetsItsOwnEndBackWhenItGoes) {
-    for (const uint8_t bytes : { uint8_t{ 16 }, uint8_t{ 0 } }) {  // those of a stock file may name no end
-        IlsOf(stock).localizer.runwayNumber = bytes;
+    for (const int bytes : { 16, 0, 34 }) {  // those of a stock file may name no end or another one
+        IlsOf(stock).localizer.runwayNumber = static_cast<uint8_t>(bytes);
         DeleteSelected();
         EXPECT_EQ(+BodyOf(runway).primaryIls, PackIdent("IOLD"));
         EXPECT_EQ(+BodyOf(runway).secondaryIls, 0u);
@@ -260,6 +285,15 @@ TEST_F(MovedReplacement, AnEndThatAnotherIlsHasTakenKeepsThatOne) {
     BodyOf(runway).primaryIls = PackIdent("IOTH");
     DeleteSelected();
     EXPECT_EQ(+BodyOf(runway).primaryIls, PackIdent("IOTH"));
+    EXPECT_EQ(+BodyOf(runway).secondaryIls, 0u);
+}
+
+TEST_F(MovedReplacement, AnEndThatNamedNoIlsIsGivenNone) {
+    BodyOf(runway).secondaryIls = 0;
+    IlsOf(replacement).body.region = PackIdent("KSEA") << 11;
+    ASSERT_TRUE(IlsServes(replacement, runway, RunwayEnd::Secondary)) << "by its bytes alone";
+    EXPECT_EQ(DeleteSelected(), 2) << "the tie and the replacement";
+    EXPECT_EQ(+BodyOf(runway).primaryIls, 0u);
     EXPECT_EQ(+BodyOf(runway).secondaryIls, 0u);
 }
 
@@ -277,10 +311,10 @@ TEST_F(DeleteNavaids, AReplacementWithTheBytesOfTheStockFileBelongsToTheEndThatN
     SceneryObject *served = build::Runway(9), *other = Selected(build::Runway(16));
     SceneryObject *stock = Stock(IlsByLocalizer(16, 0, "KSEA")), *replacement = IlsByLocalizer(16, 0, "KSEA");
     Tie(stock, replacement);
-    EXPECT_TRUE(IlsBelongsTo(replacement, other, RunwayEnd::Primary)) << "no end names it";
+    EXPECT_TRUE(IlsServes(replacement, other, RunwayEnd::Primary)) << "no end names it";
     BodyOf(served).secondaryIls = PackIdent("ISEA");
-    EXPECT_FALSE(IlsBelongsTo(replacement, other, RunwayEnd::Primary));
-    EXPECT_TRUE(IlsBelongsTo(replacement, served, RunwayEnd::Secondary));
+    EXPECT_FALSE(IlsServes(replacement, other, RunwayEnd::Primary));
+    EXPECT_TRUE(IlsServes(replacement, served, RunwayEnd::Secondary));
     EXPECT_EQ(DeleteSelected(), 1);
     EXPECT_TRUE(fake.messages.empty());
 }

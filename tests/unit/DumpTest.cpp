@@ -201,7 +201,7 @@ TEST_F(Dump, AnIlsShowsTheSubRecordsThatItsFlagsName) {
     ExpectPart(line, "\"pitch\": 3}, \"dme\": {");
 }
 
-TEST_F(Dump, OtherNavaids) {
+TEST_F(Dump, AnNdbADmeAndAMarkerShowTheirFields) {
     SceneryObject* ndb = build::Ndb();
     PayloadAs<NdbPayload>(ndb).frequency = 350000;
     PayloadAs<NdbPayload>(ndb).ident = PackIdent("BF") << 5 | 3;

@@ -47,6 +47,15 @@ TEST_F(FilesTest, WritingReplacesTheOldFileAndLeavesNoSibling) {
     EXPECT_EQ(FileCount(), 1u);
 }
 
+TEST_F(FilesTest, WhatNothingHasWrittenToForMoreThanAMinuteIsLeftOver) {
+    constexpr uint64_t kSecond = 10000000, kNow = 1000 * kSecond;
+    EXPECT_FALSE(IsLeftOver(kNow, kNow));
+    EXPECT_FALSE(IsLeftOver(kNow - 60 * kSecond, kNow));
+    EXPECT_TRUE(IsLeftOver(kNow - 60 * kSecond - 1, kNow));
+    EXPECT_FALSE(IsLeftOver(kNow + 1, kNow)) << "by the clock of another computer";
+    EXPECT_FALSE(IsLeftOver(UINT64_MAX, kNow)) << "nor does the sum wrap";
+}
+
 TEST_F(FilesTest, WritingIntoAMissingFolderFails) {
     EXPECT_FALSE(WriteFileWhole(In(u8"no/such/a.bgl"), Bytes{ 1 }));
     EXPECT_EQ(FileCount(), 0u);

@@ -25,7 +25,6 @@ TEST(Geodesy, UnitFactorsAreThoseOfTheProgram) {
     EXPECT_EQ(kFeetPerMetre, 3.280839895);
     EXPECT_EQ(kMetresPerFoot, 0.3048);
     EXPECT_EQ(kMetresPerNauticalMile, 1852.1759);
-    EXPECT_EQ(kFeetPerNauticalMile, 6076.12);
     EXPECT_EQ(kDegreesPerRadian, 57.29577951308232);
     EXPECT_EQ(kRadiansPerDegree, 0.017453292519943295);
 }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdint>
 #include <utility>
 #include <vector>
@@ -32,6 +33,27 @@ TEST(AngleAdd, NeverReachesAFullTurn) {
 
 TEST(AngleAdd, WrapsOnlyOnce) { EXPECT_NEAR(AngleAdd(0, 5 * kTwoPi), 4 * kTwoPi, 1e-12); }
 
+TEST(WrappedHeading, LiesBelowAFullTurn) {
+    EXPECT_EQ(WrappedHeading(0), 0);
+    EXPECT_EQ(WrappedHeading(359.5), 359.5F);
+    EXPECT_EQ(WrappedHeading(360), 0);
+    EXPECT_EQ(WrappedHeading(725), 5);
+    EXPECT_EQ(WrappedHeading(-90), 270);
+    EXPECT_EQ(WrappedHeading(-1000), 80);
+}
+
+TEST(WrappedHeading, AHairBelowAFullTurnIsZero) {
+    EXPECT_EQ(WrappedHeading(360 - 1e-9), 0);
+    EXPECT_EQ(WrappedHeading(-1e-9), 0);
+    EXPECT_LT(WrappedHeading(360 - 1e-4), 360);
+    EXPECT_GT(WrappedHeading(360 - 1e-4), 359);
+}
+
+TEST(WrappedHeading, OfNoNumberIsZero) {
+    EXPECT_EQ(WrappedHeading(std::nan("")), 0);
+    EXPECT_EQ(WrappedHeading(INFINITY), 0);
+}
+
 TEST(Orientation, IsOneOnTheGreaterSideAndMinusOneElse) {
     EXPECT_EQ(Orientation(Point{ 0, 0 }, Point{ 1, 0 }, Point{ 0, 1 }), 1);
     EXPECT_EQ(Orientation(Point{ 0, 0 }, Point{ 1, 0 }, Point{ 0, -1 }), -1);
@@ -58,7 +80,7 @@ void ExpectInsideOnly(const std::vector<P>& polygon, const std::vector<P>& insid
     for (const P& p : outside) EXPECT_FALSE(PointInPolygon(p, polygon)) << p.x << ' ' << p.y;
 }
 
-TEST(PointInPolygon, SquareOfPixels) {
+TEST(PointInPolygon, OnlyWhatLiesWithinTheEdgesIsInside) {
     const std::vector<Pixel> square = { { 0, 0 }, { 10, 0 }, { 10, 10 }, { 0, 10 } };
     ExpectInsideOnly<Pixel>(square, { { 5, 5 }, { 1, 1 }, { 9, 9 } }, { { -1, 5 }, { 11, 5 }, { 5, -1 }, { 5, 11 } });
 }

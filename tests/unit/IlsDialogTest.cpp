@@ -1,6 +1,7 @@
 #include "dialogs/IlsDialog.h"
 
 #include "dialogs/ListRows.h"
+#include "dialogs/Subject.h"
 #include "fakes/IlsFixture.h"
 #include "model/DeleteRules.h"
 
@@ -124,6 +125,31 @@ TEST_F(IlsDialog, APartThatNeverHadAPlaceGetsItsUsualOne) {
     EXPECT_EQ(+Ils(ils).dme.range, 50017);
     EXPECT_EQ(+Ils(ils).dme.longitude, +Ils(ils).glideSlope.longitude);
     EXPECT_EQ(+Ils(ils).dme.latitude, +Ils(ils).glideSlope.latitude);
+}
+
+TEST_F(IlsDialog, TheUsualGlideSlopeStandsAtTheNearerOfTwoNamesakes) {
+    build::Runway(36, 1, { 5000, 0 });
+    SceneryObject* ils = build::Ils("ISNQ", { 5000, 1300 });
+    Ils(ils).localizer = { 36, 1, 0, 4 };
+    Ils(ils).body.region = model::PackIdent("KSEA") << 11;
+    Ils(ils).body.frequency = 110300000;
+    EXPECT_TRUE(Edit(ils, [&](IlsFields& entered) { SwitchGlideSlope(ils, true, &entered); }));
+    EXPECT_NEAR(At(Ils(ils).glideSlope.longitude, Ils(ils).glideSlope.latitude).east, 5120, 1);
+}
+
+TEST_F(IlsDialog, ADmeStandsAtTheGlideSlopeThatWasClickedButAtTheUsualElevation) {
+    SceneryObject* ils = build::Ils("ISNQ");
+    Ils(ils).body.frequency = 110300000;
+    Runway().primaryIls = model::PackIdent("ISNQ");
+    EXPECT_TRUE(Edit(ils, [&](IlsFields& entered) {
+        SwitchGlideSlope(ils, true, &entered);
+        entered.slopePosition = MoveToClick(ils, IlsPositionOffset(kGlideSlopeFields), build::At({ 200, -900 }));
+        SwitchDme(ils, true, &entered);
+        EXPECT_EQ(entered.dmeElevation, entered.slopeElevation);
+        EXPECT_EQ(entered.dmePosition.latitude, entered.slopePosition.latitude);
+    }));
+    EXPECT_EQ(+Ils(ils).dme.altitude, 130000);
+    EXPECT_NEAR(At(Ils(ils).dme.longitude, Ils(ils).dme.latitude).north, -900, 1);
 }
 
 TEST_F(IlsDialog, ADmeWithoutAGlideSlopeStandsAtTheLocalizer) {

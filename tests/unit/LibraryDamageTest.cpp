@@ -84,9 +84,9 @@ TEST_F(LibraryDamage, FilesForLaterSimulatorsHoldNoAirportsForUs) {
     }
 }
 
-TEST_F(LibraryDamage, AnAirportForUsCountsBesideSectionsOfALaterSimulator) {
-    constexpr size_t kTables = 96;  // behind the entries of the two sections
-    Bytes bytes = Sound();
+constexpr size_t kTables = 96;  // behind the entries of the two sections
+
+Bytes WithLaterSection(Bytes bytes) {
     bytes.insert(bytes.begin() + kTables, bgl::kSectionEntrySize, 0);
     Set(&bytes, kSectionCount, 3u);
     Set(&bytes, kTables + kTypeOf, 0x2Cu);
@@ -96,8 +96,31 @@ TEST_F(LibraryDamage, AnAirportForUsCountsBesideSectionsOfALaterSimulator) {
         std::memcpy(&moved, bytes.data() + offset, sizeof moved);
         Set(&bytes, offset, moved + static_cast<uint32_t>(bgl::kSectionEntrySize));
     }
-    EXPECT_EQ(Scan(bytes), ScanResult::AirportsFound);
+    return bytes;
+}
+
+TEST_F(LibraryDamage, AnAirportForUsCountsBesideSectionsOfALaterSimulator) {
+    EXPECT_EQ(Scan(WithLaterSection(Sound())), ScanResult::AirportsFound);
     EXPECT_EQ(library.airports.size(), 2u);
+}
+
+TEST_F(LibraryDamage, OfAFileForBothSimulatorsTheAirportsForUsAloneAreListed) {
+    constexpr size_t kRecords = kTables + 2 * 16, kRecordSize = 52;
+    Bytes bytes = Sound();
+    Set(&bytes, kRecords + kRecordSize, uint16_t{ 0x3C });  // the second airport, in the later form
+    EXPECT_EQ(Scan(bytes), ScanResult::AirportsFound);
+    EXPECT_EQ(library.airports.size(), 2u) << "files for us alone are not asked";
+    EXPECT_EQ(Scan(WithLaterSection(bytes)), ScanResult::AirportsFound);
+    ASSERT_EQ(library.airports.size(), 1u);
+    EXPECT_EQ(library.airports[0].ident, "KSEA");
+}
+
+TEST_F(LibraryDamage, OpeningFindsWhatOfAFileForBothSimulatorsIsListed) {
+    const std::string path = Utf8Path(disk.FileOf("A", "scan.bgl"));
+    EXPECT_EQ(Scan(WithLaterSection(MakeSceneryFile({ { "ABCDE", "", "", "", "" } }))), ScanResult::AirportsFound);
+    ASSERT_EQ(library.airports.size(), 1u);
+    bgl::AirportPlace place;
+    EXPECT_TRUE(bgl::FindAirportInFile(path, library.airports[0].ident, &place));
 }
 
 TEST_F(LibraryDamage, AFileCutAtAnyByteIsSurvived) {

@@ -26,6 +26,7 @@ protected:
     static uint32_t Type(SceneryObject* object) { return model::LinkTypeOf(Link(object)); }
     static SceneryObject* Designator(SceneryObject* object) { return Link(object).designator; }
     static float Width(SceneryObject* object) { return Link(object).width; }
+    static uint32_t SurfaceOfNew(uint32_t type) { return model::LinkSurface(map::LinkFromTemplate(type)); }
 
     int TypeIndex(uint32_t type) {
         const auto types = LinkTypeChoices(link);
@@ -99,7 +100,14 @@ TEST_F(LinkDialog, OkWithoutAChangeRecordsNothing) {
         EXPECT_EQ(Bytes(object), before);
     }
     EXPECT_EQ(Actions(), 0);
-    EXPECT_TRUE(fakeDialogs.linkTemplates.empty());
+}
+
+TEST_F(LinkDialog, AnUnchangedLinkIsNoPatternForNewOnes) {
+    const uint32_t usual = SurfaceOfNew(model::kTaxiwayLink);
+    Link(link).flagsWord |= 2u << 24;
+    EXPECT_TRUE(Edit(link, [](LinkFields&) {}));
+    EXPECT_NE(usual, 2u);
+    EXPECT_EQ(SurfaceOfNew(model::kTaxiwayLink), usual);
 }
 
 TEST_F(LinkDialog, RetypingTheShownWidthKeepsTheStoredOne) {
@@ -215,7 +223,15 @@ TEST_F(LinkDialog, ARunwayDesignatorMakesATaxiwayARunwayLinkOfTheRunwaysWidth) {
     EXPECT_EQ(Type(link), model::kRunwayLink);
     EXPECT_EQ(Designator(link), runway);
     EXPECT_EQ(Width(link), 46);
-    EXPECT_TRUE(fakeDialogs.linkTemplates.empty());
+}
+
+TEST_F(LinkDialog, ARunwayLinkIsNoPatternForNewOnes) {
+    EXPECT_TRUE(Edit(link, [&](LinkFields& fields) {
+        fields.designator = DesignatorIndex(runway);
+        fields.surface = 2;
+    }));
+    EXPECT_EQ(model::LinkSurface(Link(link)), 2u);
+    for (const uint32_t type : { model::kTaxiwayLink, model::kParkingLink }) EXPECT_NE(SurfaceOfNew(type), 2u);
 }
 
 TEST_F(LinkDialog, ATaxiDesignatorMakesARunwayLinkATaxiway) {
@@ -341,13 +357,13 @@ TEST_F(LinkDialog, TheDrawFlagsGoAndComeWithTheTypeApronRoute) {
 }
 
 TEST_F(LinkDialog, AnEditedLinkIsThePatternForNewOnes) {
-    EXPECT_TRUE(Edit(link, [](LinkFields& fields) { fields.surface = 4; }));
-    ASSERT_EQ(fakeDialogs.linkTemplates.size(), 1u);
-    EXPECT_EQ(model::LinkSurface(fakeDialogs.linkTemplates[0]), 4u);
+    EXPECT_TRUE(Edit(link, [](LinkFields& fields) { fields.surface = 2; }));
+    EXPECT_EQ(SurfaceOfNew(model::kTaxiwayLink), 2u);
+    EXPECT_NE(SurfaceOfNew(model::kParkingLink), 2u);
     SceneryObject* connector = build::Link(a, build::Spot(), model::kParkingLink, blank);
     EXPECT_TRUE(Edit(connector, [](LinkFields& fields) { fields.surface = 5; }));
-    ASSERT_EQ(fakeDialogs.linkTemplates.size(), 2u);
-    EXPECT_EQ(model::LinkTypeOf(fakeDialogs.linkTemplates[1]), model::kParkingLink);
+    EXPECT_EQ(SurfaceOfNew(model::kTaxiwayLink), 2u);
+    EXPECT_EQ(SurfaceOfNew(model::kParkingLink), 5u);
 }
 
 TEST_F(LinkDialog, CarriedWordsAndEndsStay) {

@@ -93,7 +93,7 @@ TEST_F(ListRowsTest, ASpotRowTellsNameTypeRadiusAndCodes) {
     EXPECT_EQ(Row(spot), "Gate A  7\tGate Small\t31.0 m\tJAL,KLM");
 }
 
-TEST_F(ListRowsTest, StartsAndFrequencies) {
+TEST_F(ListRowsTest, StartsShowTheirEndAndHeadingFrequenciesTheirTypeAndName) {
     EXPECT_EQ(Row(Start(16, 0x11, 64)), "Rwy 16L\t064.0");
     EXPECT_EQ(Row(Start(2, 0x30, 359.96F)), "Helipad 2\t360.0");
     EXPECT_EQ(Row(Comm(6, 119900000, "Seattle")), "119.900\tTower\tSeattle");

@@ -1,3 +1,5 @@
+// MarkingsTest.cpp - what is painted on taxiways, and the lamps of runways, taxiways and aprons: from which scale
+// on, where, and by night only.
 #include <gtest/gtest.h>
 
 #include <algorithm>

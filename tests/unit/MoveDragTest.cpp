@@ -145,8 +145,8 @@ TEST_F(MoveDragTest, AVertexMovesAloneAndTheSurfaceIsMadeAnew) {
     SceneryObject* apron = SquareApron();
     const ByteList before = File();
     Drag({ 100, 100 }, { 140, 160 });
-    EXPECT_LT(DistanceBetween(map::ApronOutline(apron)[2], build::At({ 140, 160 })), kNear);
-    EXPECT_LT(DistanceBetween(map::ApronOutline(apron)[1], build::At({ 100, -100 })), 0.1);
+    EXPECT_LT(DistanceBetween(map::ApronCorners(apron)[2], build::At({ 140, 160 })), kNear);
+    EXPECT_LT(DistanceBetween(map::ApronCorners(apron)[1], build::At({ 100, -100 })), 0.1);
     EXPECT_EQ(Copied(PayloadAs<ApronHead>(apron).triangleCount), 2);
     EXPECT_LT(DistanceOf(PointAt(apron, sizeof(ApronHead) + 8 * 6), { 140, 160 }), kNear);
     EXPECT_TRUE(IsSelected(apron) && IsVertexSelected(apron, 2));
@@ -158,8 +158,8 @@ TEST_F(MoveDragTest, AVertexOfAWholeSelectedApronIsDraggedAlone) {
     Paint();
     Click({ 0, 0 });
     Drag({ 100, 100 }, { 140, 160 });
-    EXPECT_LT(DistanceBetween(map::ApronOutline(apron)[0], build::At({ -100, -100 })), 0.1);
-    EXPECT_LT(DistanceBetween(map::ApronOutline(apron)[2], build::At({ 140, 160 })), kNear);
+    EXPECT_LT(DistanceBetween(map::ApronCorners(apron)[0], build::At({ -100, -100 })), 0.1);
+    EXPECT_LT(DistanceBetween(map::ApronCorners(apron)[2], build::At({ 140, 160 })), kNear);
 }
 
 TEST_F(MoveDragTest, AStripMovesByItsSegmentAndItsEndsAlone) {

@@ -33,6 +33,23 @@ TEST(Names, ParkingNamesInCodeOrderAndBlankFrom38) {
     for (const uint32_t code : { 38u, 63u, 1000u }) EXPECT_STREQ(ParkingNameText(code), "");
 }
 
+TEST(Names, CodesAreThoseOfTheirNames) {
+    EXPECT_STREQ(SurfaceName(kAsphalt), "Asphalt");
+    EXPECT_STREQ(SurfaceName(kOilTreated), "Oil Treated");
+    EXPECT_STREQ(SurfaceName(kTarmac), "Tarmac");
+    EXPECT_STREQ(ParkingTypeName(kRampGaSmall), "Ramp GA Small");
+    EXPECT_STREQ(ParkingTypeName(kGateMedium), "Gate Medium");
+    EXPECT_STREQ(ParkingTypeName(kDockGa), "Dock GA");
+    EXPECT_STREQ(ParkingNameText(kNorthwestParking), "NW Parking");
+    EXPECT_STREQ(ParkingNameText(kGateName), "Gate");
+    EXPECT_STREQ(ParkingNameText(kGateZ), "Gate Z");
+    EXPECT_STREQ(ApproachLightsNames()[kAlsf2], "ALSF-2");
+    EXPECT_STREQ(ApproachLightsNames()[kMals], "MALS");
+    EXPECT_STREQ(SlopeLightsNames()[kVasi16], "VASI 16");
+    EXPECT_STREQ(SlopeLightsNames()[kPapi4], "PAPI 4");
+    EXPECT_STREQ(SlopeLightsNames()[kTVasi], "T-VASI");
+}
+
 TEST(Names, RunwayEndsAreNumberAndSuffix) {
     EXPECT_EQ(RunwayEndName(4, 0), "4");
     EXPECT_EQ(RunwayEndName(16, 1), "16L");

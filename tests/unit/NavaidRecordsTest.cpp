@@ -47,7 +47,7 @@ protected:
     }
 };
 
-TEST_F(NavaidRecords, IlsWithEverything) {
+TEST_F(NavaidRecords, EveryPartOfAnIlsIsARecordInsideIts) {
     SceneryObject* ils = Numbered(kIls, sizeof(IlsPayload), 84);
     PayloadAs<IlsPayload>(ils).body.flags = 0x19;
     std::strcpy(PayloadAs<IlsPayload>(ils).name, "Ils 16");
@@ -57,7 +57,7 @@ TEST_F(NavaidRecords, IlsWithEverything) {
                                         Record(0x15, Slice(ils, 44, 22)), Record(0x16, Slice(ils, 66, 18)), name }))));
 }
 
-TEST_F(NavaidRecords, IlsWithoutGlideSlopeAndDme) {
+TEST_F(NavaidRecords, AnIlsWithoutGlideSlopeAndDmeHasNoRecordsOfThem) {
     SceneryObject* ils = Numbered(kIls, sizeof(IlsPayload), 84);
     PayloadAs<IlsPayload>(ils).body.flags = 0xE7;  // all others
     EXPECT_EQ(

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "fakes/ToolFixture.h"
+#include "model/SpotBits.h"
 
 namespace {
 

@@ -135,6 +135,13 @@ TEST_F(NumberField, VariationIsShownEastPositiveAndStoredWestPositiveBelow360) {
     EXPECT_EQ(ShowNumber(kVariation, 0), "0.0");
 }
 
+TEST_F(NumberField, AHeadingIsShownBelowAFullTurn) {
+    EXPECT_EQ(HeadingText(0), "0.0");
+    EXPECT_EQ(HeadingText(359.94), "359.9");
+    EXPECT_EQ(HeadingText(359.96), "0.0");
+    EXPECT_EQ(HeadingText(360), "0.0");
+}
+
 TEST_F(NumberField, ATextReadsAsZeroByTheNumberThatItBeginsWith) {
     for (const char* text : { "", " ", "x", "0", "-0.0", "+", ".", "0.0000004", "0 and more", "nan" })
         EXPECT_TRUE(ReadsAsZero(kFrequency, text)) << text;

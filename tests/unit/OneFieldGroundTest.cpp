@@ -17,7 +17,7 @@ class OneFieldGround : public OneFieldTest {};
 
 constexpr size_t kEntries = 2;  // behind the count of a list record
 
-TEST_F(OneFieldGround, Node) {
+TEST_F(OneFieldGround, ANodesFieldsChangeTheirBytesAlone) {
     using model::TaxiNodeRecord;
     constexpr RecordAt node = { "001A#0", kEntries + sizeof(TaxiNodeRecord) };
     constexpr size_t kType = offsetof(TaxiNodeRecord, type), kReversed = offsetof(TaxiNodeRecord, reversed),
@@ -40,7 +40,7 @@ TEST_F(OneFieldGround, Node) {
                              });
 }
 
-TEST_F(OneFieldGround, Link) {
+TEST_F(OneFieldGround, ALinksFieldsChangeTheirBytesAlone) {
     using model::TaxiLinkPayload;
     constexpr RecordAt link = { "001C#0", kEntries };
     constexpr size_t kFlags = offsetof(TaxiLinkPayload, flagsWord), kWidth = offsetof(TaxiLinkPayload, width);
@@ -84,7 +84,7 @@ TEST_F(OneFieldGround, Link) {
                              });
 }
 
-TEST_F(OneFieldGround, Parking) {
+TEST_F(OneFieldGround, AParkingSpotsFieldsChangeTheirBytesAlone) {
     using model::ParkingSpotRecord;
     constexpr RecordAt spot = { "001B#0", kEntries + sizeof(ParkingSpotRecord) };
     constexpr size_t kRadius = offsetof(ParkingSpotRecord, radius);
@@ -119,7 +119,7 @@ TEST_F(OneFieldGround, Parking) {
                                 });
 }
 
-TEST_F(OneFieldGround, Apron) {
+TEST_F(OneFieldGround, AnApronsFieldsChangeTheirBytesAlone) {
     using model::ApronHead;
     constexpr RecordAt outline = { "0037#1" }, surface = { "0030#1" };
     constexpr size_t kFlags = offsetof(ApronHead, drawFlags) - offsetof(ApronHead, surface);
@@ -133,7 +133,7 @@ TEST_F(OneFieldGround, Apron) {
         });
 }
 
-TEST_F(OneFieldGround, EdgeLights) {
+TEST_F(OneFieldGround, TheFieldsOfEdgeLightsChangeTheirBytesAlone) {
     using model::EdgeLightsHead;
     constexpr size_t kHead = offsetof(EdgeLightsHead, stripCount), kVertices = 4 * 8, kEdge = 8;
     constexpr RecordAt head = { "0031#0" }, first = { "0031#0", kHead + kVertices },

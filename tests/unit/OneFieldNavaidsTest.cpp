@@ -22,7 +22,7 @@ constexpr size_t kFlags = offsetof(model::VorRecord, flags), kLongitude = offset
                  kFrequency = offsetof(model::VorRecord, frequency), kRange = offsetof(model::VorRecord, range),
                  kVariation = offsetof(model::VorRecord, magneticVariation), kIdent = offsetof(model::VorRecord, ident);
 
-TEST_F(OneFieldNavaids, Marker) {
+TEST_F(OneFieldNavaids, AMarkersFieldsChangeTheirBytesAlone) {
     using model::MarkerBeaconPayload;
     constexpr RecordAt marker = { "18:0018#1" };
     ExpectFields<MarkerFields>(
@@ -47,7 +47,7 @@ TEST_F(OneFieldNavaids, Marker) {
         });
 }
 
-TEST_F(OneFieldNavaids, Ndb) {
+TEST_F(OneFieldNavaids, AnNdbsFieldsChangeTheirBytesAlone) {
     using model::NdbPayload;
     constexpr RecordAt ndb = { "17:0017#1" }, index = { "29", kIndexEntry };
     ExpectFields<NdbFields>(
@@ -72,7 +72,7 @@ TEST_F(OneFieldNavaids, Ndb) {
 }
 
 // The DME of a VOR stands where the VOR stands.
-TEST_F(OneFieldNavaids, Vor) {
+TEST_F(OneFieldNavaids, AVorsFieldsChangeTheirBytesAlone) {
     using model::DmePart;
     constexpr RecordAt vor = { "13:0013#3" }, dme = { "13:0013#3/0016#0" }, index = { "28", 3 * kIndexEntry };
     ExpectFields<VorFields>(
@@ -101,7 +101,7 @@ TEST_F(OneFieldNavaids, Vor) {
         });
 }
 
-TEST_F(OneFieldNavaids, Localizer) {
+TEST_F(OneFieldNavaids, ALocalizersFieldsChangeTheirBytesAlone) {
     using model::LocalizerPart;
     constexpr RecordAt ils = { "13:0013#1" }, localizer = { "13:0013#1/0014#0" }, index = { "28", kIndexEntry },
                        runway = { "0004#1" };
@@ -132,7 +132,7 @@ TEST_F(OneFieldNavaids, Localizer) {
         });
 }
 
-TEST_F(OneFieldNavaids, GlideSlopeAndDmeOfAnIls) {
+TEST_F(OneFieldNavaids, TheFieldsOfAGlideSlopeAndOfADmeChangeTheirBytesAlone) {
     using model::DmePart;
     using model::GlideSlopePart;
     constexpr RecordAt ils = { "13:0013#1" }, slope = { "13:0013#1/0015#0" }, dme = { "13:0013#1/0016#0" };

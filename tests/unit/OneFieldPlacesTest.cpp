@@ -19,7 +19,7 @@ class OneFieldPlaces : public OneFieldTest {};
 constexpr RecordAt airport = { "0003" };
 constexpr uint32_t kIdentBits = 0xFFFFFFE0;
 
-TEST_F(OneFieldPlaces, Airport) {
+TEST_F(OneFieldPlaces, AnAirportsFieldsChangeTheirBytesAlone) {
     using model::AirportRecord;
     constexpr size_t kFuel = offsetof(AirportRecord, fuel), kIndexEntry = 12;
     // The airport's own navaids name it, in their records and in the indices.
@@ -56,7 +56,7 @@ TEST_F(OneFieldPlaces, Airport) {
         });
 }
 
-TEST_F(OneFieldPlaces, Tower) {
+TEST_F(OneFieldPlaces, ATowersFieldsChangeTheirBytesAlone) {
     using model::AirportRecord;
     ExpectFields<TowerFields>(model::kTowerViewpoint, 0, LoadTowerFields, StoreTowerFields,
                               {
@@ -72,7 +72,7 @@ TEST_F(OneFieldPlaces, Tower) {
                               });
 }
 
-TEST_F(OneFieldPlaces, Helipad) {
+TEST_F(OneFieldPlaces, AHelipadsFieldsChangeTheirBytesAlone) {
     using model::HelipadRecord;
     constexpr RecordAt pad = { "0026#1" };
     constexpr size_t kType = offsetof(HelipadRecord, type);
@@ -98,7 +98,7 @@ TEST_F(OneFieldPlaces, Helipad) {
         });
 }
 
-TEST_F(OneFieldPlaces, Start) {
+TEST_F(OneFieldPlaces, AStartLocationsFieldsChangeTheirBytesAlone) {
     using model::StartLocationRecord;
     constexpr RecordAt start = { "0011#1" };
     constexpr size_t kNibbles = offsetof(StartLocationRecord, designatorAndType);
@@ -123,7 +123,7 @@ TEST_F(OneFieldPlaces, Start) {
         });
 }
 
-TEST_F(OneFieldPlaces, Comm) {
+TEST_F(OneFieldPlaces, AFrequencysFieldsChangeTheirBytesAlone) {
     using model::CommFrequencyRecord;
     constexpr RecordAt comm = { "0012#1" };
     ExpectFields<CommFields>(

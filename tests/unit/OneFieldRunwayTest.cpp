@@ -56,7 +56,7 @@ std::vector<Place> Belongings(bool turned) {
                           localizer(offsetof(model::LocalizerPart, heading)) });
 }
 
-TEST_F(OneFieldRunway, DataPage) {
+TEST_F(OneFieldRunway, TheFieldsOfTheDataPageChangeTheirBytesAlone) {
     const std::vector<Place> units = { vasi[0](kBiasZ), vasi[1](kBiasZ), vasi[2](kBiasZ), vasi[3](kBiasZ) };
     const std::vector<Place> latitude = { runway(kLatitude) }, heading = { runway(kHeading) };
     ExpectRunway({
@@ -99,7 +99,7 @@ TEST_F(OneFieldRunway, DataPage) {
 }
 
 // The new name goes wherever the end is named: the start location, the ILS and its name, the links along the runway.
-TEST_F(OneFieldRunway, Designators) {
+TEST_F(OneFieldRunway, TheDesignatorsOfARunwayChangeTheirBytesAlone) {
     constexpr size_t kLink = 2 + model::kTaxiLinkFileSize;
     constexpr RecordAt link = { "001C#0", kLink };
     ExpectRunway({
@@ -120,7 +120,7 @@ TEST_F(OneFieldRunway, Designators) {
     });
 }
 
-TEST_F(OneFieldRunway, LightsPage) {
+TEST_F(OneFieldRunway, TheFieldsOfTheLightsPageChangeTheirBytesAlone) {
     ExpectRunway({
         { "edge lights", [](RunwayFields& f) { f.edgeLights = 2; }, { runway(kLights, 1, 0x03) } },
         { "centre lights", [](RunwayFields& f) { f.centreLights = 3; }, { runway(kLights, 1, 0x0C) } },
@@ -157,14 +157,14 @@ std::vector<FieldRow<RunwayFields>> UnitRows(const RecordAt& unit) {
     };
 }
 
-TEST_F(OneFieldRunway, VasiPage) {
+TEST_F(OneFieldRunway, TheFieldsOfTheVasiPageChangeTheirBytesAlone) {
     ExpectRunway(UnitRows<0, false>(vasi[0]));
     ExpectRunway(UnitRows<0, true>(vasi[1]));
     ExpectRunway(UnitRows<1, false>(vasi[2]));
     ExpectRunway(UnitRows<1, true>(vasi[3]));
 }
 
-TEST_F(OneFieldRunway, MarkingsPage) {
+TEST_F(OneFieldRunway, TheFieldsOfTheMarkingsPageChangeTheirBytesAlone) {
     ExpectRunway({
         { "edge lines", [](RunwayFields& f) { f.edgeLines = true; }, { Mark(model::kEdgeLines) } },
         { "threshold", [](RunwayFields& f) { f.threshold = true; }, { Mark(model::kThresholdStripes) } },

@@ -113,6 +113,23 @@ TEST_F(OpenAirport, AnOrdinaryAirportWarnsOfNothing) {
     EXPECT_EQ(bgl::TextOf(warnings), "");
 }
 
+constexpr char kIncomplete[] =
+    "Not all of this airport could be read: its file ends too early or is damaged.\n"
+    "What is missing here will be missing in the file that you save.";
+
+bgl::SectionContent AirportOf(const std::vector<ByteList>& records) {
+    return { bgl::kAirportSection, bgl::kByCell, { { 1, 1, { AirportRecordWith(records) } } } };
+}
+
+bgl::SectionContent NdbsOf(const std::vector<ByteList>& records) {
+    return { bgl::kNdbSection, bgl::kByCell, { { 1, 2, { Join(records) } } } };
+}
+
+const ByteList& OneNode() {
+    static const ByteList record = Record(0x1A, Join({ U16(1), Zeros(12) }));
+    return record;
+}
+
 bgl::SectionContent AirportsOf(const std::vector<std::string>& idents) {
     std::vector<ByteList> records;
     for (const std::string& ident : idents) records.push_back(AirportRecordWith({}, ident));
@@ -166,10 +183,9 @@ TEST_F(OpenAirport, SeveralAirportsInAFileThatSaveWritesOverAreTold) {
 }
 
 // What opening the first airport of such a file warns of.
-std::string WarningOf(const std::string& name, std::span<const bgl::SectionContent> sections) {
+std::string WarningOf(const std::string& name, const ByteList& file) {
     const TemporaryFolder folder;
     const std::filesystem::path path = folder.path / (name + "1.bgl");
-    const ByteList file = bgl::AssembleFile(sections, 1);
     std::ofstream(path, std::ios::binary)
         .write(reinterpret_cast<const char*>(file.data()), static_cast<std::streamsize>(file.size()));
     bgl::AirportPlace place;
@@ -177,6 +193,10 @@ std::string WarningOf(const std::string& name, std::span<const bgl::SectionConte
     EXPECT_TRUE(bgl::FindAirportInFile(path.string(), "", &place));
     EXPECT_TRUE(bgl::OpenAirport(place, "", &warnings));
     return bgl::TextOf(warnings);
+}
+
+std::string WarningOf(const std::string& name, std::span<const bgl::SectionContent> sections) {
+    return WarningOf(name, bgl::AssembleFile(sections, 1));
 }
 
 TEST_F(OpenAirport, ALossAndARefusalAreToldInOneMessage) {
@@ -204,9 +224,6 @@ TEST_F(OpenAirport, SceneryThatSaveWouldLoseIsTold) {
 }
 
 TEST_F(OpenAirport, AFileThatEndsTooEarlyIsToldOf) {
-    constexpr char kIncomplete[] =
-        "Not all of this airport could be read: its file ends too early or is damaged.\n"
-        "What is missing here will be missing in the file that you save.";
     for (int i = 0; i < 50; ++i) build::Node();
     ASSERT_EQ(bgl::WriteAirportFile(path), 1);
     ASSERT_TRUE(bgl::FindAirportInFile(path, "", &place));
@@ -220,6 +237,36 @@ TEST_F(OpenAirport, AFileThatEndsTooEarlyIsToldOf) {
     warnings.doesNotFit = "ERROR: Too much.";
     EXPECT_EQ(bgl::TextOf(warnings),
               std::string(kIncomplete) + "\n\nThis airport cannot be saved as it is.\nToo much.");
+}
+
+// What was read of such a file is sound, and nothing follows the airport whose absence could be seen.
+TEST_F(OpenAirport, AFileThatEndsBetweenTwoRecordsOfItsAirportIsToldOf) {
+    const bgl::SectionContent sections[] = { AirportOf({ OneNode(), OneNode() }) };
+    ByteList file = bgl::AssembleFile(sections, 1);
+    EXPECT_EQ(WarningOf("TV2_", file), "");
+    file.resize(file.size() - OneNode().size());
+    EXPECT_EQ(WarningOf("TV2_", file), kIncomplete);
+    EXPECT_EQ(CountKind(kTaxiNode), 1u);
+}
+
+TEST_F(OpenAirport, WhatADamagedRecordHidesIsToldOf) {
+    const ByteList damagedNode = RecordOfSize(0x1A, 0x7FFFFFFF, Join({ U16(1), Zeros(12) }));
+    const bgl::SectionContent airport[] = { AirportOf({ damagedNode, OneNode() }) };
+    EXPECT_EQ(WarningOf("TV2_", airport), kIncomplete);
+    EXPECT_EQ(CountKind(kTaxiNode), 1u);
+    for (uint32_t size : { 5u, 0x7FFFFFFFu }) {
+        const ByteList damagedNdb = RecordOfSize(0x17, size, Zeros(34));
+        const bgl::SectionContent navaids[] = { AirportOf({}), NdbsOf({ damagedNdb, Record(0x17, Zeros(34)) }) };
+        EXPECT_EQ(WarningOf("TV2_", navaids), kIncomplete) << size;
+        EXPECT_LT(CountKind(kNdb), 2u);
+    }
+}
+
+TEST_F(OpenAirport, PaddingBehindTheLastRecordIsNoDamage) {
+    const ByteList ndb = Record(0x17, Zeros(34));
+    const bgl::SectionContent sections[] = { AirportOf({ OneNode(), Zeros(5) }), NdbsOf({ ndb, ndb, Zeros(5) }) };
+    EXPECT_EQ(WarningOf("TV2_", sections), "");
+    EXPECT_EQ(CountKind(kNdb), 2u);
 }
 
 TEST_F(OpenAirport, NavaidsThatAreCutOffAreToldOf) {

@@ -3,6 +3,7 @@
 #include "dialogs/ParkingCodes.h"
 #include "dialogs/ParkingDialog.h"
 #include "fakes/DialogFixture.h"
+#include "model/SpotBits.h"
 
 namespace {
 

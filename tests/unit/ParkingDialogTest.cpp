@@ -3,6 +3,7 @@
 #include "dialogs/ParkingCodes.h"
 #include "fakes/DialogFixture.h"
 #include "map/MapView.h"
+#include "model/SpotBits.h"
 
 namespace {
 
@@ -130,9 +131,9 @@ TEST_F(ParkingDialog, TheRadiusThatATypeBringsIsExactThoughItIsShownInFeet) {
 TEST_F(ParkingDialog, TheTypeChosenLastIsThatOfNewSpots) {
     SceneryObject* spot = Gate();
     EXPECT_TRUE(Edit(spot, [](ParkingFields& entered) { entered.number = "8"; }));
-    EXPECT_TRUE(fakeDialogs.parkingTypes.empty());
+    EXPECT_EQ(map::tools.lastParkingType, int{ model::kGateMedium });
     EXPECT_TRUE(Edit(spot, [](ParkingFields& entered) { entered.type = kCargoIndex; }));
-    EXPECT_EQ(fakeDialogs.parkingTypes, (std::vector<uint32_t>{ 5 }));
+    EXPECT_EQ(map::tools.lastParkingType, 5);
 }
 
 TEST_F(ParkingDialog, CodesAreUpperCasedTrimmedAndPadded) {

@@ -1,3 +1,4 @@
+// RecordingCanvasTest.cpp - the recorder with which tests look at drawing calls.
 #include "fakes/RecordingCanvas.h"
 
 #include <gtest/gtest.h>

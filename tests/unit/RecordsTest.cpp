@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "model/SceneryObject.h"
+#include "model/SpotBits.h"
 
 namespace {
 

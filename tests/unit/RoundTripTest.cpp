@@ -36,7 +36,9 @@ std::string WhatIsLost() {
     ByteList first, second;
     std::string refusal;
     if (!bgl::BuildAirportFile(kTestTime, &first, &refusal)) return "refused: " + refusal;
-    if (!bgl::OpenAirportBytes(first, "")) return "cannot be opened";
+    bool incomplete = false;
+    if (!bgl::OpenAirportBytes(first, "", &incomplete)) return "cannot be opened";
+    if (incomplete) return "is taken for damaged";
     if (!bgl::BuildAirportFile(kTestTime + 1, &second, &refusal)) return "refused again: " + refusal;
     std::copy_n(first.begin() + kTimeOffset, kTimeSize, second.begin() + kTimeOffset);
     if (first == second) return "";

@@ -241,6 +241,17 @@ TEST_F(RunwayDialog, TheSixFlagsAreBits24To29OfTheFlagsWord) {
     }
 }
 
+TEST_F(RunwayDialog, AnEmptiedLengthOrWidthIsNone) {
+    EXPECT_FALSE(Edit([](RunwayFields& entered) { entered.length = ""; }));
+    EXPECT_EQ(LastMessage(), "ERROR: You must enter the runway length (e.g. 10000 feet)\n");
+    EXPECT_EQ(bad.field, Field::Length);
+    EXPECT_FALSE(Edit([](RunwayFields& entered) { entered.width = " "; }));
+    EXPECT_EQ(LastMessage(), "ERROR: You must enter the runway width (e.g. 200 feet)\n");
+    EXPECT_EQ(bad.field, Field::Width);
+    EXPECT_FALSE(Edit([](RunwayFields& entered) { entered.ends[0].overrun = ""; }));
+    EXPECT_EQ(bad.field, Field::Overrun);
+}
+
 TEST_F(RunwayDialog, ChecksComeInTheirOrderWithTheirTexts) {
     SetPoint(runway, kPlaceholder);
     Body().length = Body().width = 0;

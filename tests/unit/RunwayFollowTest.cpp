@@ -187,6 +187,38 @@ TEST_F(RunwayWithIls, AnIlsThatNoEndNamesBelongsToTheNearerNamesake) {
     EXPECT_TRUE(BelongingsOf(namesake, 0).ils.empty());
 }
 
+TEST_F(RunwayWithIls, ARunwayShownThirtyMetresAsideIsNotItsOwnNamesake) {
+    As<model::StartLocationRecord>(other).number = 22;
+    As<model::StartLocationRecord>(other).designatorAndType = 0x12;
+    fake.answers = { Answer::Yes };
+    const RunwayFields shown = LoadRunwayFields(runway);
+    RunwayFields entered = shown;
+    entered.ends[0].number = 5;
+    entered.position = MoveToClick(runway, build::At({ 0, 30 }));
+    EXPECT_TRUE(StoreRunwayFields(shown, entered, runway, &bad));
+    EXPECT_EQ(Start().number, 5);
+    ExpectAt(PointOf(start), 0, -1420);
+    ExpectAt(PointOf(other), 0, 1480);
+}
+
+TEST_F(RunwayWithIls, IlsOfOneIdentAtNamesakesFollowTheirOwnRunways) {
+    SceneryObject *namesake = build::Runway(4, 1, { 3000, 0 }), *own = build::Ils("IABC", { 3000, 1800 });
+    As<model::RunwayPayload>(namesake).body.primaryIls = model::PackIdent("IABC");
+    As<model::IlsPayload>(own).localizer = { 4, 1, 0, 4 };
+    EXPECT_EQ(BelongingsOf(runway, 0).ils, std::vector{ ils });
+    EXPECT_EQ(BelongingsOf(namesake, 0).ils, std::vector{ own });
+    const auto beforeIls = Bytes(ils);
+    fake.answers = { Answer::Yes };
+    const RunwayFields shown = LoadRunwayFields(namesake);
+    RunwayFields entered = shown;
+    entered.ends[0].suffix = 2;
+    entered.position = ShowPoint(build::Encoded({ 3000, 500 }));
+    EXPECT_TRUE(StoreRunwayFields(shown, entered, namesake, &bad));
+    EXPECT_EQ(Bytes(ils), beforeIls);
+    EXPECT_EQ(As<model::IlsPayload>(own).localizer.runwayDesignator, 2);
+    ExpectAt(PointOf(own), 3000, 2300);
+}
+
 TEST_F(RunwayWithIls, EndsOfOneNameKeepTheirStartsApart) {
     Body().secondaryNumber = Body().primaryNumber, Body().secondaryDesignator = Body().primaryDesignator;
     SceneryObject* far = build::Placed<model::StartLocationRecord>(model::kStartLocation, { 0, 1450 });

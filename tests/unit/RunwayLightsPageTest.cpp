@@ -4,6 +4,7 @@
 #include "dialogs/Choices.h"
 #include "dialogs/RunwayDialog.h"
 #include "fakes/RunwayFixture.h"
+#include "model/Names.h"
 
 namespace {
 
@@ -83,6 +84,8 @@ TEST_F(RunwayLightsPage, EveryMarkingIsItsOwnBit) {
     }
 }
 
+std::vector<std::string> Listed(std::span<const char* const> names) { return { names.begin(), names.end() }; }
+
 TEST_F(RunwayLightsPage, ListsOfSystemsAndLevelsStandInTheOrderOfTheirCodes) {
     const std::vector<std::string> vasi = { "none",    "VASI 2",  "VASI 3", "VASI 4", "VASI 6",
                                             "VASI 12", "VASI 16", "PAPI 2", "PAPI 4", "TRCV",
@@ -91,9 +94,9 @@ TEST_F(RunwayLightsPage, ListsOfSystemsAndLevelsStandInTheOrderOfTheirCodes) {
                                                 "ALSF-1", "ALSF-2", "RAIL",  "CALVERT", "CALVERT-2", "MALS",
                                                 "SALS",   "SSALSF", "SSALS", "SSALSR" };
     const std::vector<std::string> levels = { "None", "Low", "Medium", "High" };
-    EXPECT_EQ(std::vector<std::string>(kVasiSystems.begin(), kVasiSystems.end()), vasi);
-    EXPECT_EQ(std::vector<std::string>(kApproachSystems.begin(), kApproachSystems.end()), approach);
-    EXPECT_EQ(std::vector<std::string>(kLightLevels.begin(), kLightLevels.end()), levels);
+    EXPECT_EQ(Listed(model::SlopeLightsNames()), vasi);
+    EXPECT_EQ(Listed(model::ApproachLightsNames()), approach);
+    EXPECT_EQ(Listed(kLightLevels), levels);
 }
 
 }  // namespace

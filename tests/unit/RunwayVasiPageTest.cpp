@@ -2,6 +2,7 @@
 
 #include "dialogs/RunwayDialog.h"
 #include "fakes/RunwayFixture.h"
+#include "model/Names.h"
 
 namespace {
 
@@ -13,7 +14,7 @@ TEST_F(RunwayVasiPage, AVasiIsShownByItsDistanceFromTheRunwayEnd) {
     Parts().primaryLeftVasi = { 8, 38, 1195.2F, 9, 3 };
     app::settings.metric = true;
     const VasiFields fields = LoadRunwayFields(runway).ends[0].left;
-    EXPECT_EQ(kVasiSystems[static_cast<size_t>(fields.system)], std::string("PAPI 4"));
+    EXPECT_EQ(model::SlopeLightsNames()[static_cast<size_t>(fields.system)], std::string("PAPI 4"));
     EXPECT_EQ(fields.distance, "304.8");
     EXPECT_EQ(fields.offset, "38.0");
     EXPECT_EQ(fields.spacing, "9.0");
@@ -61,6 +62,14 @@ TEST_F(RunwayVasiPage, TheFieldsOfAUnitWithoutASystemAreNeitherJudgedNorStored) 
     EXPECT_FALSE(HasVasiUnit({ 0, "1", "2", "3", "4" }));
     EXPECT_TRUE(HasVasiUnit({ 8, "0", "0", "0", "0" }));
     EXPECT_TRUE(HasVasiUnit({ -1, "0", "0", "0", "0" })) << "a system that the box cannot show";
+}
+
+TEST_F(RunwayVasiPage, TheDistanceThatIsShownOfAUnitWithoutASystemIsStoredWithOne) {
+    app::settings.metric = true;
+    Parts().primaryLeftVasi = { 0, 38, 1195.2F, 9, 3 };  // carried by the file
+    EXPECT_EQ(LoadRunwayFields(runway).ends[0].left.distance, "0.0");
+    EXPECT_TRUE(Edit([](RunwayFields& entered) { entered.ends[0].left.system = 8; }));
+    EXPECT_EQ(+Parts().primaryLeftVasi.biasZ, 1500);
 }
 
 TEST_F(RunwayVasiPage, ARefusedVasiFieldNamesItsUnit) {

@@ -116,7 +116,9 @@ TEST_F(SampleFolder, EveryAirportOfTheDataIsFoundWhereItsBlockSaysAndReadsBack) 
         bgl::AirportPlace place;
         ASSERT_TRUE(bgl::FindAirportInFile(path, row.ident, &place)) << row.ident << " in " << path;
         model::ClearModel();
-        ASSERT_TRUE(bgl::OpenAirport(place, "")) << row.ident;
+        bgl::OpenWarnings warnings;
+        ASSERT_TRUE(bgl::OpenAirport(place, "", &warnings)) << row.ident;
+        EXPECT_EQ(bgl::TextOf(warnings), "") << row.ident;
         EXPECT_EQ(model::state.icao, row.ident);
         const uint32_t runways = model::CountKind(model::kRunway), pads = model::CountKind(model::kHelipad);
         EXPECT_EQ(model::CountKind(model::kStartLocation), 2 * runways + pads) << row.ident;

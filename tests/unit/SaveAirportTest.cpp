@@ -4,7 +4,9 @@
 
 #include <filesystem>
 #include <fstream>
+#include <utility>
 
+#include "app/Airport.h"
 #include "app/AppState.h"
 #include "app/Notices.h"
 #include "app/Settings.h"
@@ -14,6 +16,7 @@
 #include "fakes/FakeShell.h"
 #include "fakes/TemporaryFolder.h"
 #include "map/Tools.h"
+#include "model/EditHistory.h"
 #include "platform/Files.h"
 
 namespace {
@@ -50,6 +53,46 @@ TEST_F(SaveAirportTest, TheStatusBarTellsWhatWasSaved) {
     app::state.savePath = In("TV2_KTST.bgl");
     EXPECT_TRUE(app::SaveAirport());
     EXPECT_EQ(app::NoticeText(), "Saved TV2_KTST.bgl");
+}
+
+TEST_F(SaveAirportTest, ItTellsSoOnlyAsLongAsTheAirportIsAsItWasSaved) {
+    const std::pair<const char*, void (*)()> changes[] = {
+        { "an edit",
+          [] {
+              model::BeginAction();
+              model::AddObject(model::CreateObject(model::kTaxiNode, sizeof(model::TaxiNodeRecord)));
+          } },
+        { "Undo", [] { model::Undo(); } },
+        { "Redo", [] { model::Redo(); } },
+        { "Close Airport", [] { app::CloseAirport(); } },
+    };
+    app::state.savePath = In("TV2_KTST.bgl");
+    for (const auto& [name, change] : changes) {
+        EXPECT_TRUE(app::SaveAirport());
+        app::DropOldRemark();
+        EXPECT_EQ(fakeShell.notice, "Saved TV2_KTST.bgl") << name;
+        change();
+        app::DropOldRemark();
+        EXPECT_EQ(fakeShell.notice, "") << name;
+    }
+}
+
+TEST_F(SaveAirportTest, AnotherRemarkIsNotTakenAwayWithTheAirport) {
+    app::state.savePath = In("TV2_KTST.bgl");
+    EXPECT_TRUE(app::SaveAirport());
+    app::SetNotice(app::Notice::Remark, "of the map");
+    app::CloseAirport();
+    app::DropOldRemark();
+    EXPECT_EQ(fakeShell.notice, "of the map");
+}
+
+TEST_F(SaveAirportTest, ASaveThatFailsLeavesNothingOfTheOneBefore) {
+    app::state.savePath = In("mine.bgl");
+    EXPECT_TRUE(app::SaveAirport());
+    fs::create_directory(folder / "taken.bgl");
+    app::state.savePath = In("taken.bgl");
+    EXPECT_FALSE(app::SaveAirport());
+    EXPECT_EQ(fakeShell.notice, "");
 }
 
 TEST_F(SaveAirportTest, AFileOfOurOwnIsRewrittenWithoutADialogInAnyMixOfCase) {

@@ -1,3 +1,4 @@
+// SelectionBoxDragTest.cpp - the selection rectangle while it is drawn: what it keeps from happening, and how it ends.
 #include <gtest/gtest.h>
 
 #include "app/Airport.h"

@@ -3,6 +3,7 @@
 
 #include "dialogs/ParkingCodes.h"
 #include "fakes/ToolCombosFixture.h"
+#include "model/SpotBits.h"
 
 namespace {
 

@@ -91,14 +91,14 @@ TEST(Triangulate, ConvexAndHollowOutlinesDrawnEitherWay) {
         Drawn({ { 0, 0 }, { 30, 0 }, { 30, 30 }, { 20, 30 }, { 20, 10 }, { 10, 10 }, { 10, 30 }, { 0, 30 } }));
 }
 
-TEST(Triangulate, CornersInLineWithTheirNeighbours) {
+TEST(Triangulate, CornersInLineWithTheirNeighboursDoNoHarm) {
     ExpectTriangulatesBothWays(Drawn({ { 0, 0 }, { 5, 0 }, { 10, 0 }, { 10, 10 }, { 0, 10 } }));
     ExpectTriangulatesBothWays(Drawn({ { 0, 0 }, { 2, 0 }, { 4, 0 }, { 6, 0 }, { 3, 6 } }));
     ExpectTriangulatesBothWays(
         Drawn({ { 5, 0 }, { 10, 0 }, { 10, 5 }, { 10, 10 }, { 5, 10 }, { 0, 10 }, { 0, 5 }, { 0, 0 } }));
 }
 
-TEST(Triangulate, ASpiral) {
+TEST(Triangulate, ASpiralIsCoveredWhicheverWayItIsDrawn) {
     ExpectTriangulatesBothWays(Drawn({ { 0, 0 },
                                        { 100, 0 },
                                        { 100, 100 },

@@ -1,10 +1,11 @@
-// RunwayAreas.cpp - see RunwayAreas.h.
-#include "map/RunwayAreas.h"
+// RunwayOutlines.cpp - see RunwayOutlines.h.
+#include "map/RunwayOutlines.h"
 
 #include <algorithm>
 
 #include "map/Painter.h"
 #include "map/RunwayShape.h"
+#include "model/ObjectList.h"
 
 namespace map {
 
@@ -30,21 +31,21 @@ Span InsideOf(const std::array<Point, 4>& area, Point from, Point to) {
 
 }  // namespace
 
-RunwayAreas CollectRunwayAreas() {
-    RunwayAreas areas;
-    ForEachOfKind(model::kRunway, [&](SceneryObject* runway) {
+RunwayOutlines CollectRunwayOutlines() {
+    RunwayOutlines areas;
+    model::ForEachOfKind(model::kRunway, [&](SceneryObject* runway) {
         if (IsDrawn(runway)) areas.push_back(ShapeOfRunway(runway).corners);
     });
     return areas;
 }
 
-bool MeetsRunway(const RunwayAreas& runways, std::span<const Point> figure) {
+bool MeetsRunway(const RunwayOutlines& runways, std::span<const Point> figure) {
     const Box box = BoundsOf(figure);
     return std::any_of(runways.begin(), runways.end(),
                        [&](const std::array<Point, 4>& area) { return Meets(BoundsOf(area), box); });
 }
 
-bool IsOnRunway(const RunwayAreas& runways, Point point) {
+bool IsOnRunway(const RunwayOutlines& runways, Point point) {
     return std::any_of(runways.begin(), runways.end(), [&](const std::array<Point, 4>& area) {
         const Point offset = point - area[0], across = area[1] - area[0], along = area[3] - area[0];
         const auto within = [&](Point side) {
@@ -55,7 +56,7 @@ bool IsOnRunway(const RunwayAreas& runways, Point point) {
     });
 }
 
-std::vector<std::pair<Point, Point>> OutsideRunways(const RunwayAreas& runways, Point from, Point to) {
+std::vector<std::pair<Point, Point>> OutsideRunways(const RunwayOutlines& runways, Point from, Point to) {
     const std::array ends = { from, to };
     const Box box = BoundsOf(ends);
     std::vector<Span> hidden;
