@@ -100,7 +100,7 @@ Next ReadName(Reading* reading, const RecordHead& head) {
     if (!TakeBody(reading, held, &body)) return Next::End;
     char* name = model::state.airportName;
     std::fill(std::copy(body.begin(), body.end(), name), name + model::kAirportNameSize, '\0');
-    return held < wanted ? Next::End : Next::Behind;
+    return wanted - held > kPadding ? Next::End : Next::Behind;
 }
 
 // A u16 count, then that many entries of one size; those that are whole are kept.

@@ -59,6 +59,9 @@ inline bool TakeRecordHead(ByteReader* reader, RecordHead* head) {
     return Take(reader, &head->id) && Take(reader, &head->size) && head->size >= kRecordHeadSize;
 }
 
+// Some writers count padding to a multiple of four in the size of a record, and leave it out behind the last.
+constexpr size_t kPadding = 3;
+
 // Bytes behind the last record in which none begins are padding.
 inline bool HoldsRecord(const ByteReader& reader) { return BytesLeft(reader) >= kRecordHeadSize; }
 
@@ -72,11 +75,11 @@ bool WalkRecords(Bytes records, Visit visit) {
         RecordHead head;
         if (!TakeRecordHead(&reader, &head)) return false;
         const size_t bodySize = head.size - kRecordHeadSize;
-        const bool isWhole = bodySize <= BytesLeft(reader);
+        const size_t held = bodySize < BytesLeft(reader) ? bodySize : BytesLeft(reader);
         Bytes body;
-        TakeBytes(&reader, isWhole ? bodySize : BytesLeft(reader), &body);
+        TakeBytes(&reader, held, &body);
         visit(head, body);
-        if (!isWhole) return false;
+        if (bodySize - held > kPadding) return false;
     }
     return true;
 }

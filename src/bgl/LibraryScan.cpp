@@ -63,6 +63,7 @@ struct NameScan {
     SceneryStructure structure;
     uint32_t file = 0;  // its number in the library
     uint64_t nameBytesLeft = kMostNameBytes;
+    bool listsSome = false;
     std::optional<Idents> held;  // names of other airports stay out; none for a file that is asked no further
 };
 
@@ -93,6 +94,7 @@ void AddAirports(Bytes subsection, NameScan* scan) {
         scan->nameBytesLeft -= size;
         const std::string ident = model::UnpackIdent(airport.ident >> model::kIdentShift);
         if (!MayBeOpened(*scan, ident)) continue;
+        scan->listsSome = true;
         AddAirport(airport.country, airport.state, airport.city, airport.name, ident, scan->file);
     }
 }
@@ -237,6 +239,7 @@ ScanResult ScanBglHeader(uint32_t file) {
     for (const SectionEntry& section : scan.structure.sections) {
         if (section.sectionClass == kNameList) found |= AddNameLists(section, &scan);
     }
+    if (scan.held) found = scan.listsSome;
     return found ? ScanResult::AirportsFound : ScanResult::NoAirports;
 }
 

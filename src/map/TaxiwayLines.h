@@ -19,8 +19,8 @@ struct CentreLines {
     std::vector<std::array<Point, 2>> straights;
 };
 
-// Of the links with the bit in their flags word. The lines turn into each other at a junction, and end at the edge of a runway unless
-// a node on the runway leads them on. `scale` is the view's, pixels per metre.
+// Of the links with the bit in their flags word. The lines turn into each other at a junction, and end at the edge of a
+// runway unless a node on the runway leads them on. `scale` is the view's, pixels per metre.
 CentreLines LayCentreLines(const TaxiNetwork& network, uint32_t bit, double scale);
 
 // The straight part of a link's edge, `inset` pixels inside the pavement, on the right or left from start to end,

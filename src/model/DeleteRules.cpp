@@ -111,19 +111,32 @@ void ForgetDesignator(const SceneryObject* designator, Deletion* deletion) {
     }
 }
 
+bool NamesAnother(const IlsEnd& end, const SceneryObject* ils) {
+    const uint32_t named = end.runway ? IlsNamedBy(end.runway, end.end) : 0;
+    return named != 0 && named != PayloadAs<IlsPayload>(ils).body.ident >> kIdentShift;
+}
+
 // The end that names the stock ILS again when its replacement goes: the one that the replacement serves. If the user has
-// chosen another end for that or moved it to one, only its place tells which end the stock ILS serves.
+// chosen another end for that or moved it to one, only its place tells which end the stock ILS serves; but where another
+// ILS is at home it was the runway that was moved.
 IlsEnd HomeOf(const SceneryObject* replacement) {
     const IlsEnd place = EndByPlace(replacement->related);
-    const bool stayed = HasStockEnd(replacement) && EndByPlace(replacement) == place;
-    return stayed ? ServedEnd(replacement) : place;
+    const bool stayed = EndByPlace(replacement) == place || NamesAnother(place, replacement);
+    return stayed && HasStockEnd(replacement) ? ServedEnd(replacement) : place;
+}
+
+// Whether an end may have to be told that the ILS goes. A replacement for which the user has chosen an end that no
+// runway has took the stock ILS from its own.
+bool ConcernsEnds(const SceneryObject* ils, const IlsEnd& served) {
+    if (served.runway) return IlsNamedBy(served.runway, served.end) != 0;
+    return ils->related && !HasStockEnd(ils);
 }
 
 // Runways no longer name an ILS that goes; where it replaced a stock one an end names that one again, unless another
 // ILS has taken it. A runway that goes with its ILS stays as it is.
 void ForgetIls(const SceneryObject* ils, const SceneryObject* leaving, Deletion* deletion) {
     const IlsEnd served = ServedEnd(ils);
-    if (!served.runway || IlsNamedBy(served.runway, served.end) == 0) return;
+    if (!ConcernsEnds(ils, served)) return;
     const IlsEnd home = ils->related ? HomeOf(ils) : IlsEnd{};
     const uint32_t heir = ils->related ? PayloadAs<IlsPayload>(ils->related).body.ident >> kIdentShift : 0;
     const auto nameWithout = [&](const IlsEnd& end) {

@@ -24,9 +24,9 @@ bool NamesThisAirport(const SceneryObject* ils) {
 }
 
 // How firmly the ILS is tied to the end; 0 not at all.
-int TieOf(const SceneryObject* ils, const IlsEnd& at) {
-    const uint32_t named = IlsNamedBy(at.runway, at.end);
-    const bool byIdent = named != 0 && named == IdentOf(ils), byName = LocalizerNames(ils, at.runway, at.end);
+int TieOf(const SceneryObject* ils, const SceneryObject* runway, RunwayEnd end) {
+    const uint32_t named = IlsNamedBy(runway, end);
+    const bool byIdent = named != 0 && named == IdentOf(ils), byName = LocalizerNames(ils, runway, end);
     if (!byIdent && (named != 0 || !byName || !NamesThisAirport(ils))) return 0;
     return (byName ? 1 : 0) + (!byIdent ? 0 : HasStockEnd(ils) ? 2 : 1);
 }
@@ -74,10 +74,11 @@ bool HasStockEnd(const SceneryObject* ils) {
 }
 
 IlsEnd ServedEnd(const SceneryObject* ils) {
-    return NearestEnd(ils, [ils](const IlsEnd& at) { return TieOf(ils, at); });
+    return NearestEnd(ils, [ils](const IlsEnd& at) { return TieOf(ils, at.runway, at.end); });
 }
 
 bool IlsServes(const SceneryObject* ils, const SceneryObject* runway, RunwayEnd end) {
+    if (TieOf(ils, runway, end) == 0) return false;  // spares most of them the search
     const IlsEnd served = ServedEnd(ils);
     return served.runway == runway && served.end == end;
 }

@@ -290,6 +290,8 @@ TEST_F(AirportReader, NothingIsMissingWhereTheBytesBehindTheLastRecordHoldNone) 
     for (size_t padding = 0; padding < 6; ++padding) EXPECT_TRUE(Read({ Nodes(1), Zeros(padding) })) << padding;
     EXPECT_FALSE(Read({ Nodes(1), Zeros(6) }));
     EXPECT_TRUE(Read({ RecordOfSize(0x1A, 24, Join({ U16(1), Node(0), Zeros(2) })) })) << "padding that is not there";
+    EXPECT_TRUE(Read({ RecordOfSize(0x19, 20, Zeros(11)) })) << "of a name";
+    EXPECT_FALSE(Read({ RecordOfSize(0x19, 20, Zeros(10)) }));
 }
 
 TEST_F(AirportReader, CountIsTrustedBeyondTheRecordsOwnSize) {

@@ -281,6 +281,22 @@ TEST_F(MovedReplacement, TheStockIlsGetsItsOwnEndBackWhenItGoes) {
     }
 }
 
+TEST_F(MovedReplacement, TheStockIlsGetsItsOwnEndBackFromAnEndThatNoRunwayHas) {
+    IlsOf(replacement).localizer.runwayNumber = 9;
+    BodyOf(runway).secondaryIls = 0;
+    DeleteSelected();
+    EXPECT_EQ(+BodyOf(runway).primaryIls, PackIdent("IOLD"));
+    EXPECT_EQ(+BodyOf(runway).secondaryIls, 0u);
+}
+
+TEST_F(MovedReplacement, TheEndKeepsItsIlsWhenTheRunwayWasMovedAwayFromIt) {
+    IlsOf(replacement).localizer.runwayNumber = 16;
+    BodyOf(runway).primaryIls = PackIdent("IOTH");  // at home where the stock ILS stands
+    DeleteSelected();
+    EXPECT_EQ(+BodyOf(runway).primaryIls, PackIdent("IOTH"));
+    EXPECT_EQ(+BodyOf(runway).secondaryIls, PackIdent("IOLD"));
+}
+
 TEST_F(MovedReplacement, AnEndThatAnotherIlsHasTakenKeepsThatOne) {
     BodyOf(runway).primaryIls = PackIdent("IOTH");
     DeleteSelected();

@@ -2,12 +2,16 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <cstring>
 
 #include "bgl/AirportIndex.h"
+#include "bgl/ByteReader.h"
 #include "bgl/LibraryScan.h"
 #include "bgl/SceneryStructure.h"
 #include "fakes/LibraryDamageFixture.h"
+#include "model/Ident.h"
+#include "model/Records.h"
 #include "platform/Files.h"
 
 namespace {
@@ -84,7 +88,8 @@ TEST_F(LibraryDamage, FilesForLaterSimulatorsHoldNoAirportsForUs) {
     }
 }
 
-constexpr size_t kTables = 96;  // behind the entries of the two sections
+constexpr size_t kTables = 96;                 // behind the entries of the two sections
+constexpr size_t kRecords = kTables + 2 * 16;  // behind their tables
 
 Bytes WithLaterSection(Bytes bytes) {
     bytes.insert(bytes.begin() + kTables, bgl::kSectionEntrySize, 0);
@@ -105,7 +110,7 @@ TEST_F(LibraryDamage, AnAirportForUsCountsBesideSectionsOfALaterSimulator) {
 }
 
 TEST_F(LibraryDamage, OfAFileForBothSimulatorsTheAirportsForUsAloneAreListed) {
-    constexpr size_t kRecords = kTables + 2 * 16, kRecordSize = 52;
+    constexpr size_t kRecordSize = 52;
     Bytes bytes = Sound();
     Set(&bytes, kRecords + kRecordSize, uint16_t{ 0x3C });  // the second airport, in the later form
     EXPECT_EQ(Scan(bytes), ScanResult::AirportsFound);
@@ -113,6 +118,14 @@ TEST_F(LibraryDamage, OfAFileForBothSimulatorsTheAirportsForUsAloneAreListed) {
     EXPECT_EQ(Scan(WithLaterSection(bytes)), ScanResult::AirportsFound);
     ASSERT_EQ(library.airports.size(), 1u);
     EXPECT_EQ(library.airports[0].ident, "KSEA");
+}
+
+TEST_F(LibraryDamage, AFileForBothSimulatorsWhoseListNamesOnlyOthersHoldsNoAirports) {
+    Bytes bytes = MakeSceneryFile({ { "KSEA", "", "", "", "" } });
+    const size_t ident = kRecords + bgl::kRecordHeadSize + offsetof(model::AirportRecord, ident);
+    Set(&bytes, ident, model::PackIdent("KXXX") << model::kIdentShift);
+    EXPECT_EQ(Scan(WithLaterSection(bytes)), ScanResult::NoAirports);
+    EXPECT_TRUE(library.airports.empty());
 }
 
 TEST_F(LibraryDamage, OpeningFindsWhatOfAFileForBothSimulatorsIsListed) {

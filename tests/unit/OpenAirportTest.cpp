@@ -269,6 +269,15 @@ TEST_F(OpenAirport, PaddingBehindTheLastRecordIsNoDamage) {
     EXPECT_EQ(CountKind(kNdb), 2u);
 }
 
+TEST_F(OpenAirport, TheLastRecordMayCountPaddingThatIsNotThere) {
+    for (const uint32_t padding : { 3u, 4u }) {
+        const ByteList ndb = Zeros(34), last = RecordOfSize(0x17, 40 + padding, ndb);
+        const bgl::SectionContent sections[] = { AirportOf({ OneNode() }), NdbsOf({ Record(0x17, ndb), last }) };
+        EXPECT_EQ(WarningOf("TV2_", sections), padding == 3 ? "" : kIncomplete);
+        EXPECT_EQ(CountKind(kNdb), 2u);
+    }
+}
+
 TEST_F(OpenAirport, NavaidsThatAreCutOffAreToldOf) {
     const bgl::SectionContent sections[] = { AirportsOf({ "KSEA" }), NdbsInNineCells() };
     const ByteList file = bgl::AssembleFile(sections, 1);
