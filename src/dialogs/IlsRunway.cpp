@@ -6,7 +6,6 @@
 #include "dialogs/NumberField.h"
 #include "dialogs/RunwayFollow.h"
 #include "dialogs/RunwayParts.h"
-#include "model/Ident.h"
 #include "model/IlsEnds.h"
 #include "model/Records.h"
 #include "platform/Platform.h"
@@ -45,8 +44,7 @@ bool CheckEndFree(const SceneryObject* ils, const SceneryObject* draft, BadField
 
 // The runway end that names the ILS follows it; another end that it now serves gets its name.
 void UpdateRunways(const SceneryObject* ils, const SceneryObject* draft, bool otherEnd, Edits* edits) {
-    const uint32_t oldIdent = model::PayloadAs<IlsPayload>(ils).body.ident >> model::kIdentShift;
-    const uint32_t newIdent = model::PayloadAs<IlsPayload>(draft).body.ident >> model::kIdentShift;
+    const uint32_t oldIdent = model::IdentOfIls(ils), newIdent = model::IdentOfIls(draft);
     if (!otherEnd && oldIdent == newIdent) return;
     const RunwayEndRef served = EndServedBy(ils), chosen = otherEnd ? EndNamedBy(draft) : RunwayEndRef{};
     if (served.runway && model::IlsNamedBy(served.runway, ModelEnd(served.end)) != 0)

@@ -14,7 +14,6 @@
 
 #include "model/EdgeLights.h"
 #include "model/EditHistory.h"
-#include "model/Ident.h"
 #include "model/IlsEnds.h"
 #include "model/Links.h"
 #include "model/ObjectList.h"
@@ -113,7 +112,7 @@ void ForgetDesignator(const SceneryObject* designator, Deletion* deletion) {
 
 bool NamesAnother(const IlsEnd& end, const SceneryObject* ils) {
     const uint32_t named = end.runway ? IlsNamedBy(end.runway, end.end) : 0;
-    return named != 0 && named != PayloadAs<IlsPayload>(ils).body.ident >> kIdentShift;
+    return named != 0 && named != IdentOfIls(ils);
 }
 
 // The end that names the stock ILS again when its replacement goes: the one that the replacement serves. If the user has
@@ -138,7 +137,7 @@ void ForgetIls(const SceneryObject* ils, const SceneryObject* leaving, Deletion*
     const IlsEnd served = ServedEnd(ils);
     if (!ConcernsEnds(ils, served)) return;
     const IlsEnd home = ils->related ? HomeOf(ils) : IlsEnd{};
-    const uint32_t heir = ils->related ? PayloadAs<IlsPayload>(ils->related).body.ident >> kIdentShift : 0;
+    const uint32_t heir = ils->related ? IdentOfIls(ils->related) : 0;
     const auto nameWithout = [&](const IlsEnd& end) {
         const uint32_t named = IlsNamedBy(end.runway, end.end);
         if (named != 0 && end != served) return named;

@@ -16,8 +16,6 @@ namespace {
 
 constexpr RunwayEnd kEnds[] = { RunwayEnd::Primary, RunwayEnd::Secondary };
 
-uint32_t IdentOf(const SceneryObject* ils) { return PayloadAs<IlsPayload>(ils).body.ident >> kIdentShift; }
-
 bool NamesThisAirport(const SceneryObject* ils) {
     return state.airport && RegionWordNamesAirport(PayloadAs<IlsPayload>(ils).body.region,
                                                    PayloadAs<AirportRecord>(state.airport).ident);
@@ -26,7 +24,7 @@ bool NamesThisAirport(const SceneryObject* ils) {
 // How firmly the ILS is tied to the end; 0 not at all.
 int TieOf(const SceneryObject* ils, const SceneryObject* runway, RunwayEnd end) {
     const uint32_t named = IlsNamedBy(runway, end);
-    const bool byIdent = named != 0 && named == IdentOf(ils), byName = LocalizerNames(ils, runway, end);
+    const bool byIdent = named != 0 && named == IdentOfIls(ils), byName = LocalizerNames(ils, runway, end);
     if (!byIdent && (named != 0 || !byName || !NamesThisAirport(ils))) return 0;
     return (byName ? 1 : 0) + (!byIdent ? 0 : HasStockEnd(ils) ? 2 : 1);
 }
@@ -59,6 +57,8 @@ bool LocalizerNames(const SceneryObject* ils, const SceneryObject* runway, Runwa
     return localizer.runwayNumber == (primary ? body.primaryNumber : body.secondaryNumber) &&
            localizer.runwayDesignator == (primary ? body.primaryDesignator : body.secondaryDesignator);
 }
+
+uint32_t IdentOfIls(const SceneryObject* ils) { return PayloadAs<IlsPayload>(ils).body.ident >> kIdentShift; }
 
 uint32_t IlsNamedBy(const SceneryObject* runway, RunwayEnd end) {
     const RunwayRecord& body = PayloadAs<RunwayPayload>(runway).body;

@@ -21,6 +21,8 @@ struct IlsEnd {
 // Whether the localizer's bytes for its runway end are the number and the designator of that end.
 bool LocalizerNames(const SceneryObject* ils, const SceneryObject* runway, RunwayEnd end);
 
+uint32_t IdentOfIls(const SceneryObject* ils);  // packed, as runways name it
+
 // The packed ident of the ILS that the runway names for the end; 0 for none.
 uint32_t IlsNamedBy(const SceneryObject* runway, RunwayEnd end);
 
